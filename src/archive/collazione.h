@@ -1,0 +1,20 @@
+// How text is compared: without regard to case, heeding accents, in the order of genuine archives.
+#pragma once
+
+#include <string_view>
+
+struct sqlite3;
+
+namespace torvi {
+
+// Less than, equal to or greater than 0. Both UTF-8. Primary weights of the letters first, then
+// accents, then the characters that only break ties (hyphen, apostrophe...). A fixed table: indexes
+// on disk depend on it.
+[[nodiscard]] int ConfrontaItaliano(std::string_view a, std::string_view b);
+// `*` any text, `?` one character, `#` one digit, [a-z] [!a-z] a set; without regard to case.
+[[nodiscard]] bool SomigliaA(std::string_view testo, std::string_view modello);
+
+// The collation ITALIANO and the functions of the dialect (somiglia, right...) on one connection.
+void RegistraFunzioni(sqlite3* motore);
+
+}  // namespace torvi

@@ -1,0 +1,70 @@
+// The one way to the operator for routines without widgets. The desktop program shows boxes and
+// forms; torvi writes to standard error and answers from its options; tests answer from a script
+// and record every word.
+#pragma once
+
+#include <QString>
+
+namespace torvi {
+
+enum class Pulsanti { Ok, OkAnnulla, SiNo, SiNoAnnulla };
+enum class Risposta { Ok, Annulla, Si, No };
+enum class Icona { Nessuna, Informazione };
+
+struct RichiestaFile {
+  QString titolo;
+  QString filtro;            // "Database file (*.mdb)|*.mdb"
+  QString estensione;        // appended to a name without one
+  QString cartella;          // where the dialog starts
+  bool deveEsistere = false; // only files that are there can be chosen
+  bool chiedeSeCreare = false;  // asks before a name that is not there is accepted
+};
+
+class Dialoghi {
+ public:
+  Dialoghi() = default;
+  Dialoghi(const Dialoghi&) = delete;
+  Dialoghi& operator=(const Dialoghi&) = delete;
+  virtual ~Dialoghi() = default;
+
+  // An empty title stands for the application's own, "TorviEditor".
+  virtual void Messaggio(const QString& testo, const QString& titolo = {},
+                         Icona icona = Icona::Nessuna) = 0;
+  [[nodiscard]] virtual Risposta Domanda(const QString& testo, const QString& titolo,
+                                         Pulsanti pulsanti) = 0;
+  // The text typed; empty when the operator cancels.
+  [[nodiscard]] virtual QString Immissione(const QString& testo, const QString& titolo) = 0;
+  // The chosen path. Cancelled: error 32755.
+  [[nodiscard]] virtual QString ScegliFile(const RichiestaFile& richiesta) = 0;
+
+  // Subordinate forms that a plain routine opens. What they give back is what the form leaves in
+  // its variable of StatoGlobale: the fields of a new delivery joined by '|', an output file.
+  [[nodiscard]] virtual QString ChiediInformazione() = 0;
+  [[nodiscard]] virtual QString ScegliFileUscita(const QString& cartella, const QString& modello,
+                                                 bool conNuovo) = 0;
+  virtual void MostraErrori(const QString& testo) = 0;
+
+  // Hourglass or arrow.
+  virtual void Attesa(bool attiva) = 0;
+  // How far a long run has come; `totale` 0 where it is not known. Ends with Attesa(false).
+  virtual void Avanzamento(const QString& cosa, int fatto, int totale) = 0;
+};
+
+// The hourglass for as long as a routine runs, however it ends.
+class Clessidra {
+ public:
+  explicit Clessidra(Dialoghi& dialoghi) : dialoghi_(dialoghi) { dialoghi_.Attesa(true); }
+  Clessidra(const Clessidra&) = delete;
+  Clessidra& operator=(const Clessidra&) = delete;
+  ~Clessidra() { Togli(); }
+  void Togli() {
+    if (attiva_) dialoghi_.Attesa(false);
+    attiva_ = false;
+  }
+
+ private:
+  Dialoghi& dialoghi_;
+  bool attiva_ = true;
+};
+
+}  // namespace torvi

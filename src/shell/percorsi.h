@@ -1,0 +1,19 @@
+// Files of the application folder. Names on disk are looked up without regard to case.
+#pragma once
+
+#include <QString>
+
+namespace torvi {
+
+// The file or folder of that path as it is spelled on disk: each part that is not there as written is
+// sought ignoring case. What is not there at all keeps the spelling it was given.
+[[nodiscard]] QString TrovaPercorso(const QString& percorso);
+// Below the application folder, looked up as above.
+[[nodiscard]] QString FileArchivio(const QString& cartellaApplicazione, const QString& nome);  // mdb/
+[[nodiscard]] QString FileUscita(const QString& cartellaApplicazione, const QString& nome);    // dump/
+// Makes mdb/ and dump/ where they are missing. Error 75 names the folder that cannot be made.
+void PreparaCartelle(const QString& cartellaApplicazione);
+// Only the file's name, never its folders.
+[[nodiscard]] QString NomeMaiuscolo(const QString& percorso);
+
+}  // namespace torvi

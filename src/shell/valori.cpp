@@ -1,0 +1,49 @@
+#include "shell/valori.h"
+
+#include <QStringList>
+
+namespace torvi {
+namespace {
+
+const QStringList& Mesi() {
+  static const QStringList mesi = {
+      QStringLiteral("gennaio"), QStringLiteral("febbraio"),  QStringLiteral("marzo"),
+      QStringLiteral("aprile"),  QStringLiteral("maggio"),    QStringLiteral("giugno"),
+      QStringLiteral("luglio"),  QStringLiteral("agosto"),    QStringLiteral("settembre"),
+      QStringLiteral("ottobre"), QStringLiteral("novembre"),  QStringLiteral("dicembre")};
+  return mesi;
+}
+
+}  // namespace
+
+double Val(QStringView testo) {
+  QString numero;
+  bool punto = false;
+  for (const QChar c : testo) {
+    if (c.isSpace()) continue;
+    const bool segno = numero.isEmpty() && (c == u'-' || c == u'+');
+    const bool separatore = c == u'.' && !punto;
+    if (!segno && !separatore && !(c >= u'0' && c <= u'9')) break;
+    punto = punto || separatore;
+    numero += c;
+  }
+  return numero.toDouble();
+}
+
+QString RiempiZeri(const QString& testo, int larghezza) {
+  return testo.rightJustified(larghezza, QLatin1Char('0'));
+}
+
+QString NomeMese(QString& mese) {
+  if (mese.startsWith(QLatin1Char('0'))) mese.remove(0, 1);
+  for (int numero = 1; numero <= Mesi().size(); ++numero) {
+    if (mese == QString::number(numero)) return Mesi().at(numero - 1);
+  }
+  return {};
+}
+
+QString NumeroMese(const QString& nome) {
+  return QString::number(Mesi().indexOf(nome) + 1);
+}
+
+}  // namespace torvi
