@@ -1,0 +1,75 @@
+#include "shell/consegna.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "archive/errore.h"
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+struct Marcatore {
+  const char16_t* codice;
+  const char* colonna;
+};
+
+constexpr std::array kMarcatori = {
+    Marcatore{u"1", "Storico"},
+    Marcatore{u"2", "CELEX"},
+    Marcatore{u"3", "StampaCompleta"},
+    Marcatore{u"4", "StampaSoloTesto"},
+    Marcatore{u"5", "StampaConsistenze"},
+    Marcatore{u"6", "StampaProspetto"},
+    Marcatore{u"7", "VisualizzaErroriGenerici"},
+    Marcatore{u"8", "VisualizzaErroriClasse"},
+    Marcatore{u"9", "VisualizzaErroriFonti"},
+};
+
+// Halves go to the even number, and what no 16-bit counter can hold must not wrap on the way.
+qint16 NumeroIniziale(const QString& testo) {
+  constexpr double kOltre = 100000;
+  return Intero16(static_cast<qint64>(std::nearbyint(std::clamp(Val(testo), -kOltre, kOltre))));
+}
+
+Recordset ApriInfo(const StatoGlobale& stato) {
+  Recordset info = stato.DbArchivio.OpenRecordset(QStringLiteral("TabInfo"));
+  if (info.Eof()) {
+    throw ErroreEsecuzione(Errore::NessunRecordCorrente,
+                           QStringLiteral("TabInfo è vuota in ") + stato.DbArchivio.Name());
+  }
+  return info;
+}
+
+}  // namespace
+
+void LeggiInfoConsegna(StatoGlobale& stato) {
+  Recordset info = ApriInfo(stato);
+  stato.PrefissoDoc =
+      info.Fields("AnnoProduzione").Testo() + info.Fields("IDCentroSpoglio").Testo();
+  stato.ContatoreDoc = NumeroIniziale(info.Fields("NumInizio").Testo());
+  stato.SiglaConsegna = info.Fields("Consegna").Testo();
+  info.MoveNext();
+  if (!info.Eof()) {
+    throw ErroreEsecuzione::ConDescrizione(
+        Errore::OggettoNonTrovato,
+        QStringLiteral("TabInfo ha più di una riga: non si sa di quale consegna sia l'archivio ") +
+            stato.DbArchivio.Name());
+  }
+}
+
+QString NumeroDoc(const StatoGlobale& stato) {
+  return RiempiZeri(QString::number(stato.ContatoreDoc), 4);
+}
+
+void RegistraUsoFunzione(const StatoGlobale& stato, const QString& codice) {
+  Recordset info = ApriInfo(stato);
+  info.Edit();
+  for (const Marcatore& marcatore : kMarcatori) {
+    if (codice == QStringView(marcatore.codice)) info.Assegna(marcatore.colonna, "1");
+  }
+  info.Update();
+}
+
+}  // namespace torvi

@@ -1,0 +1,88 @@
+// Dialogs that answer from a script. Every question must be the next one of the script, to the
+// character; a question out of place or an answer left over fails the test. What is only shown is
+// recorded in order, questions included.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <deque>
+#include <functional>
+
+#include "shell/dialoghi.h"
+
+namespace torvi {
+
+// One thing the operator was shown or asked.
+struct Parola {
+  enum class Genere { Messaggio, Domanda, Immissione, File, Informazione, FileUscita, Errori };
+  Genere genere = Genere::Messaggio;
+  QString testo;
+  QString titolo;
+  Pulsanti pulsanti = Pulsanti::Ok;
+  Icona icona = Icona::Nessuna;
+};
+
+class DialoghiScritti : public Dialoghi {
+ public:
+  DialoghiScritti() = default;
+  DialoghiScritti(const DialoghiScritti&) = delete;
+  DialoghiScritti& operator=(const DialoghiScritti&) = delete;
+  ~DialoghiScritti() override;
+
+  // The script, in the order of the questions.
+  void AttendeDomanda(const QString& testo, const QString& titolo, Pulsanti pulsanti,
+                      Risposta risposta);
+  void AttendeImmissione(const QString& testo, const QString& titolo, const QString& risposta);
+  void AttendeFile(const QString& titolo, const QString& percorso);
+  void AttendeFileAnnullato(const QString& titolo);
+  void AttendeInformazione(const QString& risposta);
+  // `prima` runs before the answer, as a form changes variables while it is shown.
+  void AttendeFileUscita(const QString& risposta, std::function<void()> prima = {});
+
+  // What was shown or asked so far.
+  [[nodiscard]] const QList<Parola>& Parole() const { return parole_; }
+  // The texts of the messages alone.
+  [[nodiscard]] QStringList Messaggi() const;
+  // The text of the last message, empty if there was none.
+  [[nodiscard]] QString UltimoMessaggio() const;
+  // What the error window was last given.
+  [[nodiscard]] const QString& Errori() const { return errori_; }
+  [[nodiscard]] const RichiestaFile& UltimaRichiesta() const { return richiesta_; }
+  // Folder, pattern and "nuovo" (or "") of the last chooser of an output file.
+  [[nodiscard]] const QStringList& UltimaUscita() const { return uscita_; }
+  [[nodiscard]] bool InAttesa() const { return attese_ > 0; }
+  [[nodiscard]] int Avanzamenti() const { return avanzamenti_; }
+
+  void Messaggio(const QString& testo, const QString& titolo, Icona icona) override;
+  [[nodiscard]] Risposta Domanda(const QString& testo, const QString& titolo,
+                                 Pulsanti pulsanti) override;
+  [[nodiscard]] QString Immissione(const QString& testo, const QString& titolo) override;
+  [[nodiscard]] QString ScegliFile(const RichiestaFile& richiesta) override;
+  [[nodiscard]] QString ChiediInformazione() override;
+  [[nodiscard]] QString ScegliFileUscita(const QString& cartella, const QString& modello,
+                                         bool conNuovo) override;
+  void MostraErrori(const QString& testo) override;
+  void Attesa(bool attiva) override;
+  void Avanzamento(const QString& cosa, int fatto, int totale) override;
+
+ private:
+  struct Battuta {
+    Parola parola;
+    Risposta risposta = Risposta::Ok;
+    QString testo;
+    bool annullata = false;
+    std::function<void()> prima;
+  };
+  Battuta Prossima(const Parola& parola);
+
+  std::deque<Battuta> copione_;
+  QList<Parola> parole_;
+  RichiestaFile richiesta_;
+  QStringList uscita_;
+  QString errori_;
+  int attese_ = 0;
+  int avanzamenti_ = 0;
+};
+
+}  // namespace torvi
