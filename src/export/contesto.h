@@ -1,0 +1,24 @@
+// What the field writers of one export run share.
+#pragma once
+
+#include <QString>
+
+#include "export/file_testo.h"
+#include "export/record.h"
+#include "shell/stato_globale.h"
+
+namespace torvi {
+
+class CatalogoNorme;
+
+struct ContestoEsportazione {
+  StatoGlobale& stato;
+  Record& record;
+  FileTesto& fileErrori;
+  FileTesto& fileErrClasse;
+  FileTesto& fileErrFonte;
+  CatalogoNorme& catalogo;
+  QString CodiciClasse = {};  // classification of the current document
+};
+
+}  // namespace torvi

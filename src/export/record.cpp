@@ -1,0 +1,69 @@
+#include "export/record.h"
+
+#include <limits>
+
+#include "archive/errore.h"
+#include "export/codepagina.h"
+#include "export/file_testo.h"
+
+namespace torvi {
+namespace {
+
+constexpr qsizetype kMassimoCampo = 1000;
+constexpr qsizetype kMassimoRiga = 245;
+
+// Cuts the text before `resto` as far as its first `massimo` characters allow, behind a blank.
+QStringView TogliPezzo(QStringView& resto, qsizetype massimo) {
+  const qsizetype spazio = resto.first(massimo).lastIndexOf(QLatin1Char(' '));
+  if (spazio < 0) throw ErroreEsecuzione(Errore::ChiamataNonValida);
+  const QStringView pezzo = resto.first(spazio + 1);
+  resto = resto.sliced(spazio + 1);
+  return pezzo;
+}
+
+void AggiungiRigheCampo(QByteArray& byte, const Record::Riga& riga) {
+  const QByteArray tag = riga.tag.toLatin1();
+  QStringView resto = riga.contenuto;
+  while (resto.size() > kMassimoRiga) {
+    byte += tag;
+    byte += ConvertiOem(TogliPezzo(resto, kMassimoRiga));
+    byte += "\t\r\n";
+  }
+  byte += tag;
+  byte += ConvertiOem(resto);
+  byte += "\r\n";
+}
+
+}  // namespace
+
+void Record::AggiungiRiga(const QString& tag, const QString& contenuto) {
+  if (NumRighe() == std::numeric_limits<qint16>::max()) throw ErroreEsecuzione(Errore::Overflow);
+  righe_.push_back({tag, contenuto});
+}
+
+void Record::SpezzaRiga(QStringView testo, const QString& tag) {
+  while (testo.size() > kMassimoCampo) {
+    AggiungiRiga(tag, TogliPezzo(testo, kMassimoCampo).toString());
+  }
+  AggiungiRiga(tag, testo.toString());
+}
+
+void Record::AggiungiTesto(const QString& tag, const QString& testo) {
+  if (testo.size() > kMassimoCampo) {
+    SpezzaRiga(testo, tag);
+  } else {
+    AggiungiRiga(tag, testo);
+  }
+}
+
+void Record::ScriviRecord(FileTesto& uscita) const {
+  QByteArray byte;
+  byte += righe_.at(0).contenuto.toLatin1();
+  byte += "\r\n";
+  byte += QByteArray::number(NumRighe());
+  byte += "\r\n";
+  for (const Riga& riga : righe_) AggiungiRigheCampo(byte, riga);
+  uscita.ScriviBlocco(byte);
+}
+
+}  // namespace torvi
