@@ -4,15 +4,16 @@
 #include <QFile>
 #include <QString>
 #include <optional>
+#include <vector>
 
 namespace torvi {
 
 enum class Apertura { Lettura, Scrittura, Aggiunta };
 
 // Opens at once and closes by itself. File not there (reading): error 53; folder not there: 76; no
-// permission, or a folder in its place: 75. The name is looked up without regard to case. Writing
-// fails with 61 on a full disk and 57 on any other fault, and then takes back what it could not
-// write whole: a file always ends with a whole block.
+// name, no permission, or a folder in its place: 75. The name is looked up without regard to case.
+// Writing fails with 61 on a full disk and 57 on any other fault, and then takes back what it could
+// not write whole: a file always ends with a whole block.
 class FileTesto {
  public:
   FileTesto(const QString& percorso, Apertura apertura);
@@ -32,8 +33,14 @@ class FileTesto {
 
  private:
   void Svuota();
+  void RiduciAiBlocchiInteri(qsizetype scritti);
+  [[nodiscard]] bool Leggi();
+
   QFile file_;
-  QByteArray pendenti_;
+  qint64 inizio_ = 0;               // where in the file the pending bytes belong
+  QByteArray pendenti_;             // not yet written, or read and not yet given
+  std::vector<qsizetype> blocchi_;  // ends of the pending blocks
+  qsizetype letti_ = 0;             // pending bytes already given as lines
 };
 
 }  // namespace torvi

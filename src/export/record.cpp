@@ -58,7 +58,7 @@ void Record::AggiungiTesto(const QString& tag, const QString& testo) {
 
 void Record::ScriviRecord(FileTesto& uscita) const {
   QByteArray byte;
-  byte += righe_.at(0).contenuto.toLatin1();
+  byte += ConvertiAnsi(righe_.at(0).contenuto);
   byte += "\r\n";
   byte += QByteArray::number(NumRighe());
   byte += "\r\n";

@@ -1,0 +1,92 @@
+#include "export/codepagina.h"
+
+#include <array>
+
+#include "export/codepagina_tavole.h"
+
+namespace torvi {
+namespace {
+
+constexpr char kMancante = '?';
+constexpr char16_t kFineAscii = 0x80;
+
+static_assert(kCp850.size() == 128);
+static_assert(kCp1252.size() == 32);
+
+// A byte for every UTF-16 unit, so that lengths counted on the text hold in the file: a character
+// outside the basic plane gives two.
+class Tavola {
+ public:
+  Tavola() {
+    byte_.fill(kMancante);
+    for (char16_t c = 0; c < kFineAscii; ++c) Metti(c, static_cast<char>(c));
+  }
+  void Metti(char16_t carattere, char byte) { byte_.at(carattere) = byte; }
+  void MettiDa(std::u16string_view caratteri) {
+    char16_t byte = kFineAscii;
+    for (const char16_t c : caratteri) Metti(c, static_cast<char>(byte++));
+  }
+  [[nodiscard]] char Byte(char16_t carattere) const { return byte_[carattere]; }
+  [[nodiscard]] bool Manca(char16_t carattere) const { return byte_[carattere] == kMancante; }
+  [[nodiscard]] QByteArray Converti(QStringView testo) const {
+    QByteArray risultato(testo.size(), Qt::Uninitialized);
+    char* byte = risultato.data();
+    for (const QChar c : testo) *byte++ = byte_[c.unicode()];
+    return risultato;
+  }
+
+ private:
+  std::array<char, 0x10000> byte_{};
+};
+
+void TogliAccenti(Tavola& tavola, char16_t primo, char16_t ultimo) {
+  for (char16_t c = primo; c <= ultimo; ++c) {
+    if (!tavola.Manca(c)) continue;
+    // A letter with two accents decomposes into one with one accent first.
+    QChar base(c);
+    while (base.decompositionTag() == QChar::Canonical && tavola.Manca(base.unicode())) {
+      base = base.decomposition().at(0);
+    }
+    tavola.Metti(c, tavola.Byte(base.unicode()));
+  }
+}
+
+Tavola TavolaOem() {
+  Tavola tavola;
+  tavola.MettiDa(kCp850);
+  for (const auto& [carattere, byte] : kVicini) tavola.Metti(carattere, byte);
+  TogliAccenti(tavola, 0x0100, 0x024F);
+  TogliAccenti(tavola, 0x1E00, 0x1EFF);
+  return tavola;
+}
+
+Tavola TavolaAnsi() {
+  Tavola tavola;
+  tavola.MettiDa(kCp1252);
+  for (char16_t c = 0xA0; c <= 0xFF; ++c) tavola.Metti(c, static_cast<char>(c));
+  return tavola;
+}
+
+}  // namespace
+
+QByteArray ConvertiOem(QStringView testo) {
+  static const Tavola tavola = TavolaOem();
+  return tavola.Converti(testo);
+}
+
+QByteArray ConvertiAnsi(QStringView testo) {
+  static const Tavola tavola = TavolaAnsi();
+  return tavola.Converti(testo);
+}
+
+QString DaAnsi(QByteArrayView byte) {
+  QString testo = QString::fromLatin1(byte);
+  for (QChar& c : testo) {
+    if (c.unicode() >= kFineAscii && c.unicode() < kFineAscii + kCp1252.size()) {
+      c = kCp1252[c.unicode() - kFineAscii];
+    }
+  }
+  return testo;
+}
+
+}  // namespace torvi

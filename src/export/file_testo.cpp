@@ -1,0 +1,141 @@
+#include "export/file_testo.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "archive/errore.h"
+#include "export/codepagina.h"
+#include "shell/percorsi.h"
+
+namespace torvi {
+namespace {
+
+constexpr qsizetype kMassimoPendenti = 64 * 1024;
+constexpr qint64 kLettura = 64 * 1024;
+
+QIODevice::OpenMode Modo(Apertura apertura) {
+  switch (apertura) {
+    case Apertura::Lettura:
+      return QIODevice::ReadOnly;
+    case Apertura::Scrittura:
+      return QIODevice::WriteOnly | QIODevice::Truncate;
+    case Apertura::Aggiunta:
+      return QIODevice::WriteOnly | QIODevice::Append;
+  }
+  return QIODevice::NotOpen;
+}
+
+Errore ErroreApertura(const QString& percorso, Apertura apertura) {
+  const QFileInfo file(percorso);
+  if (percorso.isEmpty() || file.exists()) return Errore::ErroreAccessoFile;
+  if (!file.absoluteDir().exists()) return Errore::PercorsoNonTrovato;
+  return apertura == Apertura::Lettura ? Errore::FileNonTrovato : Errore::ErroreAccessoFile;
+}
+
+// Where the first line in `byte` ends and where the next begins; nothing if its end is not there.
+struct FineRiga {
+  qsizetype fine;
+  qsizetype seguente;
+};
+std::optional<FineRiga> TrovaFine(QByteArrayView byte, bool completo) {
+  for (qsizetype i = 0; i < byte.size(); ++i) {
+    if (byte[i] == '\n') return FineRiga{i, i + 1};
+    if (byte[i] != '\r') continue;
+    if (i + 1 == byte.size() && !completo) return std::nullopt;
+    const bool conLf = i + 1 < byte.size() && byte[i + 1] == '\n';
+    return FineRiga{i, conLf ? i + 2 : i + 1};
+  }
+  if (completo && !byte.isEmpty()) return FineRiga{byte.size(), byte.size()};
+  return std::nullopt;
+}
+
+}  // namespace
+
+FileTesto::FileTesto(const QString& percorso, Apertura apertura) : file_(TrovaPercorso(percorso)) {
+  // Unbuffered: what a write could not take must be known here, block by block.
+  if (percorso.isEmpty() || !file_.open(Modo(apertura) | QIODevice::Unbuffered)) {
+    throw ErroreEsecuzione(ErroreApertura(file_.fileName(), apertura), percorso);
+  }
+  if (apertura == Apertura::Aggiunta) inizio_ = file_.size();
+}
+
+FileTesto::~FileTesto() {
+  try {
+    Close();
+  } catch (const ErroreEsecuzione&) {
+    // A file that nobody closed belongs to a run that has already failed.
+  }
+}
+
+void FileTesto::Print(QStringView riga) {
+  QByteArray byte = ConvertiAnsi(riga);
+  byte += "\r\n";
+  ScriviBlocco(byte);
+}
+
+void FileTesto::ScriviBlocco(const QByteArray& byte) {
+  pendenti_ += byte;
+  blocchi_.push_back(pendenti_.size());
+  if (pendenti_.size() >= kMassimoPendenti) Svuota();
+}
+
+void FileTesto::Svuota() {
+  qsizetype scritti = 0;
+  while (scritti < pendenti_.size()) {
+    const qint64 ora = file_.write(pendenti_.constData() + scritti, pendenti_.size() - scritti);
+    if (ora > 0) {
+      scritti += ora;
+      continue;
+    }
+    const bool pieno = file_.error() == QFileDevice::ResourceError;
+    RiduciAiBlocchiInteri(scritti);
+    throw ErroreEsecuzione(pieno ? Errore::DiscoPieno : Errore::ErroreDispositivo, Percorso());
+  }
+  inizio_ += scritti;
+  pendenti_.clear();
+  blocchi_.clear();
+}
+
+void FileTesto::RiduciAiBlocchiInteri(qsizetype scritti) {
+  const auto primoRotto = std::upper_bound(blocchi_.begin(), blocchi_.end(), scritti);
+  if (primoRotto != blocchi_.begin()) inizio_ += *std::prev(primoRotto);
+  file_.resize(inizio_);
+  pendenti_.clear();
+  blocchi_.clear();
+}
+
+std::optional<QString> FileTesto::LineInput() {
+  while (true) {
+    const bool completo = file_.atEnd();
+    const QByteArrayView resto = QByteArrayView(pendenti_).sliced(letti_);
+    if (const auto fine = TrovaFine(resto, completo)) {
+      letti_ += fine->seguente;
+      return DaAnsi(resto.first(fine->fine));
+    }
+    if (completo || !Leggi()) return std::nullopt;
+  }
+}
+
+bool FileTesto::Leggi() {
+  pendenti_.remove(0, letti_);
+  letti_ = 0;
+  const QByteArray byte = file_.read(kLettura);
+  if (file_.error() != QFileDevice::NoError) {
+    throw ErroreEsecuzione(Errore::ErroreDispositivo, Percorso());
+  }
+  if (byte.isEmpty()) return false;
+  pendenti_ += byte;
+  return true;
+}
+
+void FileTesto::Close() {
+  if (!file_.isOpen()) return;
+  struct Chiusura {
+    QFile& file;
+    ~Chiusura() { file.close(); }
+  } const chiusura{file_};
+  if (file_.openMode().testFlag(QIODevice::WriteOnly)) Svuota();
+}
+
+}  // namespace torvi
