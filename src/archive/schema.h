@@ -1,8 +1,9 @@
-// The tables of the three kinds of database, as rows of tables: names spelled as the system spells
-// them, types as its statements need them.
+// The tables of an archive and of the norm catalogue, as rows of tables: names spelled as the
+// system spells them, types as its statements need them.
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <span>
 #include <vector>
 
@@ -11,10 +12,10 @@ namespace torvi {
 enum class TipoColonna {
   Contatore,  // assigned by the engine, never used twice
   Intero,
-  Testo,    // `larghezza` characters, 0 where the system sets none
+  Testo,  // `larghezza` characters, 0 where the system sets none
   Memo,
   Logico,
-  Data,     // a Date/Time of a genuine Jet file, kept as text dd/mm/yyyy (and hh:mm:ss if any)
+  Data,  // a Date/Time of a genuine Jet file, kept as text dd/mm/yyyy (and hh:mm:ss if any)
   Reale,
 };
 
@@ -22,7 +23,7 @@ struct Colonna {
   QString nome;
   TipoColonna tipo = TipoColonna::Testo;
   int larghezza = 0;
-  QString predefinito;  // default as a literal, empty where there is none
+  QString predefinito = {};  // default as a literal, empty where there is none
 };
 
 struct Indice {
@@ -37,6 +38,9 @@ struct Tabella {
   std::vector<Indice> indici;
 };
 
+// What stands in the header of a file made here; other tools show it as the file's application.
+inline constexpr int kMarchioArchivio = 0x546F7276;
+
 [[nodiscard]] const std::vector<Tabella>& SchemaArchivio();
 [[nodiscard]] const std::vector<Tabella>& SchemaCatalogo();  // catalogo norme.mdb
 
@@ -46,7 +50,8 @@ struct Tabella {
 [[nodiscard]] QStringList IstruzioniTabella(const Tabella& tabella);
 [[nodiscard]] QString NomeIndice(const QString& tabella, const QString& indice);
 
-// A new database file with these tables, empty. The file must not exist yet: error 75.
+// A new database file with these tables, empty. It takes its name only when it is complete. The
+// file must not exist yet: error 75.
 void CreaDatabase(const QString& percorso, std::span<const Tabella> tabelle);
 
 }  // namespace torvi
