@@ -1,0 +1,24 @@
+// What the window and torvi do alike when an archive is opened, and when a delivery is made.
+#pragma once
+
+#include "archive/database.h"
+#include "shell/dialoghi.h"
+#include "shell/stato_globale.h"
+
+namespace torvi {
+
+// Opens the archive at `percorso`, looked up without regard to case. A genuine Jet file that holds
+// an archive is converted where it stands, with its progress shown; the original stays beside it as
+// "<percorso>.jet". Errors are those of OpenDatabase and of the conversion; a database that lacks a
+// table of an archive: error 3011. Nothing is changed then.
+[[nodiscard]] Database ApriArchivio(const QString& percorso, Dialoghi& dialoghi);
+
+// A new delivery: a copy of the master archive under the upper-cased name, taking the place of a
+// file of that name, with its row of `TabInfo` from `informazione` ("consegna|inizio|centro|anno").
+// DbArchivio is left closed. A master in Jet form is converted first. The file appears when it is
+// complete. No master: error 53; no folder: 76; fewer than four fields: error 9. Result: the path
+// of the new file.
+QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
+                     Dialoghi& dialoghi);
+
+}  // namespace torvi
