@@ -45,6 +45,7 @@ class Database {
 
  private:
   friend class UnitaDiScrittura;
+  [[nodiscard]] Connessione& Connessa() const;
   std::shared_ptr<Connessione> connessione_;
 };
 

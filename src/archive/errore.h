@@ -24,11 +24,13 @@ enum class Errore : int {
   NullNonValido = 94,            // Null where text or a number is needed
   OggettoNonTrovato = 3011,      // table absent, or a file that is no archive
   NomeIndiceNonValido = 3015,
+  AggiornamentoSenzaEdit = 3020, // Update, or a value given, without AddNew or Edit
   NessunRecordCorrente = 3021,
   ChiaveDuplicata = 3022,
   DatabaseNonTrovato = 3024,
   SolaLettura = 3027,
   DatabaseInUso = 3045,
+  OperazioneNonAmmessa = 3251,   // Index or Seek on the rows of a statement
   PermessoNegato = 3051,
   ParametriInsufficienti = 3061, // a statement names a column that its tables lack
   SintassiErrata = 3075,

@@ -1,0 +1,268 @@
+#include "archive/connessione.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+
+#include "archive/traduttore.h"
+
+namespace torvi {
+namespace {
+
+constexpr std::size_t kIstruzioniTenute = 256;
+
+char Minuscolo(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+std::string InMinuscolo(std::string_view testo) {
+  std::string minuscolo(testo);
+  std::transform(minuscolo.begin(), minuscolo.end(), minuscolo.begin(), Minuscolo);
+  return minuscolo;
+}
+
+bool Uguali(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return Minuscolo(x) == Minuscolo(y);
+         });
+}
+
+struct VoceGuasto {
+  int codice;
+  Errore numero;
+};
+
+constexpr std::array kGuasti = {
+    VoceGuasto{SQLITE_CONSTRAINT, Errore::ChiaveDuplicata},
+    VoceGuasto{SQLITE_READONLY, Errore::SolaLettura},
+    VoceGuasto{SQLITE_BUSY, Errore::RecordBloccato},
+    VoceGuasto{SQLITE_LOCKED, Errore::RecordBloccato},
+    VoceGuasto{SQLITE_FULL, Errore::DiscoPieno},
+    VoceGuasto{SQLITE_IOERR, Errore::ErroreDispositivo},
+    VoceGuasto{SQLITE_NOTADB, Errore::FormatoNonRiconosciuto},
+    VoceGuasto{SQLITE_CORRUPT, Errore::FormatoNonRiconosciuto},
+    VoceGuasto{SQLITE_CANTOPEN, Errore::PermessoNegato},
+    VoceGuasto{SQLITE_PERM, Errore::PermessoNegato},
+    VoceGuasto{SQLITE_AUTH, Errore::PermessoNegato},
+    VoceGuasto{SQLITE_MISMATCH, Errore::ConversioneTipo},
+};
+
+Errore NumeroDi(const SQLite::Exception& guasto) {
+  const std::string_view testo = guasto.what();
+  if (testo.find("no such column") != std::string_view::npos) return Errore::ParametriInsufficienti;
+  if (testo.find("no such table") != std::string_view::npos) return Errore::TabellaNonTrovata;
+  for (const VoceGuasto& voce : kGuasti) {
+    if (voce.codice == (guasto.getErrorCode() & 0xff)) return voce.numero;
+  }
+  return Errore::SintassiErrata;
+}
+
+}  // namespace
+
+int Posizione(const std::vector<std::string>& nomi, std::string_view nome) {
+  for (std::size_t i = 0; i < nomi.size(); ++i) {
+    if (Uguali(nomi[i], nome)) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+Campo Leggi(const SQLite::Statement& istruzione, int colonna) {
+  const SQLite::Column valore = istruzione.getColumn(colonna);
+  switch (valore.getType()) {
+    case SQLITE_INTEGER:
+      return Campo(static_cast<qint64>(valore.getInt64()));
+    case SQLITE_FLOAT:
+      return Campo(valore.getDouble());
+    case SQLITE_NULL:
+      return {};
+    default: {
+      const char* byte = valore.getText();
+      return Campo(QString::fromUtf8(byte, valore.getBytes()));
+    }
+  }
+}
+
+void Lega(SQLite::Statement& istruzione, int posizione, const Campo& valore) {
+  if (const auto* intero = std::get_if<qint64>(&valore.Grezzo())) {
+    istruzione.bind(posizione, static_cast<int64_t>(*intero));
+  } else if (const auto* reale = std::get_if<double>(&valore.Grezzo())) {
+    istruzione.bind(posizione, *reale);
+  } else if (const auto* testo = std::get_if<QString>(&valore.Grezzo())) {
+    istruzione.bind(posizione, testo->toStdString());
+  } else {
+    istruzione.bind(posizione);
+  }
+}
+
+ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
+  return ErroreEsecuzione(NumeroDi(guasto), QStringLiteral("%1 (%2)").arg(
+                                                dettaglio, QString::fromUtf8(guasto.what())));
+}
+
+Connessione::Connessione(QString percorso, std::unique_ptr<SQLite::Database> motore)
+    : percorso_(std::move(percorso)), motore_(std::move(motore)) {}
+
+Connessione::~Connessione() { Chiudi(); }
+
+void Connessione::RichiediAperta() const {
+  if (Chiusa()) throw ErroreEsecuzione(Errore::OggettoChiuso, percorso_);
+}
+
+Connessione::Prestito Connessione::Prepara(const QString& istruzione) {
+  RichiediAperta();
+  const Chiave chiave = istruzione.toStdString();
+  if (auto libera = PrendiLibera(chiave)) return Presta(chiave, std::move(libera));
+  const Traduzione traduzione = Traduci(istruzione);
+  auto nuova = std::make_unique<Preparata>();
+  nuova->tabella = traduzione.tabella;
+  try {
+    nuova->motore = std::make_unique<SQLite::Statement>(*motore_, traduzione.sql.toStdString());
+  } catch (const SQLite::Exception& guasto) {
+    throw DaMotore(guasto, istruzione);
+  }
+  for (int i = nuova->Spostamento(); i < nuova->motore->getColumnCount(); ++i) {
+    std::string_view nome = nuova->motore->getColumnName(i);
+    if (nome.starts_with(kPrefissoAlias)) nome.remove_prefix(1);
+    nuova->colonne.emplace_back(nome);
+  }
+  return Presta(chiave, std::move(nuova));
+}
+
+Connessione::Prestito Connessione::PreparaMotore(const std::string& sql) {
+  RichiediAperta();
+  // No statement of the dialect begins with this sign, so the two kinds share one cache.
+  const Chiave chiave = '\x01' + sql;
+  if (auto libera = PrendiLibera(chiave)) return Presta(chiave, std::move(libera));
+  auto nuova = std::make_unique<Preparata>();
+  try {
+    nuova->motore = std::make_unique<SQLite::Statement>(*motore_, sql);
+  } catch (const SQLite::Exception& guasto) {
+    throw DaMotore(guasto, percorso_);
+  }
+  return Presta(chiave, std::move(nuova));
+}
+
+std::unique_ptr<Preparata> Connessione::PrendiLibera(const Chiave& chiave) {
+  const auto trovata = libere_.find(chiave);
+  if (trovata == libere_.end()) return nullptr;
+  auto libera = std::move(trovata->second);
+  libere_.erase(trovata);
+  return libera;
+}
+
+Connessione::Prestito Connessione::Presta(const Chiave& chiave,
+                                          std::unique_ptr<Preparata> preparata) {
+  Preparata* const nuda = preparata.release();
+  prestate_.push_back(nuda);
+  return {nuda, [io = shared_from_this(), chiave](Preparata* p) {
+            io->Restituisci(chiave, std::unique_ptr<Preparata>(p));
+          }};
+}
+
+void Connessione::Restituisci(const Chiave& chiave, std::unique_ptr<Preparata> preparata) {
+  std::erase(prestate_, preparata.get());
+  if (preparata->motore == nullptr) return;
+  preparata->motore->tryReset();
+  preparata->motore->clearBindings();
+  if (libere_.size() >= kIstruzioniTenute) libere_.clear();
+  libere_.emplace(chiave, std::move(preparata));
+}
+
+void Connessione::LegaTutti(const Prestito& prestito, const QList<Campo>& parametri) const {
+  RichiediAperta();
+  try {
+    for (qsizetype i = 0; i < parametri.size(); ++i) {
+      Lega(*prestito->motore, static_cast<int>(i) + 1, parametri.at(i));
+    }
+  } catch (const SQLite::Exception& guasto) {
+    throw DaMotore(guasto, percorso_);
+  }
+}
+
+bool Connessione::Passo(const Prestito& prestito) const {
+  RichiediAperta();
+  try {
+    return prestito->motore->executeStep();
+  } catch (const SQLite::Exception& guasto) {
+    throw DaMotore(guasto, percorso_);
+  }
+}
+
+qint64 Connessione::Esegui(const Prestito& prestito, const QList<Campo>& parametri) {
+  LegaTutti(prestito, parametri);
+  while (Passo(prestito)) {
+  }
+  return sqlite3_changes64(motore_->getHandle());
+}
+
+QStringList Connessione::Tabelle() {
+  QStringList nomi;
+  const Prestito elenco = PreparaMotore(
+      "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' "
+      "ESCAPE '\\' ORDER BY rowid");
+  while (Passo(elenco)) nomi += Leggi(*elenco->motore, 0).Testo();
+  return nomi;
+}
+
+const InfoTabella& Connessione::Tabella(const QString& nome) {
+  RichiediAperta();
+  QString nudo = nome.trimmed();
+  if (nudo.startsWith(u'[') && nudo.endsWith(u']')) nudo = nudo.mid(1, nudo.size() - 2);
+  const std::string chiave = InMinuscolo(nudo.toStdString());
+  auto trovata = tabelle_.find(chiave);
+  if (trovata == tabelle_.end()) trovata = tabelle_.emplace(chiave, LeggiTabella(nudo)).first;
+  return trovata->second;
+}
+
+InfoTabella Connessione::LeggiTabella(const QString& nome) {
+  InfoTabella info;
+  const Prestito tabella = PreparaMotore(
+      "SELECT m.name, c.name, c.type, c.pk FROM sqlite_master m JOIN pragma_table_info(m.name) c "
+      "WHERE m.type = 'table' AND m.name = ? COLLATE NOCASE ORDER BY c.cid");
+  LegaTutti(tabella, {nome});
+  while (Passo(tabella)) {
+    info.nome = Leggi(*tabella->motore, 0).Testo();
+    info.colonne.push_back(Leggi(*tabella->motore, 1).Testo().toStdString());
+    const QString tipo = Leggi(*tabella->motore, 2).Testo().toUpper();
+    info.numeriche.push_back(tipo == QLatin1String("INTEGER") || tipo == QLatin1String("BOOLEAN") ||
+                             tipo == QLatin1String("REAL"));
+    if (Leggi(*tabella->motore, 3).Logico()) info.numeroRiga = info.colonne.back();
+  }
+  if (info.nome.isEmpty()) throw ErroreEsecuzione(Errore::TabellaNonTrovata, nome);
+  if (!info.numeroRiga.empty()) info.indici.emplace("primarykey", info.numeroRiga);
+  // An index is stored as "table.index" (schema.h).
+  const Prestito indici = PreparaMotore(
+      "SELECT substr(m.name, length(m.tbl_name) + 2), c.name FROM sqlite_master m "
+      "JOIN pragma_index_info(m.name) c WHERE m.type = 'index' AND c.seqno = 0 AND m.tbl_name = ?");
+  LegaTutti(indici, {info.nome});
+  while (Passo(indici)) {
+    info.indici.insert_or_assign(InMinuscolo(Leggi(*indici->motore, 0).Testo().toStdString()),
+                                 Leggi(*indici->motore, 1).Testo().toStdString());
+  }
+  return info;
+}
+
+void Connessione::IniziaUnita() {
+  RichiediAperta();
+  if (unita_ == 0) Esegui(PreparaMotore("BEGIN IMMEDIATE"), {});
+  ++unita_;
+}
+
+void Connessione::ConcludiUnita() {
+  if (unita_ == 0 || --unita_ > 0 || Chiusa()) return;
+  // On a full disk the engine may have taken the whole unit back by itself.
+  if (sqlite3_get_autocommit(motore_->getHandle()) != 0) return;
+  try {
+    Esegui(PreparaMotore("COMMIT"), {});
+  } catch (const ErroreEsecuzione&) {
+    motore_->tryExec("ROLLBACK");
+    throw;
+  }
+}
+
+void Connessione::Chiudi() {
+  libere_.clear();
+  for (Preparata* const prestata : prestate_) prestata->motore.reset();
+  motore_.reset();
+}
+
+}  // namespace torvi

@@ -1,0 +1,88 @@
+// One connection to the engine: the prepared statements it keeps, what it knows of the tables, and
+// the engine's failures as the platform's errors. Private to archive/.
+#pragma once
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QList>
+#include <QString>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "archive/campo.h"
+#include "archive/errore.h"
+
+namespace torvi {
+
+// A statement that the engine has prepared, with the names of its columns.
+struct Preparata {
+  std::unique_ptr<SQLite::Statement> motore;
+  QString tabella;                   // the one table whose rows can be changed through it
+  std::vector<std::string> colonne;  // without the row number, where `tabella` is set
+
+  [[nodiscard]] int Spostamento() const { return tabella.isEmpty() ? 0 : 1; }
+};
+
+// Position of a name in a list, without regard to case; -1 where it is not.
+[[nodiscard]] int Posizione(const std::vector<std::string>& nomi, std::string_view nome);
+[[nodiscard]] Campo Leggi(const SQLite::Statement& istruzione, int colonna);
+void Lega(SQLite::Statement& istruzione, int posizione, const Campo& valore);
+[[nodiscard]] ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio);
+
+struct InfoTabella {
+  QString nome;  // as the schema spells it
+  std::vector<std::string> colonne;
+  std::vector<bool> numeriche;  // columns that take only numbers
+  std::string numeroRiga;       // the counter, empty where the table has none
+  std::unordered_map<std::string, std::string> indici;  // lower-case index name to its first column
+};
+
+class Connessione : public std::enable_shared_from_this<Connessione> {
+ public:
+  // `percorso` is what messages name.
+  Connessione(QString percorso, std::unique_ptr<SQLite::Database> motore);
+  Connessione(const Connessione&) = delete;
+  Connessione& operator=(const Connessione&) = delete;
+  ~Connessione();
+
+  // A statement lent by the cache: it goes back, reset, when the last copy of the handle goes.
+  using Prestito = std::shared_ptr<Preparata>;
+  // In the system's dialect, or already in the engine's.
+  [[nodiscard]] Prestito Prepara(const QString& istruzione);
+  [[nodiscard]] Prestito PreparaMotore(const std::string& sql);
+  [[nodiscard]] const InfoTabella& Tabella(const QString& nome);  // error 3078
+  [[nodiscard]] QStringList Tabelle();
+
+  // Runs a statement that gives no rows; how many rows it changed.
+  qint64 Esegui(const Prestito& prestito, const QList<Campo>& parametri);
+  void LegaTutti(const Prestito& prestito, const QList<Campo>& parametri) const;
+  // One step; false at the end.
+  bool Passo(const Prestito& prestito) const;
+  [[nodiscard]] qint64 UltimaRiga() const { return motore_->getLastInsertRowid(); }
+
+  void IniziaUnita();
+  void ConcludiUnita();
+  void Chiudi();
+  [[nodiscard]] bool Chiusa() const { return motore_ == nullptr; }
+  void RichiediAperta() const;  // error 3420
+  [[nodiscard]] const QString& Percorso() const { return percorso_; }
+
+ private:
+  using Chiave = std::string;
+  [[nodiscard]] Prestito Presta(const Chiave& chiave, std::unique_ptr<Preparata> preparata);
+  [[nodiscard]] std::unique_ptr<Preparata> PrendiLibera(const Chiave& chiave);
+  void Restituisci(const Chiave& chiave, std::unique_ptr<Preparata> preparata);
+  [[nodiscard]] InfoTabella LeggiTabella(const QString& nome);
+
+  QString percorso_;
+  std::unique_ptr<SQLite::Database> motore_;
+  std::unordered_multimap<Chiave, std::unique_ptr<Preparata>> libere_;
+  std::vector<Preparata*> prestate_;
+  std::unordered_map<std::string, InfoTabella> tabelle_;
+  int unita_ = 0;
+};
+
+}  // namespace torvi

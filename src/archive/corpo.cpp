@@ -1,0 +1,137 @@
+#include "archive/corpo.h"
+
+#include <algorithm>
+
+namespace torvi {
+namespace {
+
+// The engine would keep text in a numeric column as it is; the system's own refuses it.
+void RichiediTipo(const InfoTabella& tabella, int colonna, const Campo& valore) {
+  const auto* testo = std::get_if<QString>(&valore.Grezzo());
+  if (testo == nullptr || !tabella.numeriche.at(colonna)) return;
+  bool numero = false;
+  (void)testo->trimmed().toDouble(&numero);
+  if (!numero) {
+    throw ErroreEsecuzione(Errore::ConversioneTipo,
+                           QString::fromStdString(tabella.colonne.at(colonna)));
+  }
+}
+
+QList<Campo> Valori(const std::vector<std::pair<std::string, Campo>>& preparati) {
+  QList<Campo> valori;
+  for (const auto& [nome, valore] : preparati) valori += valore;
+  return valori;
+}
+
+}  // namespace
+
+Recordset::Corpo::Corpo(std::shared_ptr<Connessione> connessione)
+    : connessione_(std::move(connessione)) {}
+
+Campo Recordset::Corpo::Fields(std::string_view nome) {
+  const int colonna = Posizione(Colonne(), nome);
+  if (colonna < 0) {
+    throw ErroreEsecuzione(Errore::CampoNonTrovato,
+                           QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
+  }
+  for (const auto& [assegnato, valore] : preparati_) {
+    if (assegnato == Colonne()[colonna]) return valore;
+  }
+  return preparazione_ == Preparazione::Nuova ? Campo() : Valore(colonna);
+}
+
+bool Recordset::Corpo::HaCampo(std::string_view nome) const {
+  return Posizione(Colonne(), nome) >= 0;
+}
+
+void Recordset::Corpo::Assegna(std::string_view nome, const Campo& valore) {
+  const InfoTabella& tabella = TabellaDaScrivere();
+  const int colonna = Posizione(tabella.colonne, nome);
+  if (preparazione_ == Preparazione::Nessuna) {
+    throw ErroreEsecuzione(Errore::AggiornamentoSenzaEdit);
+  }
+  if (colonna < 0) {
+    throw ErroreEsecuzione(Errore::CampoNonTrovato,
+                           QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
+  }
+  RichiediTipo(tabella, colonna, valore);
+  const std::string& spelta = tabella.colonne[colonna];
+  const auto gia = std::find_if(preparati_.begin(), preparati_.end(),
+                                [&](const auto& coppia) { return coppia.first == spelta; });
+  if (gia == preparati_.end()) {
+    preparati_.emplace_back(spelta, valore);
+  } else {
+    gia->second = valore;
+  }
+}
+
+void Recordset::Corpo::AddNew() {
+  (void)TabellaDaScrivere();
+  preparati_.clear();
+  preparazione_ = Preparazione::Nuova;
+}
+
+void Recordset::Corpo::Edit() {
+  (void)TabellaDaScrivere();
+  PrimaDiScrivere();
+  (void)Bookmark();  // error 3021 without a current row
+  preparati_.clear();
+  preparazione_ = Preparazione::Modifica;
+}
+
+void Recordset::Corpo::Update() {
+  const InfoTabella& tabella = TabellaDaScrivere();
+  if (preparazione_ == Preparazione::Nessuna) {
+    throw ErroreEsecuzione(Errore::AggiornamentoSenzaEdit);
+  }
+  if (preparazione_ == Preparazione::Nuova) {
+    Inserisci(tabella);
+  } else {
+    Aggiorna(tabella);
+  }
+  const bool modifica = preparazione_ == Preparazione::Modifica;
+  preparazione_ = Preparazione::Nessuna;
+  preparati_.clear();
+  if (modifica) RigaCambiata();
+}
+
+void Recordset::Corpo::Inserisci(const InfoTabella& tabella) {
+  std::string nomi;
+  std::string segni;
+  for (const auto& [nome, valore] : preparati_) {
+    nomi += (nomi.empty() ? "[" : ",[") + nome + "]";
+    segni += segni.empty() ? "?" : ",?";
+  }
+  const std::string colonne =
+      preparati_.empty() ? " DEFAULT VALUES" : "(" + nomi + ") VALUES(" + segni + ")";
+  Motore().Esegui(
+      Motore().PreparaMotore("INSERT INTO [" + tabella.nome.toStdString() + "]" + colonne),
+      Valori(preparati_));
+  ultimaModificata_ = Motore().UltimaRiga();
+}
+
+void Recordset::Corpo::Aggiorna(const InfoTabella& tabella) {
+  ultimaModificata_ = Bookmark();
+  if (preparati_.empty()) return;
+  std::string assegnazioni;
+  for (const auto& [nome, valore] : preparati_) {
+    assegnazioni += (assegnazioni.empty() ? "[" : ",[") + nome + "]=?";
+  }
+  QList<Campo> valori = Valori(preparati_);
+  valori += Campo(ultimaModificata_);
+  Motore().Esegui(Motore().PreparaMotore("UPDATE [" + tabella.nome.toStdString() + "] SET " +
+                                         assegnazioni + " WHERE rowid=?"),
+                  valori);
+}
+
+void Recordset::Corpo::Delete() {
+  const InfoTabella& tabella = TabellaDaScrivere();
+  PrimaDiScrivere();
+  const qint64 riga = Bookmark();
+  Motore().Esegui(Motore().PreparaMotore("DELETE FROM [" + tabella.nome.toStdString() +
+                                         "] WHERE rowid=?"),
+                  {Campo(riga)});
+  RigaCancellata();
+}
+
+}  // namespace torvi

@@ -1,0 +1,159 @@
+#include "archive/database.h"
+
+#include <sqlite3.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "archive/collazione.h"
+#include "archive/connessione.h"
+#include "archive/conversione.h"
+#include "archive/corpo_istruzione.h"
+#include "archive/corpo_tabella.h"
+#include "archive/errore.h"
+#include "archive/jet.h"
+
+namespace torvi {
+namespace {
+
+constexpr int kAttesaBloccoMs = 2000;
+constexpr QByteArrayView kFirmaArchivio("SQLite format 3\0", 16);
+
+bool EIstruzione(const QString& origine) {
+  const QString testo = origine.trimmed();
+  return testo.startsWith(QLatin1String("select"), Qt::CaseInsensitive) && testo.size() > 6 &&
+         !testo.at(6).isLetterOrNumber();
+}
+
+QByteArray PrimiByte(const QString& percorso) {
+  QFile file(percorso);
+  if (!file.open(QIODevice::ReadOnly)) throw ErroreEsecuzione(Errore::PermessoNegato, percorso);
+  return file.read(kFirmaArchivio.size());
+}
+
+std::unique_ptr<SQLite::Database> ApriMotore(const QString& percorso, Accesso accesso) {
+  const int modo = accesso == Accesso::SolaLettura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
+  auto motore =
+      std::make_unique<SQLite::Database>(percorso.toStdString(), modo, kAttesaBloccoMs);
+  RegistraFunzioni(motore->getHandle());
+  // An archive is always one file, and what is written is on the disk.
+  motore->exec("PRAGMA synchronous = FULL; PRAGMA cache_size = -16000");
+  motore->exec("SELECT count(*) FROM sqlite_master");
+  motore->exec("PRAGMA journal_mode = DELETE");
+  return motore;
+}
+
+std::unique_ptr<SQLite::Database> ApriJet(const QString& percorso) {
+  // The empty name is a private database that the engine keeps in memory and, where it grows, in a
+  // temporary file.
+  auto motore = std::make_unique<SQLite::Database>(
+      std::string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+  RegistraFunzioni(motore->getHandle());
+  CaricaJet(percorso, motore->getHandle());
+  motore->exec("PRAGMA query_only = 1");
+  return motore;
+}
+
+Errore NumeroApertura(const SQLite::Exception& guasto) {
+  switch (guasto.getErrorCode() & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return Errore::DatabaseInUso;
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+      return Errore::PermessoNegato;
+    case SQLITE_IOERR:
+      return Errore::ErroreDispositivo;
+    default:
+      return Errore::FormatoNonRiconosciuto;
+  }
+}
+
+}  // namespace
+
+Database OpenDatabase(const QString& percorso, Accesso accesso) {
+  const QFileInfo file(percorso);
+  if (!file.exists()) throw ErroreEsecuzione(Errore::DatabaseNonTrovato, percorso);
+  if (!file.isFile()) throw ErroreEsecuzione(Errore::FormatoNonRiconosciuto, percorso);
+  if (EFileJet(percorso)) {
+    return Database(std::make_shared<Connessione>(percorso, ApriJet(percorso)));
+  }
+  if (PrimiByte(percorso) != kFirmaArchivio) {
+    throw ErroreEsecuzione(Errore::FormatoNonRiconosciuto, percorso);
+  }
+  try {
+    return Database(std::make_shared<Connessione>(percorso, ApriMotore(percorso, accesso)));
+  } catch (const SQLite::Exception& guasto) {
+    throw ErroreEsecuzione(NumeroApertura(guasto), percorso);
+  }
+}
+
+QString Letterale(const QString& testo) {
+  QString raddoppiato = testo;
+  raddoppiato.replace(QLatin1Char('"'), QLatin1String("\"\""));
+  return QLatin1Char('"') + raddoppiato + QLatin1Char('"');
+}
+
+Database::Database(std::shared_ptr<Connessione> connessione)
+    : connessione_(std::move(connessione)) {}
+
+Connessione& Database::Connessa() const {
+  if (connessione_ == nullptr) throw ErroreEsecuzione(Errore::OggettoNonImpostato);
+  connessione_->RichiediAperta();
+  return *connessione_;
+}
+
+Recordset Database::OpenRecordset(const QString& origine, const QList<Campo>& parametri) const {
+  Connessione& connessione = Connessa();
+  if (EIstruzione(origine)) {
+    return Recordset(std::make_unique<CorpoIstruzione>(connessione.shared_from_this(), origine,
+                                                       parametri));
+  }
+  return Recordset(std::make_unique<CorpoTabella>(connessione.shared_from_this(), origine));
+}
+
+qint64 Database::Execute(const QString& istruzione, const QList<Campo>& parametri) const {
+  Connessione& connessione = Connessa();
+  return connessione.Esegui(connessione.Prepara(istruzione), parametri);
+}
+
+void Database::Close() {
+  Connessa();
+  connessione_->Chiudi();
+}
+
+bool Database::Aperto() const { return connessione_ != nullptr && !connessione_->Chiusa(); }
+
+QString Database::Name() const { return connessione_ == nullptr ? QString() : connessione_->Percorso(); }
+
+QStringList Database::Tabelle() const { return Connessa().Tabelle(); }
+
+QStringList Database::Colonne(const QString& tabella) const {
+  QStringList nomi;
+  for (const std::string& nome : Connessa().Tabella(tabella).colonne) {
+    nomi += QString::fromStdString(nome);
+  }
+  return nomi;
+}
+
+UnitaDiScrittura::UnitaDiScrittura(const Database& database)
+    : connessione_(database.Connessa().shared_from_this()) {
+  connessione_->IniziaUnita();
+}
+
+UnitaDiScrittura::~UnitaDiScrittura() {
+  try {
+    Concludi();
+  } catch (const ErroreEsecuzione&) {
+    // The caller already handles the failure that brought it here.
+    return;
+  }
+}
+
+void UnitaDiScrittura::Concludi() {
+  if (connessione_ == nullptr) return;
+  const auto connessione = std::exchange(connessione_, nullptr);
+  connessione->ConcludiUnita();
+}
+
+}  // namespace torvi
