@@ -33,7 +33,9 @@ std::string CorpoTabella::Ordine(Verso verso) const {
 
 void CorpoTabella::Estremo(Verso verso) {
   noMatch_ = false;
-  if (!Leggi1("", {}, Ordine(verso))) stato_ = Stato::Dopo;
+  if (Leggi1("", {}, Ordine(verso))) return;
+  stato_ = Stato::Dopo;
+  numero_ = 0;
 }
 
 void CorpoTabella::Inizia() {

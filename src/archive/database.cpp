@@ -118,8 +118,7 @@ qint64 Database::Execute(const QString& istruzione, const QList<Campo>& parametr
 }
 
 void Database::Close() {
-  Connessa();
-  connessione_->Chiudi();
+  Connessa().Chiudi();
 }
 
 bool Database::Aperto() const { return connessione_ != nullptr && !connessione_->Chiusa(); }
