@@ -1,0 +1,63 @@
+#include "comune/cartella_di_prova.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "archive/schema.h"
+
+namespace torvi {
+
+CartellaDiProva::CartellaDiProva() {
+  EXPECT_TRUE(cartella_.isValid());
+  EXPECT_TRUE(QDir(Percorso()).mkpath(QStringLiteral("mdb")));
+  EXPECT_TRUE(QDir(Percorso()).mkpath(QStringLiteral("dump")));
+}
+
+Database CartellaDiProva::NuovaConsegna(const QString& nome, const DatiConsegna& dati) const {
+  CreaDatabase(Mdb(nome), SchemaArchivio());
+  Database database = OpenDatabase(Mdb(nome));
+  Aggiungi(database, QStringLiteral("TabInfo"),
+           {{"Consegna", dati.consegna},
+            {"NumInizio", dati.inizio},
+            {"IDCentroSpoglio", dati.centro},
+            {"AnnoProduzione", dati.anno}});
+  return database;
+}
+
+StatoGlobale CartellaDiProva::StatoConConsegna(const DatiConsegna& dati) const {
+  StatoGlobale stato;
+  stato.CartellaApplicazione = Percorso();
+  stato.DbArchivio = NuovaConsegna(dati.consegna + ".MDB", dati);
+  stato.PathArchivio = stato.DbArchivio.Name();
+  return stato;
+}
+
+qint64 Aggiungi(const Database& database, const QString& tabella,
+                std::initializer_list<std::pair<const char*, Campo>> valori) {
+  Recordset righe = database.OpenRecordset(tabella);
+  righe.AddNew();
+  for (const auto& [nome, valore] : valori) righe.Assegna(nome, valore);
+  righe.Update();
+  return righe.LastModified();
+}
+
+QByteArray Byte(const QString& percorso) {
+  QFile file(percorso);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << percorso.toStdString();
+  return file.readAll();
+}
+
+void ScriviByte(const QString& percorso, const QByteArray& byte) {
+  QFile file(percorso);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << percorso.toStdString();
+  ASSERT_EQ(file.write(byte), byte.size());
+}
+
+QString FileGenuino(const QString& nome) {
+  const QString percorso = QStringLiteral(TORVI_RADICE "/../shared/jet/") + nome;
+  return QFile::exists(percorso) ? percorso : QString();
+}
+
+}  // namespace torvi
