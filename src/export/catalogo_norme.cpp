@@ -1,0 +1,67 @@
+#include "export/catalogo_norme.h"
+
+#include <QDate>
+
+#include "shell/percorsi.h"
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+struct Abbreviazione {
+  QLatin1StringView fonteNorm;
+  QLatin1StringView catalogo;
+};
+
+// The kinds of act that the catalogue spells in its own way.
+constexpr Abbreviazione kAbbreviazioni[] = {
+    {QLatin1StringView("l. cost."), QLatin1StringView("l.cost.")},
+    {QLatin1StringView("dir. p.c.m."), QLatin1StringView("dir.p.c.m.")},
+    {QLatin1StringView("d.lg."), QLatin1StringView("d.lgs.")},
+};
+
+QString AbbreviazioneCatalogo(const QString& fonteNorm) {
+  for (const Abbreviazione& voce : kAbbreviazioni) {
+    if (fonteNorm == voce.fonteNorm) return voce.catalogo;
+  }
+  return fonteNorm;
+}
+
+// dd/mm/yyyy, as the catalogue holds it; nothing for a day that is on no calendar.
+std::optional<QString> DataCatalogo(const AttoCercato& atto) {
+  bool giornoValido = false;
+  bool meseValido = false;
+  bool annoValido = false;
+  const QDate data(atto.anno.toInt(&annoValido), atto.mese.toInt(&meseValido),
+                   atto.giorno.toInt(&giornoValido));
+  if (!giornoValido || !meseValido || !annoValido || !data.isValid()) return std::nullopt;
+  return data.toString(QStringLiteral("dd/MM/yyyy"));
+}
+
+}  // namespace
+
+CatalogoNorme::CatalogoNorme(const QString& cartellaApplicazione)
+    : cartella_(cartellaApplicazione) {}
+
+void CatalogoNorme::Apri() {
+  if (database_) return;
+  database_ = OpenDatabase(FileArchivio(cartella_, QStringLiteral("catalogo norme.mdb")),
+                           Accesso::SolaLettura);
+}
+
+bool CatalogoNorme::Contiene(const AttoCercato& atto) {
+  Apri();
+  const auto data = DataCatalogo(atto);
+  if (!data) return false;
+  // The date goes in as the text that a date literal stands for, so that one statement does for all.
+  auto istruzione = QStringLiteral(
+      "select * from tabCatalogo where anno = ? and promulgazione = ? and abbreviazione = ?");
+  QList<Campo> valori = {Val(atto.anno), *data, AbbreviazioneCatalogo(atto.FonteNorm)};
+  if (!atto.numero.isEmpty()) {
+    istruzione += QLatin1StringView(" and numero = ?");
+    valori.append(atto.numero);
+  }
+  return !database_->OpenRecordset(istruzione, valori).Eof();
+}
+
+}  // namespace torvi

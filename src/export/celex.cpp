@@ -1,0 +1,106 @@
+#include "export/celex.h"
+
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+const QString kNonTrovato = QStringLiteral(" ");
+// The one treaty of `TabFonteCom` whose year follows the production year.
+constexpr qint64 kTrattatoRinumerato = 5;
+
+struct Corte {
+  QLatin1StringView codice;
+  QLatin1StringView sentenza;
+  QLatin1StringView ordinanza;
+  QLatin1StringView segno;  // what stands before the number of its cases
+};
+
+constexpr Corte kCorti[] = {
+    {QLatin1StringView("J"), QLatin1StringView("CJ"), QLatin1StringView("CO"),
+     QLatin1StringView("C-")},
+    {QLatin1StringView("A"), QLatin1StringView("TJ"), QLatin1StringView("TO"),
+     QLatin1StringView("T-")},
+    {QLatin1StringView("F"), QLatin1StringView("FJ"), QLatin1StringView("FO"),
+     QLatin1StringView("F-")},
+};
+
+const Corte* CorteDi(const QString& codice) {
+  for (const Corte& corte : kCorti) {
+    if (codice == corte.codice) return &corte;
+  }
+  return nullptr;
+}
+
+QString ArticoloTrattato(const QString& articolo) {
+  const QChar iniziale = articolo.front().toUpper();
+  if (iniziale >= u'A' && iniziale <= u'Z') {
+    const bool breve = (iniziale == u'K' || iniziale == u'J') && articolo.size() == 2;
+    return breve ? QString(articolo.front() + QLatin1Char('0') + articolo.back()) : articolo;
+  }
+  const QChar finale = articolo.back();
+  return RiempiZeri(articolo, finale >= u'0' && finale <= u'9' ? 3 : 4);
+}
+
+// Where the number of the case begins in the free text; -1 if nothing announces it.
+qsizetype InizioCausa(const QString& altro, QLatin1StringView segno) {
+  for (const QLatin1StringView annuncio : {segno, QLatin1StringView("causa ")}) {
+    const auto posto = altro.indexOf(annuncio);
+    if (posto >= 0) return posto + annuncio.size();
+  }
+  return -1;
+}
+
+QString NumeroCausa(const DatiCelex& dati) {
+  const Corte* corte = CorteDi(dati.Codice);
+  if (corte == nullptr) return kNonTrovato;
+  const auto inizio = InizioCausa(dati.Altro, corte->segno);
+  if (inizio < 0) return kNonTrovato;
+  const auto barra = dati.Altro.indexOf(QLatin1Char('/'), inizio);
+  if (barra < 0) return kNonTrovato;
+  const QString anno = dati.Altro.mid(barra + 1, 2);
+  const QLatin1StringView secolo(anno < QLatin1StringView("50") ? "20" : "19");
+  return dati.Settore + secolo + anno + (dati.Ordinanza ? corte->ordinanza : corte->sentenza) +
+         RiempiZeri(dati.Altro.mid(inizio, barra - inizio), 4);
+}
+
+QString AnnoTrattato(const QString& prefissoDoc) {
+  return Val(prefissoDoc.left(4)) >= 2003 ? QStringLiteral("2002") : QStringLiteral("1997");
+}
+
+}  // namespace
+
+QString NumeroCelex(const DatiCelex& dati) {
+  if (dati.Settore == QLatin1StringView("1")) {
+    if (dati.Articolo.isEmpty()) return {};
+    return dati.Settore + dati.AnnoF + dati.Codice + ArticoloTrattato(dati.Articolo);
+  }
+  if (dati.Settore == QLatin1StringView("3")) {
+    return dati.Settore + dati.Anno + dati.Codice + RiempiZeri(dati.Numero, 4);
+  }
+  if (dati.Settore == QLatin1StringView("6")) return NumeroCausa(dati);
+  return {};
+}
+
+QString CelexDaFonte(const StatoGlobale& stato, qint16 idFonte) {
+  const Recordset fonte = stato.DbArchivio.OpenRecordset(
+      QStringLiteral("SELECT TabFonte.*, tabFonteCom.IDFonteCom, tabFonteCom.FonteCom, "
+                     "tabFonteCom.Settore,  tabFonteCom.Codice, tabFonteCom.AnnoF "
+                     "FROM TabFonte INNER JOIN tabFonteCom "
+                     "ON TabFonte.Fonte = tabFonteCom.IDFonteCom WHERE TabFonte.IDFonte = ?"),
+      {Campo(idFonte)});
+  if (fonte.Eof()) return kNonTrovato;
+  if (!fonte.Fields("Settore").Presente()) return {};
+  const bool rinumerato = fonte.Fields("IDFonteCom").Intero() == kTrattatoRinumerato;
+  return NumeroCelex({.Settore = fonte.Fields("Settore").Testo(),
+                      .Codice = fonte.Fields("Codice").Testo(),
+                      .Articolo = fonte.Fields("articolo").TestoOVuoto(),
+                      .AnnoF = rinumerato ? AnnoTrattato(stato.PrefissoDoc)
+                                          : fonte.Fields("AnnoF").TestoOVuoto(),
+                      .Altro = fonte.Fields("altro").TestoOVuoto(),
+                      .Numero = fonte.Fields("numero").TestoOVuoto(),
+                      .Anno = fonte.Fields("anno").TestoOVuoto(),
+                      .Ordinanza = fonte.Fields("ordinanza").Logico()});
+}
+
+}  // namespace torvi

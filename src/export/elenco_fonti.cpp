@@ -1,0 +1,95 @@
+#include "export/elenco_fonti.h"
+
+#include "export/fonti_documento.h"
+#include "export/verifica_catalogo.h"
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+struct Citazione {
+  const Recordset& fonte;
+  QString tp;
+  QString testo;
+};
+
+constexpr qint64 kFonteTar = 117;  // the row of TabFonteInterna
+
+bool E(const Campo& campo, qint64 valore) { return !campo.Nullo() && campo.Intero() == valore; }
+
+bool TarSenzaRegione(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
+  return citazione.tp == QLatin1StringView("GIA") &&
+         E(citazione.fonte.Fields("fonte"), kFonteTar) && E(citazione.fonte.Fields("IDRegione"), 0);
+}
+
+bool NumeroOltreLimite(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
+  // The number is needed as text whatever the kind of source.
+  const QString numero = citazione.fonte.Fields("numero").Testo();
+  return citazione.tp == QLatin1StringView("GICO") && Val(numero) > 1000;
+}
+
+bool NumeroMancante(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
+  return (citazione.tp == QLatin1StringView("GICO") || citazione.tp == QLatin1StringView("GICA")) &&
+         citazione.fonte.Fields("numero").Testo().isEmpty();
+}
+
+bool AttoNonConfermato(ContestoEsportazione& contesto, const Citazione& citazione) {
+  const bool norma = citazione.tp == QLatin1StringView("LICO") ||
+                     citazione.tp == QLatin1StringView("LIO") ||
+                     citazione.tp == QLatin1StringView("LIOA");
+  return norma && VerificaCatalogo(contesto.stato.DbArchivio, contesto.catalogo,
+                                   citazione.fonte) == EsitoCatalogo::NonConfermato;
+}
+
+struct Controllo {
+  bool ancheSullaPrima;
+  bool (*fallito)(ContestoEsportazione&, const Citazione&);
+  QLatin1StringView messaggio;
+};
+
+constexpr Controllo kControlli[] = {
+    {true, TarSenzaRegione, QLatin1StringView("Fonte TAR senza regione: ")},
+    {false, NumeroOltreLimite, QLatin1StringView("Fonte GICO con numero > 1000: ")},
+    {false, NumeroMancante, QLatin1StringView("Fonte GICO/GICA senza numero: ")},
+    {true, AttoNonConfermato, QLatin1StringView("Fonte errata: ")},
+};
+
+// Kinds of source whose type code stands behind the citation.
+bool Marcata(const QString& tp) {
+  return tp.startsWith(QLatin1StringView("NI")) || tp.startsWith(QLatin1StringView("GE")) ||
+         tp == QLatin1StringView("NS") || tp == QLatin1StringView("GS") ||
+         tp.startsWith(QLatin1Char('F'));
+}
+
+QString Elemento(const Citazione& citazione) {
+  constexpr QLatin1Char kStella('*');
+  if (!Marcata(citazione.tp) || citazione.testo.contains(kStella)) return citazione.testo;
+  return citazione.testo + kStella + citazione.tp + kStella;
+}
+
+}  // namespace
+
+void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
+  Recordset fonti = FontiDocumento(contesto.stato.DbArchivio, idDoc);
+  if (fonti.Eof()) {
+    if (contesto.stato.ControlloFonti) {
+      contesto.fileErrori.Print(QString(QLatin1StringView("Manca fonte: ") + idRecord));
+    }
+    return;
+  }
+  QString elenco;
+  for (bool prima = true; !fonti.Eof(); fonti.MoveNext(), prima = false) {
+    const Citazione citazione = {fonti, fonti.Fields("tp").Testo(), fonti.Fields("testo").Testo()};
+    if (!prima) elenco += QLatin1Char('\\');
+    elenco += Elemento(citazione);
+    for (const Controllo& controllo : kControlli) {
+      if (prima && !controllo.ancheSullaPrima) continue;
+      if (!controllo.fallito(contesto, citazione)) continue;
+      contesto.fileErrFonte.Print(QString(controllo.messaggio + citazione.testo +
+                                          QLatin1StringView(" (") + idRecord + QLatin1Char(')')));
+    }
+  }
+  contesto.record.AggiungiTesto(tag::kFonti, elenco);
+}
+
+}  // namespace torvi

@@ -1,0 +1,19 @@
+#include "export/fonti_documento.h"
+
+namespace torvi {
+
+Recordset FontiDocumento(const Database& archivio, qint64 idDoc) {
+  return archivio.OpenRecordset(
+      QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDDoc = ? and "
+                     "legameDocFonte.IDFnt = tabFonte.IDFonte"),
+      {idDoc});
+}
+
+Recordset CercaPerChiave(const Database& archivio, const QString& tabella, const Campo& chiave) {
+  Recordset riga = archivio.OpenRecordset(tabella);
+  riga.Index("PrimaryKey");
+  riga.Seek(chiave);
+  return riga;
+}
+
+}  // namespace torvi
