@@ -8,6 +8,8 @@
 namespace torvi {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 struct Abbreviazione {
   QLatin1StringView fonteNorm;
   QLatin1StringView catalogo;
@@ -15,9 +17,9 @@ struct Abbreviazione {
 
 // The kinds of act that the catalogue spells in its own way.
 constexpr Abbreviazione kAbbreviazioni[] = {
-    {QLatin1StringView("l. cost."), QLatin1StringView("l.cost.")},
-    {QLatin1StringView("dir. p.c.m."), QLatin1StringView("dir.p.c.m.")},
-    {QLatin1StringView("d.lg."), QLatin1StringView("d.lgs.")},
+    {"l. cost."_L1, "l.cost."_L1},
+    {"dir. p.c.m."_L1, "dir.p.c.m."_L1},
+    {"d.lg."_L1, "d.lgs."_L1},
 };
 
 QString AbbreviazioneCatalogo(const QString& fonteNorm) {
@@ -53,12 +55,13 @@ bool CatalogoNorme::Contiene(const AttoCercato& atto) {
   Apri();
   const auto data = DataCatalogo(atto);
   if (!data) return false;
-  // The date goes in as the text that a date literal stands for, so that one statement does for all.
+  // The date goes in as the text that a date literal stands for, so that one statement does for
+  // all.
   auto istruzione = QStringLiteral(
       "select * from tabCatalogo where anno = ? and promulgazione = ? and abbreviazione = ?");
   QList<Campo> valori = {Val(atto.anno), *data, AbbreviazioneCatalogo(atto.FonteNorm)};
   if (!atto.numero.isEmpty()) {
-    istruzione += QLatin1StringView(" and numero = ?");
+    istruzione += " and numero = ?"_L1;
     valori.append(atto.numero);
   }
   return !database_->OpenRecordset(istruzione, valori).Eof();

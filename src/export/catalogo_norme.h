@@ -1,4 +1,5 @@
-// The catalogue of Italian legislative acts, `catalogo norme.mdb` in mdb/ below the application folder.
+// The catalogue of Italian legislative acts, `catalogo norme.mdb` in mdb/ below the application
+// folder.
 #pragma once
 
 #include <QString>

@@ -5,6 +5,8 @@
 namespace torvi {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 const QString kNonTrovato = QStringLiteral(" ");
 // The one treaty of `TabFonteCom` whose year follows the production year.
 constexpr qint64 kTrattatoRinumerato = 5;
@@ -17,12 +19,9 @@ struct Corte {
 };
 
 constexpr Corte kCorti[] = {
-    {QLatin1StringView("J"), QLatin1StringView("CJ"), QLatin1StringView("CO"),
-     QLatin1StringView("C-")},
-    {QLatin1StringView("A"), QLatin1StringView("TJ"), QLatin1StringView("TO"),
-     QLatin1StringView("T-")},
-    {QLatin1StringView("F"), QLatin1StringView("FJ"), QLatin1StringView("FO"),
-     QLatin1StringView("F-")},
+    {"J"_L1, "CJ"_L1, "CO"_L1, "C-"_L1},
+    {"A"_L1, "TJ"_L1, "TO"_L1, "T-"_L1},
+    {"F"_L1, "FJ"_L1, "FO"_L1, "F-"_L1},
 };
 
 const Corte* CorteDi(const QString& codice) {
@@ -44,7 +43,7 @@ QString ArticoloTrattato(const QString& articolo) {
 
 // Where the number of the case begins in the free text; -1 if nothing announces it.
 qsizetype InizioCausa(const QString& altro, QLatin1StringView segno) {
-  for (const QLatin1StringView annuncio : {segno, QLatin1StringView("causa ")}) {
+  for (const QLatin1StringView annuncio : {segno, "causa "_L1}) {
     const auto posto = altro.indexOf(annuncio);
     if (posto >= 0) return posto + annuncio.size();
   }
@@ -59,7 +58,7 @@ QString NumeroCausa(const DatiCelex& dati) {
   const auto barra = dati.Altro.indexOf(QLatin1Char('/'), inizio);
   if (barra < 0) return kNonTrovato;
   const QString anno = dati.Altro.mid(barra + 1, 2);
-  const QLatin1StringView secolo(anno < QLatin1StringView("50") ? "20" : "19");
+  const QLatin1StringView secolo(anno < "50"_L1 ? "20" : "19");
   return dati.Settore + secolo + anno + (dati.Ordinanza ? corte->ordinanza : corte->sentenza) +
          RiempiZeri(dati.Altro.mid(inizio, barra - inizio), 4);
 }
@@ -71,14 +70,14 @@ QString AnnoTrattato(const QString& prefissoDoc) {
 }  // namespace
 
 QString NumeroCelex(const DatiCelex& dati) {
-  if (dati.Settore == QLatin1StringView("1")) {
+  if (dati.Settore == "1"_L1) {
     if (dati.Articolo.isEmpty()) return {};
     return dati.Settore + dati.AnnoF + dati.Codice + ArticoloTrattato(dati.Articolo);
   }
-  if (dati.Settore == QLatin1StringView("3")) {
+  if (dati.Settore == "3"_L1) {
     return dati.Settore + dati.Anno + dati.Codice + RiempiZeri(dati.Numero, 4);
   }
-  if (dati.Settore == QLatin1StringView("6")) return NumeroCausa(dati);
+  if (dati.Settore == "6"_L1) return NumeroCausa(dati);
   return {};
 }
 
@@ -92,15 +91,15 @@ QString CelexDaFonte(const StatoGlobale& stato, qint16 idFonte) {
   if (fonte.Eof()) return kNonTrovato;
   if (!fonte.Fields("Settore").Presente()) return {};
   const bool rinumerato = fonte.Fields("IDFonteCom").Intero() == kTrattatoRinumerato;
-  return NumeroCelex({.Settore = fonte.Fields("Settore").Testo(),
-                      .Codice = fonte.Fields("Codice").Testo(),
-                      .Articolo = fonte.Fields("articolo").TestoOVuoto(),
-                      .AnnoF = rinumerato ? AnnoTrattato(stato.PrefissoDoc)
-                                          : fonte.Fields("AnnoF").TestoOVuoto(),
-                      .Altro = fonte.Fields("altro").TestoOVuoto(),
-                      .Numero = fonte.Fields("numero").TestoOVuoto(),
-                      .Anno = fonte.Fields("anno").TestoOVuoto(),
-                      .Ordinanza = fonte.Fields("ordinanza").Logico()});
+  return NumeroCelex(
+      {.Settore = fonte.Fields("Settore").Testo(),
+       .Codice = fonte.Fields("Codice").Testo(),
+       .Articolo = fonte.Fields("articolo").TestoOVuoto(),
+       .AnnoF = rinumerato ? AnnoTrattato(stato.PrefissoDoc) : fonte.Fields("AnnoF").TestoOVuoto(),
+       .Altro = fonte.Fields("altro").TestoOVuoto(),
+       .Numero = fonte.Fields("numero").TestoOVuoto(),
+       .Anno = fonte.Fields("anno").TestoOVuoto(),
+       .Ordinanza = fonte.Fields("ordinanza").Logico()});
 }
 
 }  // namespace torvi

@@ -7,7 +7,8 @@
 
 namespace torvi {
 
-// What the number is built from: columns of `TabFonteCom` and of the source, Null as the empty text.
+// What the number is built from: columns of `TabFonteCom` and of the source, Null as the empty
+// text.
 struct DatiCelex {
   QString Settore;
   QString Codice;

@@ -7,6 +7,8 @@
 namespace torvi {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 struct Citazione {
   const Recordset& fonte;
   QString tp;
@@ -18,27 +20,26 @@ constexpr qint64 kFonteTar = 117;  // the row of TabFonteInterna
 bool E(const Campo& campo, qint64 valore) { return !campo.Nullo() && campo.Intero() == valore; }
 
 bool TarSenzaRegione(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
-  return citazione.tp == QLatin1StringView("GIA") &&
-         E(citazione.fonte.Fields("fonte"), kFonteTar) && E(citazione.fonte.Fields("IDRegione"), 0);
+  return citazione.tp == "GIA"_L1 && E(citazione.fonte.Fields("fonte"), kFonteTar) &&
+         E(citazione.fonte.Fields("IDRegione"), 0);
 }
 
 bool NumeroOltreLimite(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
   // The number is needed as text whatever the kind of source.
   const QString numero = citazione.fonte.Fields("numero").Testo();
-  return citazione.tp == QLatin1StringView("GICO") && Val(numero) > 1000;
+  return citazione.tp == "GICO"_L1 && Val(numero) > 1000;
 }
 
 bool NumeroMancante(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
-  return (citazione.tp == QLatin1StringView("GICO") || citazione.tp == QLatin1StringView("GICA")) &&
+  return (citazione.tp == "GICO"_L1 || citazione.tp == "GICA"_L1) &&
          citazione.fonte.Fields("numero").Testo().isEmpty();
 }
 
 bool AttoNonConfermato(ContestoEsportazione& contesto, const Citazione& citazione) {
-  const bool norma = citazione.tp == QLatin1StringView("LICO") ||
-                     citazione.tp == QLatin1StringView("LIO") ||
-                     citazione.tp == QLatin1StringView("LIOA");
-  return norma && VerificaCatalogo(contesto.stato.DbArchivio, contesto.catalogo,
-                                   citazione.fonte) == EsitoCatalogo::NonConfermato;
+  const bool norma =
+      citazione.tp == "LICO"_L1 || citazione.tp == "LIO"_L1 || citazione.tp == "LIOA"_L1;
+  return norma && VerificaCatalogo(contesto.stato.DbArchivio, contesto.catalogo, citazione.fonte) ==
+                      EsitoCatalogo::NonConfermato;
 }
 
 struct Controllo {
@@ -48,16 +49,15 @@ struct Controllo {
 };
 
 constexpr Controllo kControlli[] = {
-    {true, TarSenzaRegione, QLatin1StringView("Fonte TAR senza regione: ")},
-    {false, NumeroOltreLimite, QLatin1StringView("Fonte GICO con numero > 1000: ")},
-    {false, NumeroMancante, QLatin1StringView("Fonte GICO/GICA senza numero: ")},
-    {true, AttoNonConfermato, QLatin1StringView("Fonte errata: ")},
+    {true, TarSenzaRegione, "Fonte TAR senza regione: "_L1},
+    {false, NumeroOltreLimite, "Fonte GICO con numero > 1000: "_L1},
+    {false, NumeroMancante, "Fonte GICO/GICA senza numero: "_L1},
+    {true, AttoNonConfermato, "Fonte errata: "_L1},
 };
 
 // Kinds of source whose type code stands behind the citation.
 bool Marcata(const QString& tp) {
-  return tp.startsWith(QLatin1StringView("NI")) || tp.startsWith(QLatin1StringView("GE")) ||
-         tp == QLatin1StringView("NS") || tp == QLatin1StringView("GS") ||
+  return tp.startsWith("NI"_L1) || tp.startsWith("GE"_L1) || tp == "NS"_L1 || tp == "GS"_L1 ||
          tp.startsWith(QLatin1Char('F'));
 }
 
@@ -73,7 +73,7 @@ void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QStri
   Recordset fonti = FontiDocumento(contesto.stato.DbArchivio, idDoc);
   if (fonti.Eof()) {
     if (contesto.stato.ControlloFonti) {
-      contesto.fileErrori.Print(QString(QLatin1StringView("Manca fonte: ") + idRecord));
+      contesto.fileErrori.Print(QString("Manca fonte: "_L1 + idRecord));
     }
     return;
   }
@@ -85,8 +85,8 @@ void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QStri
     for (const Controllo& controllo : kControlli) {
       if (prima && !controllo.ancheSullaPrima) continue;
       if (!controllo.fallito(contesto, citazione)) continue;
-      contesto.fileErrFonte.Print(QString(controllo.messaggio + citazione.testo +
-                                          QLatin1StringView(" (") + idRecord + QLatin1Char(')')));
+      contesto.fileErrFonte.Print(
+          QString(controllo.messaggio + citazione.testo + " ("_L1 + idRecord + QLatin1Char(')')));
     }
   }
   contesto.record.AggiungiTesto(tag::kFonti, elenco);

@@ -1,5 +1,6 @@
 #include "export/errori_consegna.h"
 
+#include "archive/errore.h"
 #include "export/file_testo.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"

@@ -9,15 +9,17 @@
 namespace torvi {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 // The tables that name the kind of a source.
 struct Famiglia {
   QLatin1StringView tabella;
   const char* colonna;
 };
-constexpr Famiglia kInterna = {QLatin1StringView("TabFonteInterna"), "FonteNorm"};
-constexpr Famiglia kComunitaria = {QLatin1StringView("TabFonteCom"), "FonteCom"};
-constexpr Famiglia kInternazionale = {QLatin1StringView("TabFonteInt"), "FonteInt"};
-constexpr Famiglia kCanonica = {QLatin1StringView("TabFonteCan"), "FonteCan"};
+constexpr Famiglia kInterna = {"TabFonteInterna"_L1, "FonteNorm"};
+constexpr Famiglia kComunitaria = {"TabFonteCom"_L1, "FonteCom"};
+constexpr Famiglia kInternazionale = {"TabFonteInt"_L1, "FonteInt"};
+constexpr Famiglia kCanonica = {"TabFonteCan"_L1, "FonteCan"};
 
 struct VoceFamiglia {
   QLatin1StringView tp;
@@ -26,20 +28,15 @@ struct VoceFamiglia {
 };
 
 constexpr VoceFamiglia kFamiglie[] = {
-    {QLatin1StringView("LIO"), &kInterna},        {QLatin1StringView("LIC"), &kInterna},
-    {QLatin1StringView("LICO"), &kInterna},       {QLatin1StringView("LIOA"), &kInterna},
-    {QLatin1StringView("LIR"), &kInterna},        {QLatin1StringView("LIP"), &kInterna},
-    {QLatin1StringView("LIAB"), &kInterna},       {QLatin1StringView("AC"), &kInterna},
-    {QLatin1StringView("GICO"), &kInterna},       {QLatin1StringView("GICA"), &kInterna},
-    {QLatin1StringView("GIO"), &kInterna},        {QLatin1StringView("GICD"), &kInterna},
-    {QLatin1StringView("GIT"), &kInterna},        {QLatin1StringView("GICC"), &kInterna},
-    {QLatin1StringView("GIA"), &kInterna},        {QLatin1StringView("GIQ"), &kInterna},
-    {QLatin1StringView("GIM"), &kInterna},        {QLatin1StringView("GIAL"), &kInterna},
-    {QLatin1StringView("GIS"), &kInterna},        {QLatin1StringView("GIB"), &kInterna, true},
-    {QLatin1StringView("NIC"), &kComunitaria},    {QLatin1StringView("GEC"), &kComunitaria},
-    {QLatin1StringView("NIT"), &kInternazionale}, {QLatin1StringView("NIA"), &kInternazionale},
-    {QLatin1StringView("GEI"), &kInternazionale}, {QLatin1StringView("FCC"), &kCanonica},
-    {QLatin1StringView("FCG"), &kCanonica},
+    {"LIO"_L1, &kInterna},        {"LIC"_L1, &kInterna},        {"LICO"_L1, &kInterna},
+    {"LIOA"_L1, &kInterna},       {"LIR"_L1, &kInterna},        {"LIP"_L1, &kInterna},
+    {"LIAB"_L1, &kInterna},       {"AC"_L1, &kInterna},         {"GICO"_L1, &kInterna},
+    {"GICA"_L1, &kInterna},       {"GIO"_L1, &kInterna},        {"GICD"_L1, &kInterna},
+    {"GIT"_L1, &kInterna},        {"GICC"_L1, &kInterna},       {"GIA"_L1, &kInterna},
+    {"GIQ"_L1, &kInterna},        {"GIM"_L1, &kInterna},        {"GIAL"_L1, &kInterna},
+    {"GIS"_L1, &kInterna},        {"GIB"_L1, &kInterna, true},  {"NIC"_L1, &kComunitaria},
+    {"GEC"_L1, &kComunitaria},    {"NIT"_L1, &kInternazionale}, {"NIA"_L1, &kInternazionale},
+    {"GEI"_L1, &kInternazionale}, {"FCC"_L1, &kCanonica},       {"FCG"_L1, &kCanonica},
 };
 
 struct SottocampoTesto {
@@ -68,19 +65,15 @@ struct SottocampoChiave {
   const char* colonna;
 };
 
-constexpr SottocampoChiave kStato = {"^s", "IDStato", QLatin1StringView("TabStato"), "stato"};
-constexpr SottocampoChiave kMinistero = {"^o", "IDMinistero", QLatin1StringView("TabMinistero"),
-                                         "MinisteroNorm"};
-constexpr SottocampoChiave kAmministrazione = {
-    "^e", "IDAmministrazione", QLatin1StringView("TabAmministrazione"), "AmministrazioneNorm"};
-constexpr SottocampoChiave kAutorita = {"^e", "IDAutorita", QLatin1StringView("TabAutorita"),
-                                        "AutoritaNorm"};
-constexpr SottocampoChiave kRegione = {"^r", "IDRegione", QLatin1StringView("TabRegione"),
-                                       "regione"};
-constexpr SottocampoChiave kProvincia = {"^p", "IDProvincia", QLatin1StringView("TabProvincia"),
-                                         "provincia"};
-constexpr SottocampoChiave kCitta = {"^i", "IDCitta", QLatin1StringView("TabCitta"), "citta"};
-constexpr SottocampoChiave kSezione = {"^z", "IDSezione", QLatin1StringView("TabSezione"), "sigla"};
+constexpr SottocampoChiave kStato = {"^s", "IDStato", "TabStato"_L1, "stato"};
+constexpr SottocampoChiave kMinistero = {"^o", "IDMinistero", "TabMinistero"_L1, "MinisteroNorm"};
+constexpr SottocampoChiave kAmministrazione = {"^e", "IDAmministrazione", "TabAmministrazione"_L1,
+                                               "AmministrazioneNorm"};
+constexpr SottocampoChiave kAutorita = {"^e", "IDAutorita", "TabAutorita"_L1, "AutoritaNorm"};
+constexpr SottocampoChiave kRegione = {"^r", "IDRegione", "TabRegione"_L1, "regione"};
+constexpr SottocampoChiave kProvincia = {"^p", "IDProvincia", "TabProvincia"_L1, "provincia"};
+constexpr SottocampoChiave kCitta = {"^i", "IDCitta", "TabCitta"_L1, "citta"};
+constexpr SottocampoChiave kSezione = {"^z", "IDSezione", "TabSezione"_L1, "sigla"};
 
 const Famiglia* FamigliaDi(const QString& tp, bool prima) {
   for (const VoceFamiglia& voce : kFamiglie) {

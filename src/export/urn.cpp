@@ -5,6 +5,8 @@
 namespace torvi {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 struct Guardia {
   PassoUrn passo;
   QLatin1StringView prima;
@@ -13,15 +15,14 @@ struct Guardia {
 
 // One act, spelled in as many ways as the archives know it: the differences are meant.
 constexpr Guardia kGuardie[] = {
-    {PassoUrn::Anno,
-     QLatin1StringView("urn:nir:stato:decreto.presidente.repubblica:1959-06-15%3b393"),
-     QLatin1StringView("urn:nir:stato:decreto.presidente.repubblica:1959-06-15%3b393")},
-    {PassoUrn::Mese, QLatin1StringView("urn:nir:presidente.repubblica:decreto:1959-06-15%3b393"),
-     QLatin1StringView("urn:nir:stato:decreto.presidente.repubblica%3b1959-06-15%3b393")},
-    {PassoUrn::Giorno, QLatin1StringView("urn:nir:presidente.repubblica:decreto:1959-06-15%3b393"),
-     QLatin1StringView("urn:nir:stato:decreto.presidente.repubblica:1959-06-15%3b393")},
-    {PassoUrn::Numero, QLatin1StringView("urn:nir:presidente.repubblica:decreto:1959-06-15%3b393"),
-     QLatin1StringView("urn:nir:stato:decreto.presidente.repubblica:1959-06-15;393")},
+    {PassoUrn::Anno, "urn:nir:stato:decreto.presidente.repubblica:1959-06-15%3b393"_L1,
+     "urn:nir:stato:decreto.presidente.repubblica:1959-06-15%3b393"_L1},
+    {PassoUrn::Mese, "urn:nir:presidente.repubblica:decreto:1959-06-15%3b393"_L1,
+     "urn:nir:stato:decreto.presidente.repubblica%3b1959-06-15%3b393"_L1},
+    {PassoUrn::Giorno, "urn:nir:presidente.repubblica:decreto:1959-06-15%3b393"_L1,
+     "urn:nir:stato:decreto.presidente.repubblica:1959-06-15%3b393"_L1},
+    {PassoUrn::Numero, "urn:nir:presidente.repubblica:decreto:1959-06-15%3b393"_L1,
+     "urn:nir:stato:decreto.presidente.repubblica:1959-06-15;393"_L1},
 };
 
 bool Protetta(const QString& urn, PassoUrn passo, bool primaFonte) {
@@ -38,7 +39,7 @@ void EstendiUrn(QString& urn, PassoUrn passo, const QString& valore, bool primaF
   switch (passo) {
     case PassoUrn::Anno:
       // Years are compared as text.
-      if (valore > QLatin1StringView("1947")) {
+      if (valore > "1947"_L1) {
         urn += QLatin1Char(':') + valore;
       } else {
         urn.clear();
@@ -49,7 +50,7 @@ void EstendiUrn(QString& urn, PassoUrn passo, const QString& valore, bool primaF
       urn += QLatin1StringView(valore.size() == 1 ? "-0" : "-") + valore;
       break;
     case PassoUrn::Numero:
-      urn += QLatin1StringView("%3b") + valore;
+      urn += "%3b"_L1 + valore;
       break;
   }
 }

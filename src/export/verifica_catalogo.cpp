@@ -7,11 +7,12 @@
 namespace torvi {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 // "dir p.c.m." is sought as it stands here; "dir. p.c.m." is not sought at all.
 constexpr QLatin1StringView kAttiCoperti[] = {
-    QLatin1StringView("l. cost."), QLatin1StringView("d.l."),       QLatin1StringView("l."),
-    QLatin1StringView("d.p.r."),   QLatin1StringView("d.lg."),      QLatin1StringView("d.p.c.m."),
-    QLatin1StringView("dir p.c.m."), QLatin1StringView("r.d."),
+    "l. cost."_L1, "d.l."_L1,     "l."_L1,         "d.p.r."_L1,
+    "d.lg."_L1,    "d.p.c.m."_L1, "dir p.c.m."_L1, "r.d."_L1,
 };
 
 }  // namespace
