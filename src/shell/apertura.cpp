@@ -1,6 +1,7 @@
 #include "shell/apertura.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 #include "archive/conversione.h"
@@ -17,10 +18,22 @@ namespace {
 void Converti(const QString& percorso, Dialoghi& dialoghi) {
   // Any Jet file can be converted; only an archive should be.
   RichiediArchivio(OpenDatabase(percorso, Accesso::SolaLettura));
-  const Clessidra clessidra(dialoghi);
+  Clessidra clessidra(dialoghi);
   ConvertiInLoco(percorso, [&dialoghi](const QString& cosa, int fatto, int totale) {
     dialoghi.Avanzamento(cosa, fatto, totale);
   });
+  clessidra.Togli();
+  dialoghi.Messaggio(
+      QStringLiteral("Archivio convertito; l'originale è conservato come %1.jet").arg(percorso));
+}
+
+// Found wanting before anything is copied over an archive that is there.
+void RichiediMaster(const QString& master, const QString& destinazione) {
+  if (!QFileInfo::exists(master)) throw ErroreEsecuzione(Errore::FileNonTrovato, master);
+  if (QFileInfo(master) == QFileInfo(destinazione)) {
+    throw ErroreEsecuzione(Errore::AccessoNegato, master);
+  }
+  RichiediArchivio(OpenDatabase(master, Accesso::SolaLettura));
 }
 
 void ScriviInformazioni(const Database& archivio, const QString& informazione) {
@@ -53,14 +66,20 @@ Database ApriArchivio(const QString& percorso, Dialoghi& dialoghi) {
 QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
                      Dialoghi& dialoghi) {
   const QString master = FileArchivio(stato.CartellaApplicazione, QStringLiteral("master.mdb"));
-  if (EFileJet(master)) Converti(master, dialoghi);
   const QString destinazione = NomeMaiuscolo(percorso);
   const QString precedente = TrovaPercorso(destinazione);
+  RichiediMaster(master, precedente);
+  if (EFileJet(master)) Converti(master, dialoghi);
   FileNuovo nuovo(destinazione);
   nuovo.Copia(master);
-  stato.DbArchivio = OpenDatabase(nuovo.Percorso());
-  ScriviInformazioni(stato.DbArchivio, informazione);
-  stato.DbArchivio.Close();
+  try {
+    stato.DbArchivio = OpenDatabase(nuovo.Percorso());
+    ScriviInformazioni(stato.DbArchivio, informazione);
+    stato.DbArchivio.Close();
+  } catch (const ErroreEsecuzione&) {
+    nuovo.Sostituisci();  // what was copied stays
+    throw;
+  }
   nuovo.Sostituisci();
   TogliAltraGrafia(precedente, destinazione);
   return destinazione;

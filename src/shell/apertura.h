@@ -16,7 +16,8 @@ namespace torvi {
 // A new delivery: a copy of the master archive under the upper-cased name, taking the place of a
 // file of that name, with its row of `TabInfo` from `informazione` ("consegna|inizio|centro|anno").
 // DbArchivio is left closed. A master in Jet form is converted first. The file appears when it is
-// complete. No master: error 53; no folder: 76; fewer than four fields: error 9. Result: the path
+// complete; if its row cannot be written it stays as it was copied. No master: error 53; the master
+// itself as target: 70; no folder: 76; fewer than four fields: error 9. Result: the path
 // of the new file.
 QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
                      Dialoghi& dialoghi);

@@ -1,0 +1,19 @@
+// Which menu entries can be used in which phase of the program.
+#pragma once
+
+#include <array>
+#include <span>
+
+namespace torvi {
+
+enum class FaseMenu { NessunArchivio, ArchivioAperto, DopoNuovo, DocumentoAperto };
+
+struct StatoMenu {
+  const char* controllo;
+  std::array<bool, 4> abilitato;  // by FaseMenu
+};
+
+// Entries that are not listed are always enabled.
+[[nodiscard]] std::span<const StatoMenu> StatiMenu();
+
+}  // namespace torvi
