@@ -7,10 +7,10 @@ namespace {
 
 const QStringList& Mesi() {
   static const QStringList mesi = {
-      QStringLiteral("gennaio"), QStringLiteral("febbraio"),  QStringLiteral("marzo"),
-      QStringLiteral("aprile"),  QStringLiteral("maggio"),    QStringLiteral("giugno"),
-      QStringLiteral("luglio"),  QStringLiteral("agosto"),    QStringLiteral("settembre"),
-      QStringLiteral("ottobre"), QStringLiteral("novembre"),  QStringLiteral("dicembre")};
+      QStringLiteral("gennaio"), QStringLiteral("febbraio"), QStringLiteral("marzo"),
+      QStringLiteral("aprile"),  QStringLiteral("maggio"),   QStringLiteral("giugno"),
+      QStringLiteral("luglio"),  QStringLiteral("agosto"),   QStringLiteral("settembre"),
+      QStringLiteral("ottobre"), QStringLiteral("novembre"), QStringLiteral("dicembre")};
   return mesi;
 }
 
@@ -34,6 +34,14 @@ QString RiempiZeri(const QString& testo, int larghezza) {
   return testo.rightJustified(larghezza, QLatin1Char('0'));
 }
 
+QString Trim(const QString& testo) {
+  qsizetype inizio = 0;
+  qsizetype fine = testo.size();
+  while (inizio < fine && testo[inizio] == QLatin1Char(' ')) ++inizio;
+  while (fine > inizio && testo[fine - 1] == QLatin1Char(' ')) --fine;
+  return testo.sliced(inizio, fine - inizio);
+}
+
 QString NomeMese(QString& mese) {
   if (mese.startsWith(QLatin1Char('0'))) mese.remove(0, 1);
   for (int numero = 1; numero <= Mesi().size(); ++numero) {
@@ -42,8 +50,6 @@ QString NomeMese(QString& mese) {
   return {};
 }
 
-QString NumeroMese(const QString& nome) {
-  return QString::number(Mesi().indexOf(nome) + 1);
-}
+QString NumeroMese(const QString& nome) { return QString::number(Mesi().indexOf(nome) + 1); }
 
 }  // namespace torvi

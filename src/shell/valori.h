@@ -9,6 +9,8 @@ namespace torvi {
 [[nodiscard]] double Val(QStringView testo);
 // "0" on the left up to the width; a longer text stays as it is.
 [[nodiscard]] QString RiempiZeri(const QString& testo, int larghezza);
+// Without the blanks at both ends; line breaks and tabs stay.
+[[nodiscard]] QString Trim(const QString& testo);
 // Month number as text to its Italian name in lower case. One leading "0" is dropped, also in the
 // caller's variable. Anything but 1 to 12 gives the empty string.
 [[nodiscard]] QString NomeMese(QString& mese);
