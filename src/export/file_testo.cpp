@@ -68,7 +68,7 @@ FileTesto::~FileTesto() {
   }
 }
 
-void FileTesto::Print(QStringView riga) {
+void FileTesto::Print(const QString& riga) {
   QByteArray byte = ConvertiAnsi(riga);
   byte += "\r\n";
   ScriviBlocco(byte);

@@ -22,17 +22,18 @@ class FileTesto {
   ~FileTesto();
 
   // A line in Windows-1252, with its CR LF.
-  void Print(QStringView riga);
+  void Print(const QString& riga);
   // Bytes as they stand, kept together: they reach the file whole or not at all.
   void ScriviBlocco(const QByteArray& byte);
   // The next line without its end (CR LF, LF or CR), or nothing at the end of the file.
   [[nodiscard]] std::optional<QString> LineInput();
-  // Writes what is pending and closes; a failure is thrown here, not in the destructor.
+  // Writes what is pending.
+  void Svuota();
+  // The same, and closes; a failure is thrown here, not in the destructor.
   void Close();
   [[nodiscard]] QString Percorso() const { return file_.fileName(); }
 
  private:
-  void Svuota();
   void RiduciAiBlocchiInteri(qsizetype scritti);
   [[nodiscard]] bool Leggi();
 
