@@ -1,0 +1,100 @@
+#include "export/testi.h"
+
+#include <array>
+
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+QString Nome(const Recordset& riga) {
+  const QString primo = Trim(riga.Fields("PrimoElemento").Testo());
+  if (riga.Fields("flagCollettivo").Logico()) return primo;
+  return primo + QLatin1Char('+') + Trim(riga.Fields("SecondoElemento").Testo());
+}
+
+// Blanks around every backslash, and every pair of blanks closed up in one pass.
+QString Normalizza(QString testo) {
+  testo.replace("\\"_L1, " \\ "_L1);
+  testo.replace("  "_L1, " "_L1);
+  return testo;
+}
+
+struct Mancanza {
+  char16_t tipo;
+  bool (*daSegnalare)(const QString& td, const QString& tAbs);
+  const char* messaggio;  // null: "Manca " and the name of the text
+};
+
+constexpr std::array kMancanze = {
+    Mancanza{u'0', [](const QString&, const QString&) { return true; }, nullptr},
+    Mancanza{u'1',
+             [](const QString&, const QString& tAbs) {
+               return tAbs != "700"_L1 && tAbs != "600"_L1 && tAbs != "400"_L1;
+             },
+             "Manca riassunto e TABS <> 600, 700, 400: "},
+    Mancanza{u'2', [](const QString&, const QString& tAbs) { return tAbs == "600"_L1; },
+             "Manca sommario e TABS = 600: "},
+    Mancanza{u'4', [](const QString& td, const QString&) { return td != "01"_L1; },
+             "Manca nota e TD <> 01: "},
+    Mancanza{u'7', [](const QString&, const QString& tAbs) { return tAbs == "700"_L1; },
+             "Manca 'In tema di' e TABS = 700: "},
+};
+
+QString MessaggioMancanza(const CampoTesto& campo, const QString& td, const QString& tAbs) {
+  for (const Mancanza& mancanza : kMancanze) {
+    if (campo.tipo != QStringView(&mancanza.tipo, 1) || !mancanza.daSegnalare(td, tAbs)) continue;
+    if (mancanza.messaggio != nullptr) return QString::fromUtf8(mancanza.messaggio);
+    return "Manca "_L1 + campo.nome + ": "_L1;
+  }
+  return {};
+}
+
+}  // namespace
+
+void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
+  Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
+      QStringLiteral("select * from legameDocResp, tabResponsabilita where legameDocResp.IDDoc= ? "
+                     "and legameDocResp.IDResponsabilita = tabResponsabilita.IDResponsabilita"),
+      {idDoc});
+  if (riga.Eof()) {
+    contesto.fileErrori.Print("Manca autore/curatore: "_L1 + idRecord);
+    return;
+  }
+  const QString& tag = riga.Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
+  QString nomi = Nome(riga);
+  for (riga.MoveNext(); !riga.Eof(); riga.MoveNext()) nomi += "\\ "_L1 + Nome(riga);
+  contesto.record.AggiungiTesto(tag, nomi);
+}
+
+bool ScriviTesto(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
+                 const CampoTesto& campo, const QString& td, const QString& tAbs) {
+  const Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
+      QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDDoc = ?and "
+                     "legameDocTesto.Tipo = ? and legameDocTesto.IDTesto = tabTesto.IDTesto"),
+      {idDoc, campo.tipo});
+  if (riga.Eof()) {
+    const QString messaggio = MessaggioMancanza(campo, td, tAbs);
+    if (!messaggio.isEmpty()) contesto.fileErrori.Print(messaggio + idRecord);
+    return false;
+  }
+  const QString testo = Normalizza(riga.Fields("testo").Testo());
+  contesto.record.AggiungiTesto(campo.tag, testo);
+  if (campo.tag == tag::kTraduzione && testo.contains(QLatin1Char('['))) {
+    contesto.fileErrori.Print("Traduzione del titolo immessa dal compilatore: "_L1 + idRecord);
+  }
+  return true;
+}
+
+bool EsisteNota(const ContestoEsportazione& contesto, qint64 idDoc) {
+  Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
+      QStringLiteral("select * from legameDocTesto where legameDocTesto.IDDoc = ?"), {idDoc});
+  for (; !riga.Eof(); riga.MoveNext()) {
+    if (riga.Fields("tipo").TestoOVuoto() == "4"_L1) return true;
+  }
+  return false;
+}
+
+}  // namespace torvi

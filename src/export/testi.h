@@ -1,0 +1,26 @@
+// The fields of people and of running text, and the checks that ask whether a text which the
+// document calls for is there.
+#pragma once
+
+#include "export/contesto.h"
+
+namespace torvi {
+
+// One text of a document: its `Tipo`, the name in the message that it is missing, its tag.
+struct CampoTesto {
+  QString tipo;
+  QString nome;
+  QString tag;
+};
+
+// Authors or curators: one field for all names, under the tag of the first. A single name without
+// `SecondoElemento` (Null): error 94.
+void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord);
+
+// True if the text is there and was appended.
+bool ScriviTesto(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
+                 const CampoTesto& campo, const QString& td, const QString& tAbs);
+
+[[nodiscard]] bool EsisteNota(const ContestoEsportazione& contesto, qint64 idDoc);
+
+}  // namespace torvi
