@@ -1,0 +1,119 @@
+#include "export/classi.h"
+
+namespace torvi {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+const QLatin1Char kSeparatore('\\');
+constexpr qsizetype kCodice = 5;  // characters of a systematic code and of a descriptor's
+
+// Pieces of CodiciClasse, cut by position, and the tables that decode them.
+class Decodificatore2000 {
+ public:
+  explicit Decodificatore2000(const Database& archivio)
+      : sistematici_(archivio.OpenRecordset(QStringLiteral("tabClasse2000-S"))),
+        descrittori_(archivio.OpenRecordset(QStringLiteral("tabClasse2000-D"))) {
+    sistematici_.Index("CodiceS");
+    descrittori_.Index("CodiceD");
+  }
+
+  [[nodiscard]] QString Sistematico(const QString& codice, const QString& separatore) {
+    sistematici_.Seek(codice);
+    return sistematici_.Fields("sigla").Testo() + separatore +
+           sistematici_.Fields("descrizione").Testo();
+  }
+
+  // Empty for a piece without descriptor. What is no code of a descriptor is free text.
+  [[nodiscard]] QString Descrittore(const QString& pezzo) {
+    if (pezzo.mid(kCodice, 1) != ";"_L1) return {};
+    descrittori_.Seek(pezzo.mid(kCodice + 1, kCodice));
+    return "; "_L1 + (descrittori_.NoMatch() ? pezzo.mid(kCodice + 1)
+                                             : descrittori_.Fields("descrizione").Testo());
+  }
+
+ private:
+  Recordset sistematici_;
+  Recordset descrittori_;
+};
+
+// One code of the scheme before 2000: its own row, with that of its parent unless it stands at the
+// top.
+Recordset ApriCodice1999(const Database& archivio, const QString& codice, bool principale) {
+  if (principale) {
+    return archivio.OpenRecordset(
+        QStringLiteral("SELECT TabClasse1999.CODICE, TabClasse1999.DESCRIZIONE FROM TabClasse1999 "
+                       "WHERE TabClasse1999.CODICE = ?"),
+        {codice});
+  }
+  return archivio.OpenRecordset(
+      QStringLiteral("SELECT TabClasse1999.CODICE, TabClasse1999.DESCRIZIONE, "
+                     "TabClasse1999_1.CODICE AS CODICE_P, TabClasse1999_1.DESCRIZIONE AS "
+                     "DESCRIZIONE_P FROM TabClasse1999 inner JOIN TabClasse1999 AS TabClasse1999_1 "
+                     "ON TabClasse1999.ID_PADRE = TabClasse1999_1.IDClasse1999 WHERE "
+                     "TabClasse1999.CODICE = ?"),
+      {codice});
+}
+
+bool Principale(const QString& codice) {
+  return codice.size() == 2 || (codice.size() == 3 && codice.left(2).toUpper() == "D9"_L1);
+}
+
+// "(Descrizione)", or "(Padre: Descrizione)".
+QString Descrizione1999(const Database& archivio, const QString& codice) {
+  const bool principale = Principale(codice);
+  const Recordset riga = ApriCodice1999(archivio, codice, principale);
+  QString descrizione = riga.Fields("descrizione").Testo();
+  if (!principale) {
+    descrizione = riga.Fields("descrizione_p").Testo() + ": "_L1 + descrizione;
+  }
+  return QLatin1Char('(') + descrizione + QLatin1Char(')');
+}
+
+void ScriviClassi1999(ContestoEsportazione& contesto, bool conCodice) {
+  QStringList classi;
+  for (const QString& codice : contesto.CodiciClasse.split(kSeparatore)) {
+    QString classe = PuntaCodice(codice) + QLatin1Char(' ');
+    if (conCodice) classe += codice + QLatin1Char(' ');
+    classi += classe + Descrizione1999(contesto.stato.DbArchivio, codice);
+  }
+  contesto.record.AggiungiTesto(tag::kClassi1999, classi.join(kSeparatore));
+}
+
+}  // namespace
+
+void ScriviClassiStorico(ContestoEsportazione& contesto) {
+  if (!contesto.stato.Dopo2000) {
+    ScriviClassi1999(contesto, false);
+    return;
+  }
+  Decodificatore2000 decodificatore(contesto.stato.DbArchivio);
+  QStringList classi;
+  for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
+    classi += decodificatore.Sistematico(pezzo.left(kCodice), QStringLiteral("|")) +
+              decodificatore.Descrittore(pezzo);
+  }
+  contesto.record.AggiungiTesto(tag::kClassiStorico, classi.join(kSeparatore));
+}
+
+void ScriviClassiCassazione(ContestoEsportazione& contesto) {
+  if (!contesto.stato.Dopo2000) {
+    ScriviClassi1999(contesto, true);
+    return;
+  }
+  Decodificatore2000 decodificatore(contesto.stato.DbArchivio);
+  QString classi;
+  QString ultimo;
+  for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
+    const QString codice = pezzo.left(kCodice);
+    if (codice != ultimo) {
+      if (!classi.isEmpty()) classi += kSeparatore;
+      classi += decodificatore.Sistematico(codice, QStringLiteral(" "));
+    }
+    classi += decodificatore.Descrittore(pezzo);
+    ultimo = codice;
+  }
+  contesto.record.AggiungiTesto(tag::kClassiCassazione, classi);
+}
+
+}  // namespace torvi
