@@ -1,0 +1,123 @@
+#include "export/esporta_ascii.h"
+
+#include "export/catalogo_norme.h"
+#include "export/contesto.h"
+#include "export/esporta_documento.h"
+#include "shell/consegna.h"
+#include "shell/percorsi.h"
+
+namespace torvi {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+// Where a run writes: a new set of files, or the common file of several deliveries.
+struct Destinazione {
+  QString uscita;
+  QString estensione;  // of the error files
+  Apertura apertura = Apertura::Scrittura;
+};
+
+class FileEsportazione {
+ public:
+  FileEsportazione(const StatoGlobale& stato, const Destinazione& destinazione)
+      : uscita_(destinazione.uscita, destinazione.apertura),
+        errori_(FileErrori(stato, "errori.", destinazione), destinazione.apertura),
+        errClasse_(FileErrori(stato, "errClasse.", destinazione), destinazione.apertura),
+        errFonte_(FileErrori(stato, "errFonte.", destinazione), destinazione.apertura) {
+    if (destinazione.apertura != Apertura::Aggiunta) return;
+    for (FileTesto* file : {&errori_, &errClasse_, &errFonte_}) {
+      file->Print("Consegna "_L1 + stato.SiglaConsegna);
+    }
+  }
+
+  [[nodiscard]] FileTesto& Uscita() { return uscita_; }
+  [[nodiscard]] ContestoEsportazione Contesto(StatoGlobale& stato, Record& record,
+                                              CatalogoNorme& catalogo) {
+    return {stato, record, errori_, errClasse_, errFonte_, catalogo};
+  }
+
+  // The empty lines stand for a run that came to its end, so all it found must be on disk first.
+  void Chiudi() {
+    for (FileTesto* file : {&uscita_, &errori_, &errClasse_, &errFonte_}) file->Svuota();
+    for (FileTesto* file : {&errori_, &errClasse_, &errFonte_}) file->Print({});
+    for (FileTesto* file : {&errori_, &uscita_, &errClasse_, &errFonte_}) file->Close();
+  }
+
+ private:
+  static QString FileErrori(const StatoGlobale& stato, const char* nome,
+                            const Destinazione& destinazione) {
+    return FileUscita(stato.CartellaApplicazione, QLatin1String(nome) + destinazione.estensione);
+  }
+
+  FileTesto uscita_;
+  FileTesto errori_;
+  FileTesto errClasse_;
+  FileTesto errFonte_;
+};
+
+QString NomeUscita(const FlagEsportazione& flag) {
+  if (flag.flagIsis) return QStringLiteral("lexxdump isis.");
+  return flag.flagCassazione ? QStringLiteral("lexxdump cassazione.")
+                             : QStringLiteral("lexxdump storico.");
+}
+
+Destinazione Accodata(const StatoGlobale& stato) {
+  return {stato.FileBatch, stato.FileBatch.right(3), Apertura::Aggiunta};
+}
+
+// What the operator answers before a run from the menu.
+Destinazione ChiediDestinazione(StatoGlobale& stato, Dialoghi& dialoghi,
+                                const FlagEsportazione& flag) {
+  stato.ControlloFonti =
+      dialoghi.Domanda(QStringLiteral("Controllo presenza fonti?"),
+                       QStringLiteral("Esportazione per ISIS"), Pulsanti::SiNo) == Risposta::Si;
+  RegistraUsoFunzione(stato, QStringLiteral("1"));
+  if (dialoghi.Domanda(QStringLiteral("Accodare risultato dell'esportazione?"),
+                       QStringLiteral("Esportazione"), Pulsanti::SiNo) == Risposta::Si) {
+    stato.FileBatch.clear();
+    stato.FileBatch = dialoghi.ScegliFileUscita(stato.CartellaApplicazione + "/Dump"_L1,
+                                                QStringLiteral("lexxdump*.*"), true);
+    return Accodata(stato);
+  }
+  return {FileUscita(stato.CartellaApplicazione, NomeUscita(flag) + stato.SiglaConsegna),
+          stato.SiglaConsegna, Apertura::Scrittura};
+}
+
+void EsportaDocumenti(ContestoEsportazione& contesto, Dialoghi& dialoghi,
+                      const FlagEsportazione& flag, FileTesto& uscita) {
+  constexpr int kPasso = 100;
+  const Database& archivio = contesto.stato.DbArchivio;
+  const qint64 totale =
+      archivio.OpenRecordset(QStringLiteral("select count(*) as quanti from tabDocumento"))
+          .Fields("quanti")
+          .Intero();
+  Recordset documenti =
+      archivio.OpenRecordset(QStringLiteral("select * from tabDocumento order by IDDocumento"));
+  documenti.MoveFirst();
+  for (int fatto = 0; !documenti.Eof(); documenti.MoveNext(), ++fatto) {
+    if (fatto % kPasso == 0) {
+      dialoghi.Avanzamento(QStringLiteral("Esportazione"), fatto, static_cast<int>(totale));
+    }
+    EsportaDocumento(contesto, flag, documenti, uscita);
+  }
+}
+
+}  // namespace
+
+void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag) {
+  Clessidra clessidra(dialoghi);
+  LeggiInfoConsegna(stato);
+  const Destinazione destinazione =
+      stato.ModoBatch ? Accodata(stato) : ChiediDestinazione(stato, dialoghi, flag);
+  FileEsportazione file(stato, destinazione);
+  Record record;
+  CatalogoNorme catalogo(stato.CartellaApplicazione);
+  ContestoEsportazione contesto = file.Contesto(stato, record, catalogo);
+  EsportaDocumenti(contesto, dialoghi, flag, file.Uscita());
+  file.Chiudi();
+  clessidra.Togli();
+  dialoghi.Messaggio("Fine esportazione della consegna "_L1 + stato.SiglaConsegna);
+}
+
+}  // namespace torvi

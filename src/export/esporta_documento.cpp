@@ -1,0 +1,167 @@
+#include "export/esporta_documento.h"
+
+#include <array>
+
+#include "export/classi.h"
+#include "export/elenco_fonti.h"
+#include "export/fonti_etichettate.h"
+#include "export/riferimento.h"
+#include "export/testi.h"
+#include "shell/consegna.h"
+
+namespace torvi {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+// The tag of the note follows from the document's type; a type that is not here has no note field.
+struct TagNota {
+  const char* td;
+  const char* tag;
+};
+constexpr std::array kTagNota = {TagNota{"02", "20"}, TagNota{"03", "15"}, TagNota{"04", "16"},
+                                 TagNota{"07", "17"}, TagNota{"08", "18"}, TagNota{"09", "19"}};
+
+class Documento {
+ public:
+  Documento(ContestoEsportazione& contesto, const FlagEsportazione& flag, const Recordset& riga)
+      : contesto_(contesto),
+        flag_(flag),
+        riga_(riga),
+        idDoc_(riga.Fields("IDDocumento").Intero()),
+        idRecord_(contesto.stato.PrefissoDoc + NumeroDoc(contesto.stato)) {}
+
+  void Componi();
+
+ private:
+  void Identifica();
+  void Riferimento();
+  void TitoloETraduzione();
+  void Nota();
+  void Testi();
+  void Fonti();
+  void Classificazione();
+
+  bool Testo(const char* tipo, const char* nome, const QString& tag);
+  void Segnala(const char* messaggio, const QString& coda);
+
+  ContestoEsportazione& contesto_;
+  const FlagEsportazione& flag_;
+  const Recordset& riga_;
+  qint64 idDoc_;
+  QString idRecord_;
+  QString td_;
+  QString tAbs_;
+  bool traduzione_ = false;
+};
+
+void Documento::Componi() {
+  Identifica();
+  Riferimento();
+  const bool straniero = riga_.Fields("LIN").Testo() != "00"_L1;
+  ScriviResponsabili(contesto_, idDoc_, idRecord_);
+  td_ = riga_.Fields("td").Testo();
+  tAbs_ = riga_.Fields("TAbs").Testo();
+  TitoloETraduzione();
+  if (straniero) {
+    Segnala(traduzione_ ? "Contributo in lingua straniera: "
+                        : "Contributo in lingua straniera senza traduzione del titolo: ",
+            idRecord_);
+  }
+  Nota();
+  Testi();
+  Fonti();
+  Classificazione();
+  Testo("6", "nota amb", tag::kNotaAmb);
+}
+
+void Documento::Identifica() {
+  const QString& prefisso = contesto_.stato.PrefissoDoc;
+  contesto_.record.Azzera();
+  contesto_.record.AggiungiRiga(tag::kIdentificativo, idRecord_);
+  contesto_.record.AggiungiRiga(tag::kNumero, "AP="_L1 + prefisso.left(4) + " NP="_L1 +
+                                                  prefisso.mid(4, 1) + NumeroDoc(contesto_.stato));
+}
+
+void Documento::Riferimento() {
+  bool completo = true;
+  for (const char* colonna : {"IDRifBibl", "pagine", "td", "TAbs", "Bib"}) {
+    completo = completo && riga_.Fields(colonna).Presente();
+  }
+  ScriviRiferimento(contesto_, idDoc_, idRecord_,
+                    {.IDRifBibl = riga_.Fields("IDRifBibl").Intero16(),
+                     .pagine = riga_.Fields("pagine").TestoOVuoto(),
+                     .td = riga_.Fields("td").TestoOVuoto(),
+                     .TAbs = riga_.Fields("TAbs").TestoOVuoto(),
+                     .Bib = riga_.Fields("Bib").TestoOVuoto(),
+                     .LIN = riga_.Fields("LIN").Testo(),
+                     .lo = riga_.Fields("lo").Testo(),
+                     .lr = riga_.Fields("lr").Testo(),
+                     .la = riga_.Fields("la").Testo()});
+  if (!completo) Segnala("Errori sui dati bibliografici: ", idRecord_);
+}
+
+void Documento::TitoloETraduzione() {
+  Testo("0", "titolo", tag::kTitolo);
+  traduzione_ = Testo("3", "traduzione", tag::kTraduzione);
+}
+
+void Documento::Nota() {
+  if (td_ == "01"_L1) {
+    if (EsisteNota(contesto_, idDoc_)) {
+      Segnala("TD = 01 e presenza nota: ",
+              idRecord_ + " (record = "_L1 + QString::number(idDoc_) + QLatin1Char(')'));
+    }
+    return;
+  }
+  for (const TagNota& nota : kTagNota) {
+    if (td_ == QLatin1String(nota.td)) Testo("4", "nota", QString::fromLatin1(nota.tag));
+  }
+}
+
+void Documento::Testi() {
+  Testo("1", "riassunto", tag::kRiassunto);
+  Testo("2", "sommario", tag::kSommario);
+  Testo("7", "in tema di", tag::kInTemaDi);
+  const bool inglese = Testo("8", "english abstract", tag::kEnglishAbstract);
+  if (inglese && !traduzione_) {
+    Segnala("C'è abstract in inglese e manca traduzione del titolo: rec. ",
+            QString::number(idDoc_));
+  }
+}
+
+void Documento::Fonti() {
+  ScriviElencoFonti(contesto_, idDoc_, idRecord_);
+  if (flag_.flagIsis) ScriviFontiEtichettate(contesto_, idDoc_);
+}
+
+void Documento::Classificazione() {
+  const bool dopo2000 = contesto_.stato.Dopo2000;
+  contesto_.CodiciClasse = LeggiClassi(contesto_, idDoc_, idRecord_);
+  if (flag_.flagStorico && dopo2000) {
+    contesto_.record.AggiungiTesto(tag::kCodiciClasse, contesto_.CodiciClasse);
+  }
+  if (contesto_.CodiciClasse.isEmpty()) return;
+  if (flag_.flagStorico && (!flag_.flagCassazione || dopo2000)) ScriviClassiStorico(contesto_);
+  if (flag_.flagCassazione) ScriviClassiCassazione(contesto_);
+}
+
+bool Documento::Testo(const char* tipo, const char* nome, const QString& tag) {
+  return ScriviTesto(contesto_, idDoc_, idRecord_,
+                     {QString::fromLatin1(tipo), QString::fromLatin1(nome), tag}, td_, tAbs_);
+}
+
+void Documento::Segnala(const char* messaggio, const QString& coda) {
+  contesto_.fileErrori.Print(QString::fromUtf8(messaggio) + coda);
+}
+
+}  // namespace
+
+void EsportaDocumento(ContestoEsportazione& contesto, const FlagEsportazione& flag,
+                      const Recordset& riga, FileTesto& uscita) {
+  Documento(contesto, flag, riga).Componi();
+  contesto.record.ScriviRecord(uscita);
+  contesto.stato.ContatoreDoc = Intero16(contesto.stato.ContatoreDoc + 1);
+}
+
+}  // namespace torvi
