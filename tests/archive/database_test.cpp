@@ -1,0 +1,150 @@
+#include "archive/database.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <csignal>
+
+#include "comune/cartella_di_prova.h"
+
+namespace torvi {
+namespace {
+
+int Quante(const Database& db) {
+  return static_cast<int>(db.OpenRecordset(QStringLiteral("select count(IDTesto) as n from TabTesto"))
+                              .Fields("n")
+                              .Intero());
+}
+
+void AggiungiTesto(const Database& db, const QString& testo) {
+  Aggiungi(db, QStringLiteral("TabTesto"), {{"testo", testo}});
+}
+
+TEST(DatabaseTest, CioCheNonSiApreHaIlSuoNumeroENomeERestaComEra) {
+  const CartellaDiProva cartella;
+  ScriviByte(cartella.Mdb("vuoto.mdb"), {});
+  ScriviByte(cartella.Mdb("parole.mdb"), "non sono un archivio, sono parole");
+  ScriviByte(cartella.Mdb("mozzo.mdb"), QByteArray("SQLite format 3\0", 16) + "troncato");
+  QDir(cartella.Percorso()).mkpath(QStringLiteral("mdb/cartella.mdb"));
+  const struct {
+    int numero;
+    const char* nome;
+  } casi[] = {{3024, "manca.mdb"},
+              {3343, "vuoto.mdb"},
+              {3343, "parole.mdb"},
+              {3343, "mozzo.mdb"},
+              {3343, "cartella.mdb"}};
+  for (const auto& caso : casi) {
+    const QString percorso = cartella.Mdb(caso.nome);
+    const QFileInfo prima(percorso);
+    const qint64 lunga = prima.size();
+    try {
+      (void)OpenDatabase(percorso);
+      ADD_FAILURE() << caso.nome;
+    } catch (const ErroreEsecuzione& errore) {
+      EXPECT_EQ(caso.numero, errore.Numero()) << caso.nome;
+      EXPECT_TRUE(errore.Descrizione().contains(percorso)) << errore.what();
+    }
+    EXPECT_EQ(lunga, QFileInfo(percorso).size()) << caso.nome;
+  }
+  EXPECT_FALSE(QFile::exists(cartella.Mdb("manca.mdb")));
+}
+
+TEST(DatabaseTest, UnArchivioBloccatoDaUnAltroDiceInUso) {
+  const CartellaDiProva cartella;
+  Database mia = cartella.NuovaConsegna();
+  const Database altra = OpenDatabase(mia.Name());
+  const UnitaDiScrittura blocco(mia);
+  EXPECT_EQ(3260, NumeroErrore([&] { AggiungiTesto(altra, QStringLiteral("x")); }));
+  EXPECT_EQ(0, Quante(altra));
+}
+
+TEST(DatabaseTest, InSolaLetturaSiLeggeENonSiScrive) {
+  const CartellaDiProva cartella;
+  Database mia = cartella.NuovaConsegna();
+  AggiungiTesto(mia, QStringLiteral("x"));
+  const Database sola = OpenDatabase(mia.Name(), Accesso::SolaLettura);
+  EXPECT_EQ(1, Quante(sola));
+  EXPECT_EQ(3027, NumeroErrore([&] { AggiungiTesto(sola, QStringLiteral("y")); }));
+  EXPECT_EQ(3027, NumeroErrore([&] { const UnitaDiScrittura unita(sola); }));
+}
+
+TEST(DatabaseTest, UnUnitaLasciataPerUnErroreTieneIPassiFatti) {
+  const CartellaDiProva cartella;
+  const Database mia = cartella.NuovaConsegna();
+  const int numero = NumeroErrore([&] {
+    const UnitaDiScrittura esterna(mia);
+    AggiungiTesto(mia, QStringLiteral("prima"));
+    const UnitaDiScrittura interna(mia);
+    mia.Execute(QStringLiteral("delete * from TabNessuna"));
+  });
+  EXPECT_EQ(3078, numero);
+  EXPECT_EQ(1, Quante(OpenDatabase(mia.Name())));
+}
+
+TEST(DatabaseTest, UnaMorteAMezzaUnitaLasciaLoStatoDiPrima) {
+  const CartellaDiProva cartella;
+  QString percorso;
+  {
+    Database mia = cartella.NuovaConsegna();
+    percorso = mia.Name();
+    AggiungiTesto(mia, QStringLiteral("prima"));
+    mia.Close();
+  }
+  const pid_t figlio = fork();
+  if (figlio == 0) {
+    const Database mia = OpenDatabase(percorso);
+    const UnitaDiScrittura unita(mia);
+    // Enough to spill from the engine's cache into the file before the end.
+    for (int i = 0; i < 400; ++i) AggiungiTesto(mia, QString(100000, QLatin1Char('x')));
+    (void)raise(SIGKILL);
+  }
+  int stato = 0;
+  ASSERT_EQ(figlio, waitpid(figlio, &stato, 0));
+  ASSERT_TRUE(WIFSIGNALED(stato));
+  EXPECT_EQ(1, Quante(OpenDatabase(percorso)));
+}
+
+TEST(DatabaseTest, UnDiscoPienoELErrore61ELArchivioRestaBuono) {
+  const CartellaDiProva cartella;
+  Database mia = cartella.NuovaConsegna();
+  AggiungiTesto(mia, QStringLiteral("prima"));
+  (void)signal(SIGXFSZ, SIG_IGN);
+  rlimit prima{};
+  ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &prima));
+  rlimit stretto = prima;
+  stretto.rlim_cur = static_cast<rlim_t>(QFileInfo(mia.Name()).size()) + 4096;
+  ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &stretto));
+  const int numero = NumeroErrore([&] { AggiungiTesto(mia, QString(1000000, QLatin1Char('x'))); });
+  ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &prima));
+  // The limit answers as a failing device or as a full one, by the file system.
+  EXPECT_TRUE(numero == 61 || numero == 57) << numero;
+  EXPECT_EQ(1, Quante(mia));
+  AggiungiTesto(mia, QStringLiteral("dopo"));
+  EXPECT_EQ(2, Quante(mia));
+}
+
+TEST(DatabaseTest, UnFileJetSiLeggeEDiceDiNonPotersiScrivere) {
+  const QString genuino = FileGenuino(QStringLiteral("catalogo norme.mdb"));
+  if (genuino.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
+  const Database catalogo = OpenDatabase(genuino);
+  EXPECT_EQ(36, catalogo.OpenRecordset(QStringLiteral("select count(id) as n from tabCatalogo"))
+                    .Fields("n")
+                    .Intero());
+  Recordset righe = catalogo.OpenRecordset(QStringLiteral("tabCatalogo"));
+  righe.Index("PD");
+  righe.Seek("pd00106");
+  EXPECT_EQ("2359", righe.Fields("numero").Testo());
+  EXPECT_EQ(3027, NumeroErrore([&] { catalogo.Execute(QStringLiteral("delete * from PD")); }));
+}
+
+TEST(LetteraleTest, RaddoppiaLeVirgolette) {
+  EXPECT_EQ(QStringLiteral("\"detto \"\"fatto\"\"\""), Letterale(QStringLiteral("detto \"fatto\"")));
+}
+
+}  // namespace
+}  // namespace torvi
