@@ -9,14 +9,14 @@ namespace {
 
 class RecordsetTest : public testing::Test {
  protected:
-  qint64 Rivista(const char* cper, const char* titolo) {
-    return Aggiungi(db_, QStringLiteral("TabRivista"), {{"CPER", cper}, {"TitoloRivista", titolo}});
+  qint64 Sezione(const char* sigla, const char* nome) {
+    return Aggiungi(db_, QStringLiteral("TabSezione"), {{"sigla", sigla}, {"sezione", nome}});
   }
-  // The journal codes in the order of the moves.
+  // The codes in the order of the moves.
   static QString Codici(Recordset& righe, bool avanti = true) {
     QStringList codici;
     while (avanti ? !righe.Eof() : !righe.Bof()) {
-      codici += righe.Fields("cper").TestoOVuoto();
+      codici += righe.Fields("Sigla").TestoOVuoto();
       avanti ? righe.MoveNext() : righe.MovePrevious();
     }
     return codici.join(' ');
@@ -27,20 +27,20 @@ class RecordsetTest : public testing::Test {
 };
 
 TEST_F(RecordsetTest, SenzaRigheEAiDueEstremi) {
-  for (const char* origine : {"TabRivista", "select * from TabRivista"}) {
+  for (const char* origine : {"TabSezione", "select * from TabSezione"}) {
     Recordset righe = db_.OpenRecordset(origine);
     EXPECT_TRUE(righe.Eof() && righe.Bof()) << origine;
     EXPECT_EQ(3021, NumeroErrore([&] { righe.MoveFirst(); })) << origine;
     EXPECT_EQ(3021, NumeroErrore([&] { righe.MoveLast(); })) << origine;
     EXPECT_EQ(3021, NumeroErrore([&] { righe.MoveNext(); })) << origine;
     EXPECT_EQ(3021, NumeroErrore([&] { righe.MovePrevious(); })) << origine;
-    EXPECT_EQ(3021, NumeroErrore([&] { (void)righe.Fields("CPER"); })) << origine;
+    EXPECT_EQ(3021, NumeroErrore([&] { (void)righe.Fields("sigla"); })) << origine;
   }
 }
 
 TEST_F(RecordsetTest, SiMuoveAvantiEIndietroNellOrdineDeiPosti) {
-  for (const char* cper : {"ZZ", "aa", "MM"}) Rivista(cper, "t");
-  for (const char* origine : {"tabrivista", "select * from tabRivista"}) {
+  for (const char* sigla : {"ZZ", "aa", "MM"}) Sezione(sigla, "t");
+  for (const char* origine : {"tabsezione", "select * from tabSezione"}) {
     Recordset righe = db_.OpenRecordset(origine);
     EXPECT_EQ("ZZ aa MM", Codici(righe)) << origine;
     EXPECT_EQ(3021, NumeroErrore([&] { righe.MoveNext(); })) << origine;
@@ -48,19 +48,19 @@ TEST_F(RecordsetTest, SiMuoveAvantiEIndietroNellOrdineDeiPosti) {
     EXPECT_EQ("MM aa ZZ", Codici(righe, false)) << origine;
     EXPECT_EQ(3021, NumeroErrore([&] { righe.MovePrevious(); })) << origine;
     righe.MoveNext();
-    EXPECT_EQ("ZZ", righe.Fields("CPER").Testo()) << origine;
+    EXPECT_EQ("ZZ", righe.Fields("sigla").Testo()) << origine;
     righe.MoveLast();
-    EXPECT_EQ("MM", righe.Fields("CPER").Testo()) << origine;
+    EXPECT_EQ("MM", righe.Fields("sigla").Testo()) << origine;
     righe.MoveFirst();
-    EXPECT_EQ("ZZ", righe.Fields("CPER").Testo()) << origine;
+    EXPECT_EQ("ZZ", righe.Fields("sigla").Testo()) << origine;
   }
 }
 
 TEST_F(RecordsetTest, UnIndiceOrdinaIMovimentiESenzaRiguardoAlleMaiuscole) {
-  for (const char* cper : {"ZZ", "aa", "MM", "AA"}) Rivista(cper, "t");
-  Aggiungi(db_, QStringLiteral("TabRivista"), {{"TitoloRivista", "senza codice"}});
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabRivista"));
-  righe.Index("CPER");
+  for (const char* sigla : {"ZZ", "aa", "MM", "AA"}) Sezione(sigla, "t");
+  Aggiungi(db_, QStringLiteral("TabSezione"), {{"sezione", "senza codice"}});
+  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  righe.Index("sigla");
   EXPECT_EQ(" aa AA MM ZZ", Codici(righe));
   righe.MovePrevious();
   EXPECT_EQ("ZZ MM AA aa ", Codici(righe, false));
@@ -68,21 +68,21 @@ TEST_F(RecordsetTest, UnIndiceOrdinaIMovimentiESenzaRiguardoAlleMaiuscole) {
 }
 
 TEST_F(RecordsetTest, SeekTrovaLaPrimaDelleUgualiOMancaEAllorNonCERiga) {
-  Rivista("RGI", "prima");
-  const qint64 doppia = Rivista("rgi", "seconda");
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabRivista"));
-  righe.Index("cper");
+  Sezione("RGI", "prima");
+  const qint64 doppia = Sezione("rgi", "seconda");
+  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  righe.Index("Sigla");
   righe.Seek("Rgi");
   ASSERT_FALSE(righe.NoMatch());
-  EXPECT_EQ("prima", righe.Fields("TitoloRivista").Testo());
+  EXPECT_EQ("prima", righe.Fields("sezione").Testo());
   righe.Seek("RG");
   EXPECT_TRUE(righe.NoMatch());
-  EXPECT_EQ(3021, NumeroErrore([&] { (void)righe.Fields("CPER"); }));
+  EXPECT_EQ(3021, NumeroErrore([&] { (void)righe.Fields("sigla"); }));
   righe.Seek(Campo());
   EXPECT_TRUE(righe.NoMatch());
   righe.Index("PrimaryKey");
   righe.Seek(QString::number(doppia));
-  EXPECT_EQ("seconda", righe.Fields("TitoloRivista").Testo());
+  EXPECT_EQ("seconda", righe.Fields("sezione").Testo());
   Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "07"}, {"Lingua", "sardo"}});
   Recordset lingue = db_.OpenRecordset(QStringLiteral("TabLingua"));
   lingue.Index("PrimaryKey");
@@ -91,62 +91,62 @@ TEST_F(RecordsetTest, SeekTrovaLaPrimaDelleUgualiOMancaEAllorNonCERiga) {
 }
 
 TEST_F(RecordsetTest, AddNewLasciaLaRigaCorrenteELastModifiedLaNuova) {
-  Rivista("A", "uno");
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabRivista"));
+  Sezione("A", "uno");
+  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
   righe.AddNew();
-  righe.Assegna("CPER", "B");
-  EXPECT_EQ("B", righe.Fields("cper").Testo());
-  EXPECT_TRUE(righe.Fields("TitoloRivista").Nullo());
+  righe.Assegna("sigla", "B");
+  EXPECT_EQ("B", righe.Fields("Sigla").Testo());
+  EXPECT_TRUE(righe.Fields("sezione").Nullo());
   righe.Update();
-  EXPECT_EQ("A", righe.Fields("CPER").Testo());
+  EXPECT_EQ("A", righe.Fields("sigla").Testo());
   righe.Bookmark(righe.LastModified());
-  EXPECT_EQ("B", righe.Fields("CPER").Testo());
-  EXPECT_EQ(2, righe.Fields("IDRivista").Intero());
-  EXPECT_EQ(3020, NumeroErrore([&] { righe.Assegna("CPER", "C"); }));
+  EXPECT_EQ("B", righe.Fields("sigla").Testo());
+  EXPECT_EQ(2, righe.Fields("IDSez").Intero());
+  EXPECT_EQ(3020, NumeroErrore([&] { righe.Assegna("sigla", "C"); }));
   EXPECT_EQ(3020, NumeroErrore([&] { righe.Update(); }));
 }
 
 TEST_F(RecordsetTest, EditCambiaSoloCioCheSiAssegna) {
-  Rivista("A", "uno");
-  Rivista("B", "due");
-  for (const char* origine : {"TabRivista", "select * from TabRivista where CPER = 'b'"}) {
+  Sezione("A", "uno");
+  Sezione("B", "due");
+  for (const char* origine : {"TabSezione", "select * from TabSezione where sigla = 'b'"}) {
     Recordset righe = db_.OpenRecordset(origine);
-    if (righe.Fields("CPER").Testo() != "B") righe.MoveNext();
+    if (righe.Fields("sigla").Testo() != "B") righe.MoveNext();
     righe.Edit();
-    righe.Assegna("TitoloRivista", QStringLiteral("L'«àncora» \"x\""));
+    righe.Assegna("sezione", QStringLiteral("L'«àncora» \"x\""));
     righe.Update();
-    EXPECT_EQ(QStringLiteral("L'«àncora» \"x\""), righe.Fields("TitoloRivista").Testo()) << origine;
-    EXPECT_EQ("B", righe.Fields("CPER").Testo()) << origine;
+    EXPECT_EQ(QStringLiteral("L'«àncora» \"x\""), righe.Fields("sezione").Testo()) << origine;
+    EXPECT_EQ("B", righe.Fields("sigla").Testo()) << origine;
   }
-  Recordset tutte = db_.OpenRecordset(QStringLiteral("TabRivista"));
-  EXPECT_EQ("uno", tutte.Fields("TitoloRivista").Testo());
+  Recordset tutte = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  EXPECT_EQ("uno", tutte.Fields("sezione").Testo());
 }
 
 TEST_F(RecordsetTest, DeleteToglieLaRigaEIlPassoSeguenteVaAllaSuccessiva) {
-  for (const char* cper : {"A", "B", "C"}) Rivista(cper, "t");
-  for (const char* origine : {"TabRivista", "select * from TabRivista"}) {
+  for (const char* sigla : {"A", "B", "C"}) Sezione(sigla, "t");
+  for (const char* origine : {"TabSezione", "select * from TabSezione"}) {
     Recordset righe = db_.OpenRecordset(origine);
     righe.Delete();
-    EXPECT_EQ(3021, NumeroErrore([&] { (void)righe.Fields("CPER"); })) << origine;
+    EXPECT_EQ(3021, NumeroErrore([&] { (void)righe.Fields("sigla"); })) << origine;
     righe.MoveNext();
-    EXPECT_NE("A", righe.Fields("CPER").Testo()) << origine;
+    EXPECT_NE("A", righe.Fields("sigla").Testo()) << origine;
   }
-  Recordset restano = db_.OpenRecordset(QStringLiteral("TabRivista"));
+  Recordset restano = db_.OpenRecordset(QStringLiteral("TabSezione"));
   EXPECT_EQ("C", Codici(restano));
 }
 
 TEST_F(RecordsetTest, UnNumeroCancellatoNonTornaPiu) {
-  Rivista("A", "t");
-  const qint64 ultimo = Rivista("B", "t");
-  db_.Execute(QStringLiteral("delete * from TabRivista where CPER = 'B'"));
-  EXPECT_EQ(ultimo + 1, Rivista("C", "t"));
+  Sezione("A", "t");
+  const qint64 ultimo = Sezione("B", "t");
+  db_.Execute(QStringLiteral("delete * from TabSezione where sigla = 'B'"));
+  EXPECT_EQ(ultimo + 1, Sezione("C", "t"));
 }
 
 TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
-  Rivista("A", "t");
+  Sezione("A", "t");
   Recordset unione =
-      db_.OpenRecordset(QStringLiteral("select * from TabRivista, TabPeriodicita"));
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabRivista"));
+      db_.OpenRecordset(QStringLiteral("select * from TabSezione, TabPeriodicita"));
+  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
   Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}});
   const struct {
     int numero;
@@ -155,12 +155,12 @@ TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
       {3265, [&] { (void)righe.Fields("Manca"); }},
       {3078, [&] { (void)db_.OpenRecordset(QStringLiteral("TabManca")); }},
       {3078, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabManca")); }},
-      {3061, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabRivista where x = 1")); }},
+      {3061, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabSezione where x = 1")); }},
       {3075, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from where")); }},
-      {3075, [&] { db_.Execute(QStringLiteral("delete * from TabRivista where CPER = 'A")); }},
+      {3075, [&] { db_.Execute(QStringLiteral("delete * from TabSezione where sigla = 'A")); }},
       {3022, [&] { Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}}); }},
-      {3022, [&] { Aggiungi(db_, QStringLiteral("TabRivista"), {{"IDRivista", 1}}); }},
-      {3421, [&] { Aggiungi(db_, QStringLiteral("TabRivista"), {{"IDPeriodicita", "x"}}); }},
+      {3022, [&] { Aggiungi(db_, QStringLiteral("TabSezione"), {{"IDSez", 1}}); }},
+      {3421, [&] { Aggiungi(db_, QStringLiteral("TabSezione"), {{"nuovo", "x"}}); }},
       {3027, [&] { unione.AddNew(); }},
       {3251, [&] { unione.Seek(1); }},
       {91, [&] { (void)Database().OpenRecordset(QStringLiteral("TabInfo")); }},
@@ -172,14 +172,14 @@ TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
 }
 
 TEST_F(RecordsetTest, ChiusoLArchivioOgniUsoFallisceENientePuoCadere) {
-  Rivista("A", "t");
-  Rivista("B", "t");
-  Recordset tabella = db_.OpenRecordset(QStringLiteral("TabRivista"));
-  Recordset ferma = db_.OpenRecordset(QStringLiteral("select * from TabRivista"));
+  Sezione("A", "t");
+  Sezione("B", "t");
+  Recordset tabella = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  Recordset ferma = db_.OpenRecordset(QStringLiteral("select * from TabSezione"));
   const Database copia = db_;
   db_.Close();
   EXPECT_EQ(3420, NumeroErrore([&] { tabella.MoveNext(); }));
-  EXPECT_EQ(3420, NumeroErrore([&] { (void)ferma.Fields("CPER"); }));
+  EXPECT_EQ(3420, NumeroErrore([&] { (void)ferma.Fields("sigla"); }));
   EXPECT_EQ(3420, NumeroErrore([&] { (void)copia.OpenRecordset(QStringLiteral("TabInfo")); }));
   EXPECT_EQ(3420, NumeroErrore([&] { db_.Close(); }));
 }
