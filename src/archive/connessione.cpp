@@ -94,8 +94,8 @@ void Lega(SQLite::Statement& istruzione, int posizione, const Campo& valore) {
 }
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
-  return ErroreEsecuzione(NumeroDi(guasto), QStringLiteral("%1 (%2)").arg(
-                                                dettaglio, QString::fromUtf8(guasto.what())));
+  return ErroreEsecuzione(
+      NumeroDi(guasto), QStringLiteral("%1 (%2)").arg(dettaglio, QString::fromUtf8(guasto.what())));
 }
 
 Connessione::Connessione(QString percorso, std::unique_ptr<SQLite::Database> motore)
@@ -243,6 +243,10 @@ InfoTabella Connessione::LeggiTabella(const QString& nome) {
 
 void Connessione::IniziaUnita() {
   RichiediAperta();
+  // To the engine a unit that only reads is no fault; here it is always meant to write.
+  if (sqlite3_db_readonly(motore_->getHandle(), "main") == 1) {
+    throw ErroreEsecuzione(Errore::SolaLettura, percorso_);
+  }
   if (unita_ == 0) Esegui(PreparaMotore("BEGIN IMMEDIATE"), {});
   ++unita_;
 }

@@ -128,9 +128,9 @@ void Recordset::Corpo::Delete() {
   const InfoTabella& tabella = TabellaDaScrivere();
   PrimaDiScrivere();
   const qint64 riga = Bookmark();
-  Motore().Esegui(Motore().PreparaMotore("DELETE FROM [" + tabella.nome.toStdString() +
-                                         "] WHERE rowid=?"),
-                  {Campo(riga)});
+  Motore().Esegui(
+      Motore().PreparaMotore("DELETE FROM [" + tabella.nome.toStdString() + "] WHERE rowid=?"),
+      {Campo(riga)});
   RigaCancellata();
 }
 

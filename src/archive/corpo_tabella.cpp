@@ -27,7 +27,8 @@ bool CorpoTabella::Leggi1(const std::string& condizione, const QList<Campo>& par
 
 std::string CorpoTabella::Ordine(Verso verso) const {
   const std::string senso = verso == Verso::Avanti ? "" : " DESC";
-  const std::string colonna = colonnaIndice_.empty() ? "" : "[" + colonnaIndice_ + "]" + senso + ",";
+  const std::string colonna =
+      colonnaIndice_.empty() ? "" : "[" + colonnaIndice_ + "]" + senso + ",";
   return " ORDER BY " + colonna + "rowid" + senso;
 }
 

@@ -33,8 +33,7 @@ QByteArray PrimiByte(const QString& percorso) {
 
 std::unique_ptr<SQLite::Database> ApriMotore(const QString& percorso, Accesso accesso) {
   const int modo = accesso == Accesso::SolaLettura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
-  auto motore =
-      std::make_unique<SQLite::Database>(percorso.toStdString(), modo, kAttesaBloccoMs);
+  auto motore = std::make_unique<SQLite::Database>(percorso.toStdString(), modo, kAttesaBloccoMs);
   RegistraFunzioni(motore->getHandle());
   // An archive is always one file, and what is written is on the disk.
   motore->exec("PRAGMA synchronous = FULL; PRAGMA cache_size = -16000");
@@ -46,8 +45,8 @@ std::unique_ptr<SQLite::Database> ApriMotore(const QString& percorso, Accesso ac
 std::unique_ptr<SQLite::Database> ApriJet(const QString& percorso) {
   // The empty name is a private database that the engine keeps in memory and, where it grows, in a
   // temporary file.
-  auto motore = std::make_unique<SQLite::Database>(
-      std::string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+  auto motore = std::make_unique<SQLite::Database>(std::string(),
+                                                   SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   RegistraFunzioni(motore->getHandle());
   CaricaJet(percorso, motore->getHandle());
   motore->exec("PRAGMA query_only = 1");
@@ -106,8 +105,8 @@ Connessione& Database::Connessa() const {
 Recordset Database::OpenRecordset(const QString& origine, const QList<Campo>& parametri) const {
   Connessione& connessione = Connessa();
   if (EIstruzione(origine)) {
-    return Recordset(std::make_unique<CorpoIstruzione>(connessione.shared_from_this(), origine,
-                                                       parametri));
+    return Recordset(
+        std::make_unique<CorpoIstruzione>(connessione.shared_from_this(), origine, parametri));
   }
   return Recordset(std::make_unique<CorpoTabella>(connessione.shared_from_this(), origine));
 }
@@ -117,13 +116,13 @@ qint64 Database::Execute(const QString& istruzione, const QList<Campo>& parametr
   return connessione.Esegui(connessione.Prepara(istruzione), parametri);
 }
 
-void Database::Close() {
-  Connessa().Chiudi();
-}
+void Database::Close() { Connessa().Chiudi(); }
 
 bool Database::Aperto() const { return connessione_ != nullptr && !connessione_->Chiusa(); }
 
-QString Database::Name() const { return connessione_ == nullptr ? QString() : connessione_->Percorso(); }
+QString Database::Name() const {
+  return connessione_ == nullptr ? QString() : connessione_->Percorso();
+}
 
 QStringList Database::Tabelle() const { return Connessa().Tabelle(); }
 

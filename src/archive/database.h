@@ -1,12 +1,14 @@
-// An open archive, and the way to its rows. The only way: nothing outside archive/ knows the engine.
+// An open archive, and the way to its rows. The only way: nothing outside archive/ knows the
+// engine.
 //
 // Statements are written in the system's own dialect ("..." literals, `delete * from`,
 // `table!column`, `[a-b]` names, `#m/d/yyyy#` dates, `like` with * ? # [...], True and False, a
 // number run into a word) and translated once: a statement with `?` for its values, given again
 // with other values, costs a look-up. Text values go in as parameters or through Letterale.
 //
-// Failures are ErroreEsecuzione: a syntax fault 3075, an unknown column 3061, an unknown table 3078,
-// a duplicate key 3022, a read-only file 3027, a lock 3260, a full disk 61, a failing device 57.
+// Failures are ErroreEsecuzione: a syntax fault 3075, an unknown column 3061, an unknown table
+// 3078, a duplicate key 3022, a read-only file 3027, a lock 3260, a full disk 61, a failing
+// device 57.
 #pragma once
 
 #include <QList>
@@ -51,8 +53,8 @@ class Database {
 
 // Opens an archive by its path, told from a genuine Jet file by its first bytes. A Jet file is
 // copied into a private database that lives as long as the handle, and can be read only; archive
-// commands convert it first (conversione.h). No such file: error 3024; not a database: 3343; in use:
-// 3045; no permission: 3051. Nothing is created.
+// commands convert it first (conversione.h). No such file: error 3024; not a database: 3343; in
+// use: 3045; no permission: 3051. Nothing is created.
 [[nodiscard]] Database OpenDatabase(const QString& percorso,
                                     Accesso accesso = Accesso::LetturaScrittura);
 

@@ -8,39 +8,39 @@
 namespace torvi {
 
 enum class Errore : int {
-  Overflow = 6,                  // a value that does not fit 16 signed bits
-  IndiceNonValido = 9,           // subscript out of range
+  Overflow = 6,         // a value that does not fit 16 signed bits
+  IndiceNonValido = 9,  // subscript out of range
   ErroreInterno = 51,
   FileNonTrovato = 53,
   FileAperto = 55,
-  ErroreDispositivo = 57,        // the device failed while reading or writing
+  ErroreDispositivo = 57,  // the device failed while reading or writing
   DiscoPieno = 61,
   AccessoNegato = 70,
   ErroreAccessoFile = 75,
   PercorsoNonTrovato = 76,
   TipoNonCorrispondente = 13,
-  ChiamataNonValida = 5,         // an argument out of range, as a negative length
+  ChiamataNonValida = 5,  // an argument out of range, as a negative length
   OggettoNonImpostato = 91,
-  NullNonValido = 94,            // Null where text or a number is needed
-  OggettoNonTrovato = 3011,      // table absent, or a file that is no archive
+  NullNonValido = 94,        // Null where text or a number is needed
+  OggettoNonTrovato = 3011,  // table absent, or a file that is no archive
   NomeIndiceNonValido = 3015,
-  AggiornamentoSenzaEdit = 3020, // Update, or a value given, without AddNew or Edit
+  AggiornamentoSenzaEdit = 3020,  // Update, or a value given, without AddNew or Edit
   NessunRecordCorrente = 3021,
   ChiaveDuplicata = 3022,
   DatabaseNonTrovato = 3024,
   SolaLettura = 3027,
   DatabaseInUso = 3045,
-  OperazioneNonAmmessa = 3251,   // Index or Seek on the rows of a statement
+  OperazioneNonAmmessa = 3251,  // Index or Seek on the rows of a statement
   PermessoNegato = 3051,
-  ParametriInsufficienti = 3061, // a statement names a column that its tables lack
+  ParametriInsufficienti = 3061,  // a statement names a column that its tables lack
   SintassiErrata = 3075,
   TabellaNonTrovata = 3078,
   RecordBloccato = 3260,
   CampoNonTrovato = 3265,
-  FormatoNonRiconosciuto = 3343, // neither an archive nor a sound Jet file
+  FormatoNonRiconosciuto = 3343,  // neither an archive nor a sound Jet file
   OggettoChiuso = 3420,
   ConversioneTipo = 3421,
-  OperazioneAnnullata = 32755,   // the operator left a file dialog by Cancel
+  OperazioneAnnullata = 32755,  // the operator left a file dialog by Cancel
 };
 
 class ErroreEsecuzione : public std::exception {

@@ -1,11 +1,11 @@
 // Rows of an archive, one of them current: all columns of a table, read and written in place, or
 // the rows that a statement gives.
 //
-// A table is opened by its bare name, at no cost. It has `Index` and `Seek`, moves in stored order or,
-// once an index is set, in the order of the index's first column, and can add, change and delete
-// rows. A statement's rows are read one by one as `MoveNext` asks for them, so that a walk needs the
-// same memory for ten rows and for a million; going back, and changing rows, keeps all of them. They
-// can be changed where the statement reads one table only (otherwise error 3027).
+// A table is opened by its bare name, at no cost. It has `Index` and `Seek`, moves in stored order
+// or, once an index is set, in the order of the index's first column, and can add, change and
+// delete rows. A statement's rows are read one by one as `MoveNext` asks for them, so that a walk
+// needs the same memory for ten rows and for a million; going back, and changing rows, keeps all of
+// them. They can be changed where the statement reads one table only (otherwise error 3027).
 //
 // Both start on their first row; without rows, Bof() and Eof() are both true.
 #pragma once
@@ -33,8 +33,9 @@ class Recordset {
   void MoveNext();
   void MovePrevious();
 
-  // A column of the current row, or of the row that AddNew or Edit prepares. Case is ignored; of two
-  // columns of one name it is the first. No such column: error 3265. No current row: error 3021.
+  // A column of the current row, or of the row that AddNew or Edit prepares. Case is ignored; of
+  // two columns of one name it is the first. No such column: error 3265. No current row: error
+  // 3021.
   [[nodiscard]] Campo Fields(std::string_view nome) const;
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
   // Only between AddNew or Edit and Update.
@@ -54,8 +55,8 @@ class Recordset {
   void Seek(const Campo& chiave);
   [[nodiscard]] bool NoMatch() const;
 
-  // The stored number of a row; setting it moves there, error 3021 where it is gone. For a table, or
-  // a statement that reads one.
+  // The stored number of a row; setting it moves there, error 3021 where it is gone. For a table,
+  // or a statement that reads one.
   [[nodiscard]] qint64 LastModified() const;
   [[nodiscard]] qint64 Bookmark() const;
   void Bookmark(qint64 riga);

@@ -13,10 +13,10 @@ enum class Icona { Nessuna, Informazione };
 
 struct RichiestaFile {
   QString titolo;
-  QString filtro;            // "Database file (*.mdb)|*.mdb"
-  QString estensione;        // appended to a name without one
-  QString cartella;          // where the dialog starts
-  bool deveEsistere = false; // only files that are there can be chosen
+  QString filtro;               // "Database file (*.mdb)|*.mdb"
+  QString estensione;           // appended to a name without one
+  QString cartella;             // where the dialog starts
+  bool deveEsistere = false;    // only files that are there can be chosen
   bool chiedeSeCreare = false;  // asks before a name that is not there is accepted
 };
 

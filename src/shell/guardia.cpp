@@ -14,8 +14,8 @@ bool Esegui(Dialoghi& dialoghi, const std::function<void()>& comando) {
   } catch (const ErroreEsecuzione& errore) {
     dialoghi.Messaggio(TestoErrore(errore));
   } catch (const std::exception& guasto) {
-    dialoghi.Messaggio(TestoErrore(
-        ErroreEsecuzione(Errore::ErroreInterno, QString::fromUtf8(guasto.what()))));
+    dialoghi.Messaggio(
+        TestoErrore(ErroreEsecuzione(Errore::ErroreInterno, QString::fromUtf8(guasto.what()))));
   }
   return false;
 }

@@ -10,8 +10,8 @@
 namespace torvi {
 
 struct StatoGlobale {
-  Database DbArchivio;    // stays assigned, closed, after an archive is closed
-  QString PathArchivio;   // path returned by the last file dialog
+  Database DbArchivio;           // stays assigned, closed, after an archive is closed
+  QString PathArchivio;          // path returned by the last file dialog
   QString CartellaApplicazione;  // folder of the executable, without a final separator
 
   QString InfoNuovoArchivio;  // the four fields of frmInformazione joined by '|'; empty: cancelled

@@ -15,9 +15,10 @@ namespace torvi {
 namespace {
 
 int Quante(const Database& db) {
-  return static_cast<int>(db.OpenRecordset(QStringLiteral("select count(IDTesto) as n from TabTesto"))
-                              .Fields("n")
-                              .Intero());
+  return static_cast<int>(
+      db.OpenRecordset(QStringLiteral("select count(IDTesto) as n from TabTesto"))
+          .Fields("n")
+          .Intero());
 }
 
 void AggiungiTesto(const Database& db, const QString& testo) {
@@ -143,7 +144,8 @@ TEST(DatabaseTest, UnFileJetSiLeggeEDiceDiNonPotersiScrivere) {
 }
 
 TEST(LetteraleTest, RaddoppiaLeVirgolette) {
-  EXPECT_EQ(QStringLiteral("\"detto \"\"fatto\"\"\""), Letterale(QStringLiteral("detto \"fatto\"")));
+  EXPECT_EQ(QStringLiteral("\"detto \"\"fatto\"\"\""),
+            Letterale(QStringLiteral("detto \"fatto\"")));
 }
 
 }  // namespace

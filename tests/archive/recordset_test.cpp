@@ -144,8 +144,7 @@ TEST_F(RecordsetTest, UnNumeroCancellatoNonTornaPiu) {
 
 TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
   Sezione("A", "t");
-  Recordset unione =
-      db_.OpenRecordset(QStringLiteral("select * from TabSezione, TabPeriodicita"));
+  Recordset unione = db_.OpenRecordset(QStringLiteral("select * from TabSezione, TabPeriodicita"));
   Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
   Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}});
   const struct {
@@ -155,12 +154,22 @@ TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
       {3265, [&] { (void)righe.Fields("Manca"); }},
       {3078, [&] { (void)db_.OpenRecordset(QStringLiteral("TabManca")); }},
       {3078, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabManca")); }},
-      {3061, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabSezione where x = 1")); }},
+      {3061,
+       [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabSezione where x = 1")); }},
       {3075, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from where")); }},
       {3075, [&] { db_.Execute(QStringLiteral("delete * from TabSezione where sigla = 'A")); }},
-      {3022, [&] { Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}}); }},
-      {3022, [&] { Aggiungi(db_, QStringLiteral("TabSezione"), {{"IDSez", 1}}); }},
-      {3421, [&] { Aggiungi(db_, QStringLiteral("TabSezione"), {{"nuovo", "x"}}); }},
+      {3022,
+       [&] {
+         Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}});
+       }},
+      {3022,
+       [&] {
+         Aggiungi(db_, QStringLiteral("TabSezione"), {{"IDSez", 1}});
+       }},
+      {3421,
+       [&] {
+         Aggiungi(db_, QStringLiteral("TabSezione"), {{"nuovo", "x"}});
+       }},
       {3027, [&] { unione.AddNew(); }},
       {3251, [&] { unione.Seek(1); }},
       {91, [&] { (void)Database().OpenRecordset(QStringLiteral("TabInfo")); }},
