@@ -1,0 +1,76 @@
+// Genuine Jet files beside the project, and what an independent reader sees in them.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "archive/campo.h"
+
+namespace torvi::prova {
+
+inline QDir CartellaJet() { return QDir(QStringLiteral(TORVI_RADICE "/../shared/jet")); }
+
+// A test that needs the files begins with this.
+#define RICHIEDI_FILE_JET()                                                              \
+  if (!torvi::prova::CartellaJet().exists()) {                                           \
+    GTEST_SKIP() << "no genuine Jet files in " << qPrintable(torvi::prova::CartellaJet().path()); \
+  }
+
+inline QStringList FileJet() {
+  return CartellaJet().entryList({QStringLiteral("*.mdb")}, QDir::Files);
+}
+
+inline QByteArray Contenuto(const QString& percorso) {
+  QFile file(percorso);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(percorso);
+  return file.readAll();
+}
+
+inline void Scrivi(const QString& percorso, const QByteArray& contenuto) {
+  QFile file(percorso);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(percorso);
+  ASSERT_EQ(file.write(contenuto), contenuto.size());
+}
+
+// "consegna.mdb" and ".json" or ".schema.json": what the file beside it tells.
+inline QJsonObject Atteso(const QString& mdb, const char* genere) {
+  const QString nome = mdb.chopped(4) + QLatin1String(genere);
+  return QJsonDocument::fromJson(Contenuto(CartellaJet().filePath(nome))).object();
+}
+
+// A value as one string, so that differences can be read: Null, text and numbers never look alike.
+inline QString Mostra(const QJsonValue& valore) {
+  static const QRegularExpression data(
+      QStringLiteral("^(\\d{4})-(\\d\\d)-(\\d\\d)T(\\d\\d:\\d\\d:\\d\\d)$"));
+  if (valore.isNull()) return QStringLiteral("Null");
+  if (valore.isBool()) return valore.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+  if (valore.isDouble()) return QString::number(valore.toDouble());
+  const QString testo = valore.toString();
+  const QRegularExpressionMatch trovata = data.match(testo);
+  if (!trovata.hasMatch()) return QLatin1Char('"') + testo;
+  const QString ora = trovata.captured(4);
+  QString giorno = QLatin1Char('"') + trovata.captured(3) + QLatin1Char('/') +
+                   trovata.captured(2) + QLatin1Char('/') + trovata.captured(1);
+  return ora == QLatin1String("00:00:00") ? giorno : giorno + QLatin1Char(' ') + ora;
+}
+
+inline QString Mostra(const Campo& campo) {
+  if (campo.Nullo()) return QStringLiteral("Null");
+  if (const auto* testo = std::get_if<QString>(&campo.Grezzo())) return QLatin1Char('"') + *testo;
+  return campo.Testo();
+}
+
+inline QStringList Mostra(const std::vector<Campo>& riga) {
+  QStringList valori;
+  for (const Campo& campo : riga) valori += Mostra(campo);
+  return valori;
+}
+
+}  // namespace torvi::prova
