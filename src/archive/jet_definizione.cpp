@@ -16,10 +16,21 @@ constexpr std::size_t kQuanteColonne = 45;
 constexpr std::size_t kQuantiIndici = 47;
 constexpr std::size_t kQuantiIndiciVeri = 51;
 constexpr std::size_t kMappa = 55;
+constexpr std::size_t kMappaLiberi = 59;
 constexpr std::size_t kDescrizioni = 63;
 constexpr std::size_t kContinua = 8;  // where a further page of the definition goes on
 
+// How long the entries are, and what is read in them.
+constexpr std::size_t kContoIndice = 12;
+constexpr std::size_t kColonna = 25;
+constexpr std::size_t kNumeroColonna = 5;
+constexpr std::size_t kIndiceVero = 52;
+constexpr std::size_t kChiavi = 4;
+constexpr std::size_t kChiave = 3;
+constexpr std::size_t kIndice = 28;
+
 constexpr std::size_t kMassimo = 255;
+constexpr unsigned kNessunaColonna = 0xffff;
 constexpr int kIndiceDiRelazione = 2;
 
 struct LiberaTabella {
@@ -47,9 +58,19 @@ class Controllo {
     const std::size_t indici = Numero32(dati_, kQuantiIndici);
     const std::size_t veri = Numero32(dati_, kQuantiIndiciVeri);
     Esigi(colonne >= 1 && colonne <= kMassimo && veri <= indici && indici <= kMassimo);
-    std::size_t posizione = SaltaNomi(kDescrizioni + veri * 12 + colonne * 25, colonne);
-    posizione = SaltaNomi(posizione + veri * 52 + indici * 28, indici);
-    Esigi(posizione <= dati_.size());
+    const std::size_t inizioColonne = kDescrizioni + veri * kContoIndice;
+    const std::size_t inizioIndici = SaltaNomi(inizioColonne + colonne * kColonna, colonne);
+    SaltaNomi(inizioIndici + veri * kIndiceVero + indici * kIndice, indici);
+
+    std::set<unsigned> numeri{kNessunaColonna};
+    for (std::size_t i = 0; i < colonne; ++i) {
+      numeri.insert(Numero16(dati_, inizioColonne + i * kColonna + kNumeroColonna));
+    }
+    for (std::size_t i = 0; i < veri * MDB_MAX_IDX_COLS; ++i) {
+      const std::size_t indice = inizioIndici + i / MDB_MAX_IDX_COLS * kIndiceVero;
+      Esigi(numeri.contains(Numero16(dati_, indice + kChiavi + i % MDB_MAX_IDX_COLS * kChiave)));
+    }
+    (void)pagine_.RigaLontana(Numero32(dati_, kMappaLiberi));
   }
 
   void Esigi(bool sano) const {
@@ -57,12 +78,13 @@ class Controllo {
   }
 
  private:
-  [[nodiscard]] std::size_t SaltaNomi(std::size_t posizione, std::size_t quanti) const {
+  std::size_t SaltaNomi(std::size_t posizione, std::size_t quanti) const {
     for (std::size_t i = 0; i < quanti; ++i) {
       Esigi(posizione + 2 <= dati_.size());
       const std::size_t lunghezza = Numero16(dati_, posizione);
       Esigi(lunghezza >= 2 && lunghezza % 2 == 0 && lunghezza <= kMassimo);
       posizione += 2 + lunghezza;
+      Esigi(posizione <= dati_.size());
     }
     return posizione;
   }
@@ -125,12 +147,9 @@ bool AggiungiIndice(Definizione& definizione, const MdbIndex& indice) {
     return false;
   }
   for (unsigned i = 0; i < indice.num_keys; ++i) {
-    const auto numero = static_cast<std::size_t>(indice.key_col_num[i] - 1);
-    const auto colonna =
-        std::find_if(definizione.colonne.begin(), definizione.colonne.end(),
-                     [&](const ColonnaJet& candidata) { return candidata.numero == numero; });
-    if (colonna == definizione.colonne.end()) return false;
-    nuovo.colonne += definizione.tabella.colonne[colonna - definizione.colonne.begin()].nome;
+    const auto posizione = static_cast<std::size_t>(indice.key_col_num[i] - 1);
+    if (posizione >= definizione.colonne.size()) return false;
+    nuovo.colonne += definizione.tabella.colonne[posizione].nome;
   }
   definizione.tabella.indici.push_back(nuovo);
   return true;
@@ -151,7 +170,8 @@ Definizione LeggiDefinizione(Pagine& pagine, const QString& nome, std::uint32_t 
   definizione.pagina = pagina;
   const Ottetti prima = pagine.Pagina(pagina);
   definizione.righe = Numero32(prima, kRighe);
-  definizione.ultimoContatore = Numero32(prima, kContatore);
+  // A counter of random numbers may have given a negative one last.
+  definizione.ultimoContatore = static_cast<std::int32_t>(Numero32(prima, kContatore));
   definizione.pagineRighe = PagineDellaMappa(pagine, Numero32(prima, kMappa));
 
   const TabellaDellaLibreria tabella(mdb_read_table(&voce));

@@ -26,7 +26,7 @@ struct Definizione {
   std::vector<ColonnaJet> colonne;  // one for each of tabella.colonne
   std::uint32_t pagina = 0;
   std::uint32_t righe = 0;  // as the file counts them
-  std::uint32_t ultimoContatore = 0;
+  std::int32_t ultimoContatore = 0;
   bool conVariabili = false;
   std::vector<std::uint32_t> pagineRighe;
 };

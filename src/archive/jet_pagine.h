@@ -3,6 +3,9 @@
 // archive/.
 #pragma once
 
+// First: the library would include it inside extern "C", where its templates cannot be.
+#include <glib.h>
+
 #include <mdbtools.h>
 
 #include <QString>

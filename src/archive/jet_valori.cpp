@@ -38,9 +38,9 @@ Campo Data(const Pagine& pagine, double giorni) {
   const QDate data =
       QDate(1899, 12, 30).addDays(static_cast<qint64>(interi) + secondi / kSecondiDelGiorno);
   const int resto = secondi % kSecondiDelGiorno;
-  const QString testo = data.toString(QStringLiteral("dd/MM/yyyy"));
-  if (resto == 0) return testo;
-  return Campo(testo + QTime(0, 0).addSecs(resto).toString(QStringLiteral(" hh:mm:ss")));
+  QString testo = data.toString(QStringLiteral("dd/MM/yyyy"));
+  if (resto != 0) testo += QTime(0, 0).addSecs(resto).toString(QStringLiteral(" hh:mm:ss"));
+  return testo;
 }
 
 // 17 bytes: the sign, then 16 that the library knows how to read off the page.

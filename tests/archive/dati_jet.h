@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -17,11 +18,15 @@ namespace torvi::prova {
 
 inline QDir CartellaJet() { return QDir(QStringLiteral(TORVI_RADICE "/../shared/jet")); }
 
-// A test that needs the files begins with this.
-#define RICHIEDI_FILE_JET()                                                              \
-  if (!torvi::prova::CartellaJet().exists()) {                                           \
-    GTEST_SKIP() << "no genuine Jet files in " << qPrintable(torvi::prova::CartellaJet().path()); \
+// What needs them is skipped where they are not.
+class FileGenuini : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!CartellaJet().exists()) {
+      GTEST_SKIP() << "no genuine Jet files in " << qPrintable(CartellaJet().path());
+    }
   }
+};
 
 inline QStringList FileJet() {
   return CartellaJet().entryList({QStringLiteral("*.mdb")}, QDir::Files);
@@ -46,18 +51,18 @@ inline QJsonObject Atteso(const QString& mdb, const char* genere) {
 }
 
 // A value as one string, so that differences can be read: Null, text and numbers never look alike.
-inline QString Mostra(const QJsonValue& valore) {
+[[nodiscard]] inline QString Mostra(const QJsonValue& valore) {
   static const QRegularExpression data(
       QStringLiteral("^(\\d{4})-(\\d\\d)-(\\d\\d)T(\\d\\d:\\d\\d:\\d\\d)$"));
   if (valore.isNull()) return QStringLiteral("Null");
   if (valore.isBool()) return valore.toBool() ? QStringLiteral("1") : QStringLiteral("0");
-  if (valore.isDouble()) return QString::number(valore.toDouble());
+  if (valore.isDouble()) return QString::number(valore.toDouble(), 'g', 15);
   const QString testo = valore.toString();
   const QRegularExpressionMatch trovata = data.match(testo);
   if (!trovata.hasMatch()) return QLatin1Char('"') + testo;
   const QString ora = trovata.captured(4);
-  QString giorno = QLatin1Char('"') + trovata.captured(3) + QLatin1Char('/') +
-                   trovata.captured(2) + QLatin1Char('/') + trovata.captured(1);
+  QString giorno = QLatin1Char('"') + trovata.captured(3) + QLatin1Char('/') + trovata.captured(2) +
+                   QLatin1Char('/') + trovata.captured(1);
   return ora == QLatin1String("00:00:00") ? giorno : giorno + QLatin1Char(' ') + ora;
 }
 
@@ -67,10 +72,13 @@ inline QString Mostra(const Campo& campo) {
   return campo.Testo();
 }
 
-inline QStringList Mostra(const std::vector<Campo>& riga) {
+// Rows as text, one string each: the values as Mostra gives them, between bars.
+using Righe = std::vector<std::string>;
+
+inline std::string Mostra(const std::vector<Campo>& riga) {
   QStringList valori;
   for (const Campo& campo : riga) valori += Mostra(campo);
-  return valori;
+  return valori.join(QLatin1Char('|')).toStdString();
 }
 
 }  // namespace torvi::prova
