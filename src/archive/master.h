@@ -5,9 +5,15 @@
 
 namespace torvi {
 
+// Where the rows are that come with the program.
+[[nodiscard]] QString CartellaDati();
+
 // Every code table filled, the document tables empty with their counters at the start. The file
-// appears only when it is complete. It must not exist: error 75; a fault in a row names file and line.
-void CreaMaster(const QString& percorso);
-void CreaCatalogo(const QString& percorso);
+// appears only when it is complete. It must not exist: error 75. Each table takes its rows from
+// the file <table>.csv of the folder: no such file is error 53, and a fault in a row names file and
+// line (3421 a value or a row of the wrong form, 3265 an unknown column, 3022 a key given twice).
+void CreaMaster(const QString& percorso, const QString& cartella = CartellaDati());
+// The same for the norm catalogue, from catalogo.csv and catalogo_pd.csv.
+void CreaCatalogo(const QString& percorso, const QString& cartella = CartellaDati());
 
 }  // namespace torvi

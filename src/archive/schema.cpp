@@ -1,13 +1,11 @@
 #include "archive/schema.h"
 
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Transaction.h>
-
 #include <algorithm>
 
 #include "archive/collazione.h"
+#include "archive/connessione.h"
 #include "archive/errore.h"
-#include "archive/file_provvisorio.h"
+#include "archive/file_nuovo.h"
 
 namespace torvi {
 namespace {
@@ -94,15 +92,13 @@ QStringList IstruzioniTabella(const Tabella& tabella) {
 }
 
 void CreaDatabase(const QString& percorso, std::span<const Tabella> tabelle) {
-  FileProvvisorio file(percorso);
+  FileNuovo file(percorso);
   try {
     ScriviTabelle(file.Percorso(), tabelle);
-  } catch (const SQLite::Exception& errore) {
-    throw ErroreEsecuzione(
-        Errore::ErroreAccessoFile,
-        percorso + QLatin1String(" (") + QString::fromUtf8(errore.what()) + QLatin1Char(')'));
+  } catch (const SQLite::Exception& guasto) {
+    throw DaMotore(guasto, percorso);
   }
-  file.Conferma();
+  file.Consegna();
 }
 
 }  // namespace torvi
