@@ -100,7 +100,7 @@ void FileTesto::Svuota() {
 void FileTesto::RiduciAiBlocchiInteri(qsizetype scritti) {
   const auto primoRotto = std::upper_bound(blocchi_.begin(), blocchi_.end(), scritti);
   if (primoRotto != blocchi_.begin()) inizio_ += *std::prev(primoRotto);
-  file_.resize(inizio_);
+  if (!file_.isSequential()) file_.resize(inizio_);
   pendenti_.clear();
   blocchi_.clear();
 }

@@ -9,14 +9,14 @@ namespace torvi {
 // What TabDocumento holds beside its key, as text.
 struct DatiDocumento {
   qint16 IDRifBibl = 0;
-  QString pagine;
-  QString td;
-  QString TAbs;
-  QString Bib;
-  QString LIN;
-  QString lo;
-  QString lr;
-  QString la;
+  QString pagine = {};
+  QString td = {};
+  QString TAbs = {};
+  QString Bib = {};
+  QString LIN = {};
+  QString lo = {};
+  QString lr = {};
+  QString la = {};
 };
 
 // Appends the three fields, writes what it finds wrong to the generic error file, and sets
