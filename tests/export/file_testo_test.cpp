@@ -1,0 +1,126 @@
+#include "export/file_testo.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QDir>
+#include <csignal>
+
+#include "comune/cartella_di_prova.h"
+
+namespace torvi {
+namespace {
+
+// Files of this process may grow to so many bytes for as long as this lives.
+class LimiteFile {
+ public:
+  explicit LimiteFile(rlim_t byte) {
+    getrlimit(RLIMIT_FSIZE, &prima_);
+    const rlimit limite{byte, prima_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limite);
+    gestore_ = std::signal(SIGXFSZ, SIG_IGN);
+  }
+  LimiteFile(const LimiteFile&) = delete;
+  LimiteFile& operator=(const LimiteFile&) = delete;
+  ~LimiteFile() {
+    setrlimit(RLIMIT_FSIZE, &prima_);
+    (void)std::signal(SIGXFSZ, gestore_);
+  }
+
+ private:
+  rlimit prima_{};
+  void (*gestore_)(int) = nullptr;
+};
+
+TEST(FileTesto, ReadsLinesWhateverTheirEnd) {
+  struct Caso {
+    const char* byte;
+    QStringList righe;
+  };
+  const Caso kCasi[] = {
+      {"", {}},
+      {"a", {"a"}},
+      {"a\r\n", {"a"}},
+      {"a\r\n\r\nb\nc\rd", {"a", "", "b", "c", "d"}},
+      {"\n\r\n\r", {"", "", ""}},
+      {"citt\xe0 \x80", {"città €"}},
+  };
+  const CartellaDiProva cartella;
+  for (const Caso& caso : kCasi) {
+    ScriviByte(cartella.Dump("prova"), caso.byte);
+    FileTesto file(cartella.Dump("PROVA"), Apertura::Lettura);
+    QStringList righe;
+    while (const auto riga = file.LineInput()) righe += *riga;
+    EXPECT_EQ(righe, caso.righe) << caso.byte;
+  }
+}
+
+TEST(FileTesto, ReadsLinesThatCrossItsBuffer) {
+  const CartellaDiProva cartella;
+  const QByteArray lunga(64 * 1024 - 1, 'x');
+  ScriviByte(cartella.Dump("prova"), lunga + "\r\n" + lunga + lunga + "\r\nfine");
+  FileTesto file(cartella.Dump("prova"), Apertura::Lettura);
+  EXPECT_EQ(file.LineInput()->size(), lunga.size());
+  EXPECT_EQ(file.LineInput()->size(), 2 * lunga.size());
+  EXPECT_EQ(file.LineInput().value(), "fine");
+  EXPECT_FALSE(file.LineInput().has_value());
+}
+
+TEST(FileTesto, WritesAnewOrBehindWhatIsThere) {
+  const CartellaDiProva cartella;
+  ScriviByte(cartella.Dump("errori.A01"), "vecchio\r\n");
+  FileTesto(cartella.Dump("ERRORI.A01"), Apertura::Aggiunta).Print("più €");
+  EXPECT_EQ(Byte(cartella.Dump("errori.A01")), "vecchio\r\npi\xf9 \x80\r\n");
+  FileTesto(cartella.Dump("errori.A01"), Apertura::Scrittura).Print({});
+  EXPECT_EQ(Byte(cartella.Dump("errori.A01")), "\r\n");
+}
+
+TEST(FileTesto, AnOpenThatFailsTellsWhy) {
+  const CartellaDiProva cartella;
+  struct Caso {
+    QString percorso;
+    Apertura apertura;
+    int errore;
+  };
+  const Caso kCasi[] = {
+      {cartella.Dump("manca"), Apertura::Lettura, 53},
+      {cartella.Dump("manca/prova"), Apertura::Lettura, 76},
+      {cartella.Dump("manca/prova"), Apertura::Scrittura, 76},
+      {cartella.Dump("manca/prova"), Apertura::Aggiunta, 76},
+      {cartella.Percorso() + "/dump", Apertura::Lettura, 75},
+      {cartella.Percorso() + "/dump", Apertura::Scrittura, 75},
+      {{}, Apertura::Lettura, 75},
+      {{}, Apertura::Aggiunta, 75},
+  };
+  for (const Caso& caso : kCasi) {
+    EXPECT_EQ(NumeroErrore([&] { FileTesto(caso.percorso, caso.apertura).Close(); }), caso.errore)
+        << caso.percorso.toStdString() << ' ' << static_cast<int>(caso.apertura);
+  }
+  EXPECT_TRUE(QDir(cartella.Percorso() + "/dump").isEmpty());
+}
+
+TEST(FileTesto, AFullDeviceIsToldAtTheLatestByClose) {
+  FileTesto file(QStringLiteral("/dev/full"), Apertura::Aggiunta);
+  file.Print(QStringLiteral("x"));
+  EXPECT_EQ(NumeroErrore([&] { file.Close(); }), 61);
+  file.Close();
+}
+
+TEST(FileTesto, ADeviceThatFailsInTheMiddleLeavesWholeBlocks) {
+  const CartellaDiProva cartella;
+  const QString percorso = cartella.Dump("lexxdump isis.A01");
+  ScriviByte(percorso, "prima\r\n");
+  {
+    FileTesto file(percorso, Apertura::Aggiunta);
+    file.ScriviBlocco(QByteArray(600, 'a'));
+    file.Svuota();
+    file.ScriviBlocco(QByteArray(300, 'b'));
+    file.ScriviBlocco(QByteArray(300, 'c'));
+    const LimiteFile limite(1000);
+    EXPECT_EQ(NumeroErrore([&] { file.Svuota(); }), 57);
+  }
+  EXPECT_EQ(Byte(percorso), "prima\r\n" + QByteArray(600, 'a') + QByteArray(300, 'b'));
+}
+
+}  // namespace
+}  // namespace torvi
