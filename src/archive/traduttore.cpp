@@ -218,7 +218,10 @@ class Scrittore {
   [[nodiscard]] bool Aggregata() const {
     return std::any_of(clausole_.elenco.begin(), clausole_.elenco.end(), [](const VoceElenco& v) {
       const Brano brano = v.espressione;
-      return brano.size() > 1 && brano[1].ESegno(u'(') && Una(kAggregati, brano[0]);
+      for (std::size_t i = 1; i < brano.size(); ++i) {
+        if (brano[i].ESegno(u'(') && Una(kAggregati, brano[i - 1])) return true;
+      }
+      return false;
     });
   }
 
