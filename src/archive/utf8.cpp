@@ -37,7 +37,11 @@ char32_t Componi(std::string_view testo, const Forma& forma) {
 
 char32_t PrendiCarattere(std::string_view& resto) {
   const auto primo = static_cast<unsigned char>(resto.front());
-  char32_t carattere = primo < 0x80 ? primo : kByteEstraneo;
+  if (primo < 0x80) {
+    resto.remove_prefix(1);
+    return primo;
+  }
+  char32_t carattere = kByteEstraneo;
   int lunghezza = 1;
   for (const Forma& forma : kForme) {
     if ((primo & forma.maschera) != forma.capo) continue;
