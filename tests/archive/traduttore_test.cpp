@@ -161,9 +161,14 @@ TEST(Traduttore, OrdinaComeSonoRiposteLeRighe) {
           {"select IDFonte, stato from TabFonte, TabStato where TabFonte.IDStato = "
            "TabStato.IDStato",
            {"1|B", "2|b", "3|a"}},
+          {"select IDFonte, TabStato.IDStato from TabFonte, TabStato where IDFonte = 1 and stato "
+           ">= "
+           "'a'",
+           {"1|1", "1|2", "1|3"}},
           // Equal texts are one row: the first of them.
           {"select distinct TP from TabFonte", {"x", "y"}},
           {"select distinct TP from TabFonte order by TP desc", {"y", "x"}},
+          {"select distinct TP from TabFonte order by IDStato", {"X", "y"}},
           {"select distinct stato from TabStato order by stato", {"-", "a", "b"}},
           {"select distinct TabFonte.* from TabFonte, LegameDocFonte where IDFnt = IDFonte and TP "
            "= 'x' order by IDFonte desc",
