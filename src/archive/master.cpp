@@ -56,23 +56,24 @@ Campo Valore(const Campo& cella, const Colonna& colonna, const LettoreCsv& letto
   return cella;
 }
 
-QString Inserimento(const QString& tabella, const QStringList& colonne) {
-  return QStringLiteral("insert into [%1] ([%2]) values (?%3)")
-      .arg(tabella, colonne.join(QLatin1String("], [")),
-           QStringLiteral(", ?").repeated(colonne.size() - 1));
+void AggiungiRiga(Recordset& righe, const std::vector<Colonna>& colonne, const QList<Campo>& celle,
+                  const LettoreCsv& lettore) {
+  righe.AddNew();
+  for (std::size_t i = 0; i < colonne.size(); ++i) {
+    righe.Assegna(colonne[i].nome.toStdString(),
+                  Valore(celle[static_cast<qsizetype>(i)], colonne[i], lettore));
+  }
+  righe.Update();
 }
 
 void CaricaTabella(const Database& database, const Tabella& tabella, const QString& percorso) {
   LettoreCsv lettore(percorso);
   const std::vector<Colonna> colonne = TrovaColonne(lettore, tabella);
-  const QString inserimento = Inserimento(tabella.nome, lettore.Colonne());
+  Recordset righe = database.OpenRecordset(tabella.nome);
   QList<Campo> celle;
   while (lettore.Leggi(celle)) {
-    for (qsizetype i = 0; i < celle.size(); ++i) {
-      celle[i] = Valore(celle[i], colonne[static_cast<std::size_t>(i)], lettore);
-    }
     try {
-      database.Execute(inserimento, celle);
+      AggiungiRiga(righe, colonne, celle, lettore);
     } catch (const ErroreEsecuzione& errore) {
       if (!errore.E(Errore::ChiaveDuplicata)) throw;
       throw lettore.Guasto(tabella.nome, Errore::ChiaveDuplicata);

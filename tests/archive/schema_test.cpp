@@ -1,0 +1,193 @@
+#include "archive/schema.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+
+#include "archive/database.h"
+#include "comune/cartella_di_prova.h"
+
+namespace torvi {
+namespace {
+
+QString TipoGenuino(const Colonna& colonna) {
+  switch (colonna.tipo) {
+    case TipoColonna::Contatore:
+      return QStringLiteral("LONG counter");
+    case TipoColonna::Intero:
+      return QStringLiteral("LONG");
+    case TipoColonna::Testo:
+      return QStringLiteral("TEXT");
+    case TipoColonna::Memo:
+      return QStringLiteral("MEMO");
+    case TipoColonna::Logico:
+      return QStringLiteral("BOOLEAN");
+    case TipoColonna::Data:
+      return QStringLiteral("SHORT_DATE_TIME");
+    case TipoColonna::Reale:
+      break;
+  }
+  return {};
+}
+
+QJsonObject SchemaGenuino(const QString& nome) {
+  return QJsonDocument::fromJson(Byte(FileGenuino(nome))).object();
+}
+
+const Tabella* Trova(const std::vector<Tabella>& schema, const QString& nome) {
+  const auto tabella = std::find_if(schema.begin(), schema.end(),
+                                    [&](const Tabella& una) { return una.nome == nome; });
+  return tabella == schema.end() ? nullptr : &*tabella;
+}
+
+void ConfrontaColonne(const Tabella& nostra, const QJsonArray& genuine) {
+  ASSERT_EQ(static_cast<qsizetype>(nostra.colonne.size()), genuine.size());
+  for (qsizetype i = 0; i < genuine.size(); ++i) {
+    const QJsonObject genuina = genuine[i].toObject();
+    const Colonna& colonna = nostra.colonne[static_cast<std::size_t>(i)];
+    QString tipo = genuina["type"].toString();
+    if (genuina["counter"].toBool()) tipo += QLatin1String(" counter");
+    EXPECT_EQ(colonna.nome, genuina["name"].toString());
+    EXPECT_EQ(TipoGenuino(colonna), tipo) << colonna.nome.toStdString();
+    if (colonna.larghezza > 0) {
+      EXPECT_EQ(colonna.larghezza, genuina["chars"].toInt()) << colonna.nome.toStdString();
+    }
+  }
+}
+
+void ConfrontaIndici(const Tabella& nostra, const QJsonArray& genuini) {
+  for (const auto& valore : genuini) {
+    const QJsonObject genuino = valore.toObject();
+    const QString nome = genuino["name"].toString();
+    const auto indice = std::find_if(nostra.indici.begin(), nostra.indici.end(),
+                                     [&](const Indice& uno) { return uno.nome == nome; });
+    ASSERT_NE(indice, nostra.indici.end()) << nome.toStdString();
+    EXPECT_EQ(indice->colonne, genuino["columns"].toVariant().toStringList());
+    EXPECT_EQ(indice->unico, genuino["unique"].toBool()) << nome.toStdString();
+  }
+}
+
+TEST(Schema, HaTuttoQuelloDiUnArchivioGenuino) {
+  const std::vector<std::pair<QString, const std::vector<Tabella>&>> casi = {
+      {QStringLiteral("master.schema.json"), SchemaArchivio()},
+      {QStringLiteral("catalogo norme.schema.json"), SchemaCatalogo()},
+  };
+  for (const auto& [file, schema] : casi) {
+    if (FileGenuino(file).isEmpty()) GTEST_SKIP() << "../shared/jet is not at hand";
+    const QJsonObject genuino = SchemaGenuino(file);
+    EXPECT_EQ(static_cast<qsizetype>(schema.size()), genuino.size());
+    for (auto voce = genuino.begin(); voce != genuino.end(); ++voce) {
+      SCOPED_TRACE(voce.key().toStdString());
+      const Tabella* tabella = Trova(schema, voce.key());
+      ASSERT_NE(tabella, nullptr);
+      ConfrontaColonne(*tabella, voce.value().toObject()["columns"].toArray());
+      ConfrontaIndici(*tabella, voce.value().toObject()["indexes"].toArray());
+    }
+  }
+}
+
+class SchemaSuDisco : public ::testing::Test {
+ protected:
+  [[nodiscard]] QString Percorso(const QString& nome = QStringLiteral("nuovo.mdb")) const {
+    return cartella_.Mdb(nome);
+  }
+  [[nodiscard]] Database Nuovo() const {
+    CreaDatabase(Percorso(), SchemaArchivio());
+    return OpenDatabase(Percorso());
+  }
+
+ private:
+  CartellaDiProva cartella_;
+};
+
+TEST_F(SchemaSuDisco, OgniTabellaSiApreSuOgniSuoIndice) {
+  CreaDatabase(Percorso(QStringLiteral("catalogo.mdb")), SchemaCatalogo());
+  const std::vector<std::pair<Database, const std::vector<Tabella>&>> casi = {
+      {Nuovo(), SchemaArchivio()},
+      {OpenDatabase(Percorso(QStringLiteral("catalogo.mdb"))), SchemaCatalogo()},
+  };
+  for (const auto& [database, schema] : casi) {
+    QStringList nomi;
+    for (const Tabella& tabella : schema) {
+      SCOPED_TRACE(tabella.nome.toStdString());
+      nomi += tabella.nome;
+      Recordset righe = database.OpenRecordset(tabella.nome);
+      EXPECT_TRUE(righe.Eof());
+      for (const Indice& indice : tabella.indici) {
+        EXPECT_NO_THROW(righe.Index(indice.nome.toStdString())) << indice.nome.toStdString();
+        EXPECT_NO_THROW(righe.Seek(1));
+      }
+      for (const Colonna& colonna : tabella.colonne) {
+        EXPECT_TRUE(righe.HaCampo(colonna.nome.toStdString())) << colonna.nome.toStdString();
+      }
+    }
+    EXPECT_EQ(database.Tabelle(), nomi);
+  }
+}
+
+TEST_F(SchemaSuDisco, LeIntestazioniDelFileSonoQuelleDiUnArchivio) {
+  CreaDatabase(Percorso(), SchemaArchivio());
+  const QByteArray byte = Byte(Percorso());
+  EXPECT_EQ(byte.mid(16, 2).toHex(), "1000");      // pages of 4096 bytes
+  EXPECT_EQ(byte.mid(18, 2).toHex(), "0101");      // rollback journal
+  EXPECT_EQ(byte.mid(68, 4).toHex(), "546f7276");  // the mark
+  EXPECT_EQ(QDir(QFileInfo(Percorso()).path()).entryList(QDir::Files),
+            QStringList(QStringLiteral("nuovo.mdb")));
+}
+
+TEST_F(SchemaSuDisco, LeColonneNonScritteHannoIValoriAttesi) {
+  const Database archivio = Nuovo();
+  Aggiungi(archivio, QStringLiteral("TabFonte"), {{"TP", "LIO"}});
+  Recordset fonte = archivio.OpenRecordset(QStringLiteral("TabFonte"));
+  for (const char* chiave : {"fonte", "IDRegione", "IDProvincia", "IDCitta", "IDMinistero",
+                             "IDAmministrazione", "IDAutorita", "IDSezione", "IDStato"}) {
+    EXPECT_EQ(fonte.Fields(chiave), Campo(0)) << chiave;
+  }
+  EXPECT_FALSE(fonte.Fields("ordinanza").Logico());
+  EXPECT_FALSE(fonte.Fields("decreto").Logico());
+  EXPECT_TRUE(fonte.Fields("numero").Nullo());
+
+  Aggiungi(archivio, QStringLiteral("TabClasse2000"), {{"Check", "0"}});
+  Recordset classe = archivio.OpenRecordset(QStringLiteral("TabClasse2000"));
+  EXPECT_EQ(classe.Fields("IDClasse2000-D"), Campo(0));
+  EXPECT_TRUE(classe.Fields("IDClasse2000-S").Nullo());
+  EXPECT_TRUE(classe.Fields("Classe2000-D").Nullo());
+}
+
+// Affinities of the engine turn "007" into 7 where a type's name is badly chosen.
+TEST_F(SchemaSuDisco, UnTestoDiCifreRestaTesto) {
+  const Database archivio = Nuovo();
+  Aggiungi(archivio, QStringLiteral("TabRifBibl"), {{"Annata", "007"}, {"Data", "1e3"}});
+  Aggiungi(archivio, QStringLiteral("TabTesto"), {{"testo", "0012"}});
+  Aggiungi(archivio, QStringLiteral("TabDocumento"), {{"td", "01"}, {"Bib", ""}});
+  Aggiungi(archivio, QStringLiteral("TabNIT"), {{"data", "04/11/1950"}});
+  Recordset riferimento = archivio.OpenRecordset(QStringLiteral("TabRifBibl"));
+  EXPECT_EQ(riferimento.Fields("Annata"), Campo("007"));
+  EXPECT_EQ(riferimento.Fields("Data"), Campo("1e3"));
+  EXPECT_EQ(archivio.OpenRecordset(QStringLiteral("TabTesto")).Fields("testo"), Campo("0012"));
+  Recordset documento = archivio.OpenRecordset(QStringLiteral("TabDocumento"));
+  EXPECT_EQ(documento.Fields("td"), Campo("01"));
+  EXPECT_EQ(documento.Fields("Bib"), Campo(""));
+  EXPECT_EQ(archivio.OpenRecordset(QStringLiteral("TabNIT")).Fields("data"), Campo("04/11/1950"));
+}
+
+TEST_F(SchemaSuDisco, UnContatoreNonTornaIndietro) {
+  const Database archivio = Nuovo();
+  EXPECT_EQ(Aggiungi(archivio, QStringLiteral("TabDocumento"), {{"td", "01"}}), 1);
+  archivio.Execute(QStringLiteral("delete * from TabDocumento"));
+  EXPECT_EQ(Aggiungi(archivio, QStringLiteral("TabDocumento"), {{"td", "02"}}), 2);
+}
+
+TEST_F(SchemaSuDisco, UnFileCheCEGiaRestaComEra) {
+  ScriviByte(Percorso(), "non toccare");
+  EXPECT_EQ(NumeroErrore([&] { CreaDatabase(Percorso(), SchemaArchivio()); }), 75);
+  EXPECT_EQ(Byte(Percorso()), "non toccare");
+  EXPECT_EQ(QDir(QFileInfo(Percorso()).path()).entryList(QDir::Files).size(), 1);
+}
+
+}  // namespace
+}  // namespace torvi
