@@ -72,24 +72,24 @@ std::uint8_t PrendiAccentoStaccato(std::string_view& resto) {
   return segno->peso;
 }
 
-// The weights of a text, letter by letter.
+// The weights of a text, letter by letter; all 0 at the end.
 class Lettore {
  public:
   explicit Lettore(std::string_view testo) : resto_(testo) {}
 
-  // False at the end.
-  bool Prossimo(Peso& peso) {
+  Peso Prossimo() {
+    Peso peso;
     if (pendente_ != 0) {
-      peso = {pendente_, 0, kSenzaAccento, 0};
+      peso.primo = pendente_;
       pendente_ = 0;
     } else {
-      if (resto_.empty()) return false;
+      if (resto_.empty()) return peso;
       peso = PesoDi(PrendiCarattere(resto_));
       pendente_ = peso.secondo;
     }
-    if (peso.primo == 0 || pendente_ != 0) return true;
+    if (peso.primo == 0 || pendente_ != 0) return peso;
     while (const std::uint8_t accento = PrendiAccentoStaccato(resto_)) peso.accento = accento;
-    return true;
+    return peso;
   }
 
  private:
@@ -97,64 +97,47 @@ class Lettore {
   std::uint32_t pendente_ = 0;
 };
 
-// Each gives the next weight of its level, `fine` at the end of the text.
-std::uint32_t ProssimoPrimo(Lettore& lettore) {
-  Peso peso;
-  while (lettore.Prossimo(peso)) {
-    if (peso.primo != 0) return peso.primo;
-  }
-  return 0;
-}
-
-// Letters without a mark at the end of a text weigh nothing: both texts have as many letters.
-std::uint32_t ProssimoAccento(Lettore& lettore) {
-  Peso peso;
-  while (lettore.Prossimo(peso)) {
-    if (peso.primo != 0) return peso.accento;
-  }
-  return 0;
-}
-
-// A tie-breaker counts first by how many letters stand before it, then by its own weight.
-class Spareggi {
+// Which text the tie-breakers put first. They count first by how many letters stand before them,
+// then by their weights.
+class Spareggio {
  public:
-  explicit Spareggi(std::string_view testo) : lettore_(testo) {}
-
-  std::uint64_t Prossimo() {
-    Peso peso;
-    while (lettore_.Prossimo(peso)) {
-      if (peso.primo == 0) return (lettere_ << 8) | peso.spareggio;
-      ++lettere_;
+  // The next of each text in front of the same letter, 0 for none.
+  void Vedi(std::uint8_t a, std::uint8_t b) {
+    if (sospeso_) {
+      if ((esito_ > 0 ? b : a) == 0) return;
+      esito_ = -esito_;
+      sospeso_ = false;
+    } else if (esito_ == 0 && a != b) {
+      esito_ = a < b ? -1 : 1;
+      sospeso_ = a == 0 || b == 0;
     }
-    return 0;
   }
+  [[nodiscard]] int Esito() const { return esito_; }
 
  private:
-  Lettore lettore_;
-  std::uint64_t lettere_ = 0;
+  int esito_ = 0;
+  // Only one text has had one: it comes behind, unless the other has one further on.
+  bool sospeso_ = false;
 };
 
-template <class Prossimo>
-int ConfrontaLivello(Prossimo prossimoA, Prossimo prossimoB) {
-  while (true) {
-    const auto a = prossimoA();
-    const auto b = prossimoB();
-    if (a != b) return a < b ? -1 : 1;
-    if (a == 0) return 0;
-  }
-}
-
+// All levels in one walk: the first difference of a level counts where those above have none.
 int ConfrontaPerIntero(std::string_view a, std::string_view b) {
-  for (auto* prossimo : {&ProssimoPrimo, &ProssimoAccento}) {
-    const auto livello = [&](std::string_view testo) {
-      return [prossimo, lettore = Lettore(testo)]() mutable { return prossimo(lettore); };
-    };
-    if (const int esito = ConfrontaLivello(livello(a), livello(b))) return esito;
+  Lettore lettoreA(a);
+  Lettore lettoreB(b);
+  int accenti = 0;
+  Spareggio spareggio;
+  while (true) {
+    Peso pesoA = lettoreA.Prossimo();
+    Peso pesoB = lettoreB.Prossimo();
+    while (pesoA.spareggio != 0 || pesoB.spareggio != 0) {
+      spareggio.Vedi(pesoA.spareggio, pesoB.spareggio);
+      if (pesoA.spareggio != 0) pesoA = lettoreA.Prossimo();
+      if (pesoB.spareggio != 0) pesoB = lettoreB.Prossimo();
+    }
+    if (pesoA.primo != pesoB.primo) return pesoA.primo < pesoB.primo ? -1 : 1;
+    if (pesoA.primo == 0) return accenti != 0 ? accenti : spareggio.Esito();
+    if (accenti == 0) accenti = (pesoA.accento > pesoB.accento) - (pesoA.accento < pesoB.accento);
   }
-  const auto spareggi = [](std::string_view testo) {
-    return [lettore = Spareggi(testo)]() mutable { return lettore.Prossimo(); };
-  };
-  return ConfrontaLivello(spareggi(a), spareggi(b));
 }
 
 std::string_view SenzaSpaziFinali(std::string_view testo) {
@@ -184,6 +167,7 @@ std::size_t PrefissoUguale(std::string_view a, std::string_view b, int& esito) {
 }  // namespace
 
 int ConfrontaItaliano(std::string_view a, std::string_view b) {
+  if (a == b) return 0;
   a = SenzaSpaziFinali(a);
   b = SenzaSpaziFinali(b);
   int esito = 0;

@@ -50,6 +50,15 @@ bool PrendiUno(std::string_view& testo, std::string_view& modello) {
   return segno == carattere;
 }
 
+// Drops from the text what cannot begin a match of the pattern behind a "*".
+void Salta(std::string_view& testo, std::string_view modello) {
+  const char32_t segno = PrendiPiegato(modello);
+  if (segno == '?' || segno == '#' || segno == '[' || segno == '*') return;
+  for (std::string_view dopo = testo; !dopo.empty(); testo = dopo) {
+    if (PrendiPiegato(dopo) == segno) return;
+  }
+}
+
 }  // namespace
 
 bool SomigliaA(std::string_view testo, std::string_view modello) {
@@ -61,12 +70,14 @@ bool SomigliaA(std::string_view testo, std::string_view modello) {
     if (modello.starts_with('*')) {
       modello.remove_prefix(1);
       if (modello.empty()) return true;
+      Salta(testo, modello);
       testoRipresa = testo;
       modelloRipresa = modello;
       ripresa = true;
     } else if (modello.empty() || !PrendiUno(testo, modello)) {
       if (!ripresa || testoRipresa.empty()) return false;
       static_cast<void>(PrendiCarattere(testoRipresa));
+      Salta(testoRipresa, modelloRipresa);
       testo = testoRipresa;
       modello = modelloRipresa;
     }

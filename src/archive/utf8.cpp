@@ -35,12 +35,8 @@ char32_t Componi(std::string_view testo, const Forma& forma) {
 
 }  // namespace
 
-char32_t PrendiCarattere(std::string_view& resto) {
+char32_t PrendiCarattereLungo(std::string_view& resto) {
   const auto primo = static_cast<unsigned char>(resto.front());
-  if (primo < 0x80) {
-    resto.remove_prefix(1);
-    return primo;
-  }
   char32_t carattere = kByteEstraneo;
   int lunghezza = 1;
   for (const Forma& forma : kForme) {
