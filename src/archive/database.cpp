@@ -48,7 +48,7 @@ std::unique_ptr<SQLite::Database> ApriJet(const QString& percorso) {
   auto motore = std::make_unique<SQLite::Database>(std::string(),
                                                    SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   RegistraFunzioni(motore->getHandle());
-  CaricaJet(percorso, motore->getHandle());
+  CaricaJet(percorso, *motore);
   motore->exec("PRAGMA query_only = 1");
   return motore;
 }

@@ -1,5 +1,8 @@
 #include "archive/file_nuovo.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -24,6 +27,30 @@ QString NomePassaggio(const QString& destinazione) {
 void TogliSeguito(const QString& percorso) {
   // A journal left by a killed program would be rolled back into the new file.
   QFile::remove(percorso % QStringLiteral("-journal"));
+}
+
+// What a file holds is on disk before its name is, so that a power cut never leaves the name alone.
+// Some file systems refuse it for folders: these keep names in order by themselves.
+bool SuDisco(const QString& percorso) {
+  const int file = open(QFile::encodeName(percorso).constData(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return false;
+  const bool fatto = fsync(file) == 0;
+  const int causa = errno;
+  close(file);
+  errno = causa;
+  return fatto;
+}
+
+Errore NumeroScrittura(int causa) {
+  switch (causa) {
+    case ENOSPC:
+    case EDQUOT:
+      return Errore::DiscoPieno;
+    case EIO:
+      return Errore::ErroreDispositivo;
+    default:
+      return Errore::ErroreAccessoFile;
+  }
 }
 
 }  // namespace
@@ -68,12 +95,12 @@ void FileNuovo::Sostituisci() {
 }
 
 void FileNuovo::Rinomina() {
-  if (std::rename(QFile::encodeName(percorso_).constData(),
-                  QFile::encodeName(destinazione_).constData()) != 0) {
-    throw ErroreEsecuzione(errno == ENOSPC ? Errore::DiscoPieno : Errore::ErroreAccessoFile,
-                           destinazione_);
+  if (!SuDisco(percorso_) || std::rename(QFile::encodeName(percorso_).constData(),
+                                         QFile::encodeName(destinazione_).constData()) != 0) {
+    throw ErroreEsecuzione(NumeroScrittura(errno), destinazione_);
   }
   percorso_.clear();
+  (void)SuDisco(QFileInfo(destinazione_).absolutePath());
 }
 
 }  // namespace torvi

@@ -54,6 +54,10 @@ qint64 LettoreJet::UltimoContatore(const QString& tabella) const {
   return stato_->Trova(tabella).ultimoContatore;
 }
 
+qint64 LettoreJet::QuanteRighe(const QString& tabella) const {
+  return stato_->Trova(tabella).righe;
+}
+
 void LettoreJet::LeggiRighe(const QString& tabella,
                             const std::function<void(const std::vector<Campo>&)>& riga) const {
   const jet::Definizione& definizione = stato_->Trova(tabella);

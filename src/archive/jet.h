@@ -25,6 +25,8 @@ class LettoreJet {
   [[nodiscard]] const std::vector<Tabella>& Tabelle() const;
   // The last value that the counter of a table has given, 0 without a counter.
   [[nodiscard]] qint64 UltimoContatore(const QString& tabella) const;
+  // How many rows the file counts in a table; 0 also in one that was not closed properly.
+  [[nodiscard]] qint64 QuanteRighe(const QString& tabella) const;
   // Rows in stored order; values in the order of the columns. Damage met on the way: error 3343.
   void LeggiRighe(const QString& tabella,
                   const std::function<void(const std::vector<Campo>&)>& riga) const;

@@ -135,24 +135,28 @@ QByteArray Lungo(Pagine& pagine, Ottetti campo) {
 }
 
 QString Testo(const Pagine& pagine, Ottetti ottetti) {
-  QString testo;
-  bool compresso = ottetti.size() >= 2 && ottetti[0] == 0xff && ottetti[1] == 0xfe;
-  std::size_t i = compresso ? 2 : 0;
-  const bool conCambi = compresso;
-  testo.reserve(static_cast<int>(ottetti.size()));
-  while (i < ottetti.size()) {
+  const bool conCambi = ottetti.size() >= 2 && ottetti[0] == 0xff && ottetti[1] == 0xfe;
+  if (conCambi) ottetti = ottetti.subspan(2);
+  bool compresso = conCambi;
+  bool soloLatino = conCambi;
+  // No character takes less than one byte.
+  QString testo(static_cast<qsizetype>(ottetti.size()), Qt::Uninitialized);
+  QChar* fine = testo.data();
+  for (std::size_t i = 0; i < ottetti.size();) {
     if (conCambi && ottetti[i] == 0) {
       compresso = !compresso;
       ++i;
     } else if (compresso) {
-      testo += QLatin1Char(static_cast<char>(ottetti[i++]));
+      *fine++ = QLatin1Char(static_cast<char>(ottetti[i++]));
     } else {
       if (i + 2 > ottetti.size()) pagine.Danno(QStringLiteral("un testo"));
-      testo += QChar(Numero16(ottetti, i));
+      *fine++ = QChar(Numero16(ottetti, i));
       i += 2;
+      soloLatino = false;
     }
   }
-  if (!testo.isValidUtf16()) pagine.Danno(QStringLiteral("un testo"));
+  testo.truncate(fine - testo.constData());
+  if (!soloLatino && !testo.isValidUtf16()) pagine.Danno(QStringLiteral("un testo"));
   return testo;
 }
 

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -13,6 +12,7 @@
 #include <vector>
 
 #include "archive/campo.h"
+#include "comune/cartella_di_prova.h"
 
 namespace torvi::prova {
 
@@ -32,22 +32,10 @@ inline QStringList FileJet() {
   return CartellaJet().entryList({QStringLiteral("*.mdb")}, QDir::Files);
 }
 
-inline QByteArray Contenuto(const QString& percorso) {
-  QFile file(percorso);
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(percorso);
-  return file.readAll();
-}
-
-inline void Scrivi(const QString& percorso, const QByteArray& contenuto) {
-  QFile file(percorso);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(percorso);
-  ASSERT_EQ(file.write(contenuto), contenuto.size());
-}
-
 // "consegna.mdb" and ".json" or ".schema.json": what the file beside it tells.
 inline QJsonObject Atteso(const QString& mdb, const char* genere) {
   const QString nome = mdb.chopped(4) + QLatin1String(genere);
-  return QJsonDocument::fromJson(Contenuto(CartellaJet().filePath(nome))).object();
+  return QJsonDocument::fromJson(Byte(CartellaJet().filePath(nome))).object();
 }
 
 // A value as one string, so that differences can be read: Null, text and numbers never look alike.

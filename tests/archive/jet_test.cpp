@@ -131,7 +131,7 @@ TEST_F(Jet, ATruncatedFileIsRefusedUnlessItLostNoRow) {
   const QTemporaryDir cartella;
   for (const char* nome : {"righe spostate.mdb", "consegna.mdb"}) {
     const QString genuino = CartellaJet().filePath(QLatin1String(nome));
-    const QByteArray contenuto = Contenuto(genuino);
+    const QByteArray contenuto = Byte(genuino);
     const auto righe = LeggiTutto(genuino);
     const QString copia = cartella.filePath(QStringLiteral("troncato.mdb"));
     int rifiutati = 0;
@@ -139,7 +139,7 @@ TEST_F(Jet, ATruncatedFileIsRefusedUnlessItLostNoRow) {
     for (qsizetype n = 8192; n < contenuto.size(); n += 4096) lunghezze += n;
     for (const qsizetype lunghezza : lunghezze) {
       SCOPED_TRACE(lunghezza);
-      Scrivi(copia, contenuto.first(lunghezza));
+      ScriviByte(copia, contenuto.first(lunghezza));
       const auto lette = LeggiDanneggiato(copia);
       EXPECT_TRUE(lette.isEmpty() || lette == righe);
       if (lette.isEmpty()) ++rifiutati;
@@ -156,7 +156,7 @@ TEST_F(Jet, FlippedBitsNeverCrashTheReader) {
   int rifiutati = 0;
   for (const char* nome :
        {"righe spostate.mdb", "catalogo norme data.mdb", "classificazione.mdb"}) {
-    const QByteArray contenuto = Contenuto(CartellaJet().filePath(QLatin1String(nome)));
+    const QByteArray contenuto = Byte(CartellaJet().filePath(QLatin1String(nome)));
     for (int i = 0; i < 150; ++i) {
       SCOPED_TRACE(i);
       QByteArray guasto = contenuto;
@@ -166,7 +166,7 @@ TEST_F(Jet, FlippedBitsNeverCrashTheReader) {
         const auto posto = static_cast<qsizetype>(caso() % (caso() % 2 == 0 ? 128 : 4096));
         guasto[pagina + posto] = static_cast<char>(guasto[pagina + posto] ^ (1 << caso() % 8));
       }
-      Scrivi(copia, guasto);
+      ScriviByte(copia, guasto);
       if (LeggiDanneggiato(copia).isEmpty()) ++rifiutati;
     }
   }
