@@ -1,0 +1,159 @@
+#include "export/elenco_fonti.h"
+
+#include <gtest/gtest.h>
+
+#include "fonti_di_prova.h"
+
+namespace torvi {
+namespace {
+
+TEST(ElencoFonti, TheMarkedKindsBearTheirCode) {
+  struct Caso {
+    const char* tp;
+    const char* testo;
+    const char* elemento;
+  };
+  constexpr Caso kCasi[] = {
+      {"NIC", "Dir. 90/314", "Dir. 90/314*NIC*"},
+      {"NIT", "T", "T*NIT*"},
+      {"NIA", "T", "T*NIA*"},
+      {"GEC", "T", "T*GEC*"},
+      {"GEI", "T", "T*GEI*"},
+      {"NS", "T", "T*NS*"},
+      {"GS", "T", "T*GS*"},
+      {"FCA", "T", "T*FCA*"},
+      {"FSRG", "T", "T*FSRG*"},
+      {"FSA", "T", "T*FSA*"},
+      {"NSX", "T", "T"},
+      {"GSX", "T", "T"},
+      {"GIA", "T", "T"},
+      {"GICO", "T", "T"},
+      {"LIC", "T", "T"},
+      {"AC", "T", "T"},
+      {"LIF", "T", "T"},
+      {"nic", "T", "T"},
+      {"", "T", "T"},
+      {"NIC", "T*NIC*", "T*NIC*"},
+      {"FCA", "a*b", "a*b"},
+      {"NS", "", "*NS*"},
+  };
+  FontiDiProva prova;
+  std::string atteso = "10";
+  for (const Caso& caso : kCasi) {
+    prova.Fonte({{"TP", caso.tp}, {"testo", caso.testo}, {"numero", "1"}});
+    atteso += (atteso == "10" ? "" : "\\") + std::string(caso.elemento);
+  }
+  const EsitoScrittura esito = prova.Elenco();
+  EXPECT_EQ(esito.campi, atteso + "\n");
+  EXPECT_EQ(esito.errori, "");
+  EXPECT_EQ(esito.erroriFonti, "");
+}
+
+TEST(ElencoFonti, SourcesStandInTheOrderOfTheirLinks) {
+  FontiDiProva prova;
+  const qint64 a = prova.Fonte({{"TP", "GIO"}, {"testo", "a"}, {"numero", ""}});
+  const qint64 b = prova.Fonte({{"TP", "GIO"}, {"testo", "b"}, {"numero", ""}});
+  prova.TogliFonti();
+  for (const qint64 fonte : {b, a}) prova.Riga("LegameDocFonte", {{"IDDoc", 3}, {"IDFnt", fonte}});
+  prova.Riga("LegameDocFonte", {{"IDDoc", 4}, {"IDFnt", a}});
+  EXPECT_EQ(prova.Elenco().campi, "10b\\a\n");
+}
+
+TEST(ElencoFonti, ALongListBecomesSeveralFields) {
+  FontiDiProva prova;
+  const QString parola = QString(499, u'x');
+  prova.Fonte({{"TP", "GIO"}, {"testo", QString(parola + " " + parola + " ")}, {"numero", ""}});
+  EXPECT_EQ(prova.Elenco().campi.size(), 2 + 1000 + 1);
+  prova.Fonte({{"TP", "GIO"}, {"testo", "b"}, {"numero", ""}});
+  const std::string intera = (parola + " " + parola + " ").toStdString();
+  EXPECT_EQ(prova.Elenco().campi, "10" + intera + "\n10\\b\n");
+}
+
+TEST(ElencoFonti, ADocumentWithoutSourcesIsToldOnlyWhereTheyAreRequired) {
+  FontiDiProva prova;
+  EsitoScrittura esito = prova.Elenco();
+  EXPECT_EQ(esito.campi + esito.errori + esito.erroriFonti, "");
+  prova.stato.ControlloFonti = true;
+  esito = prova.Elenco();
+  EXPECT_EQ(esito.campi + esito.erroriFonti, "");
+  EXPECT_EQ(esito.errori, "Manca fonte: 2001A0012\r\n");
+}
+
+TEST(ElencoFonti, EachCheckRunsOnItsPositions) {
+  struct Caso {
+    const char* tp;
+    Campo fonte;
+    Campo regione;
+    const char* numero;
+    const char* prima;
+    const char* seguente;
+  };
+  constexpr auto kTar = "Fonte TAR senza regione: ";
+  constexpr auto kLimite = "Fonte GICO con numero > 1000: ";
+  constexpr auto kManca = "Fonte GICO/GICA senza numero: ";
+  constexpr auto kErrata = "Fonte errata: ";
+  const Caso casi[] = {
+      {"GIA", 117, 0, "1", kTar, kTar},
+      {"GIA", 117, 3, "1", "", ""},
+      {"GIA", 117, Campo(), "1", "", ""},
+      {"GIA", 116, 0, "1", "", ""},
+      {"GIA", Campo(), 0, "1", "", ""},
+      {"GIO", 117, 0, "1", "", ""},
+      {"GICO", 1, 0, "1001", "", kLimite},
+      {"GICO", 1, 0, "2000 bis", "", kLimite},
+      {"GICO", 1, 0, "1000", "", ""},
+      {"GICO", 1, 0, "n. 1001", "", ""},
+      {"GICO", 1, 0, "1000.5", "", kLimite},
+      {"GICA", 1, 0, "1001", "", ""},
+      {"GICO", 1, 0, "", "", kManca},
+      {"GICA", 1, 0, "", "", kManca},
+      {"GIO", 1, 0, "", "", ""},
+      {"LIO", 1, 0, "241", "", ""},
+      {"LIO", 1, 0, "242", kErrata, kErrata},
+      {"LICO", 1, 0, "242", kErrata, kErrata},
+      {"LIOA", 1, 0, "242", kErrata, kErrata},
+      {"LIR", 1, 0, "242", "", ""},
+  };
+  FontiDiProva prova;
+  prova.Riga("TabFonteInterna", {{"FonteNorm", "l."}});
+  prova.NuovoCatalogo({{"anno", 1990},
+                       {"numero", "241"},
+                       {"abbreviazione", "l."},
+                       {"promulgazione", "07/08/1990"}});
+  const auto messaggio = [](const char* testo) {
+    return *testo == '\0' ? std::string() : std::string(testo) + "t\xE0 (2001A0012)\r\n";
+  };
+  for (const Caso& caso : casi) {
+    const auto aggiungi = [&] {
+      prova.Fonte({{"TP", caso.tp},
+                   {"testo", "tà"},
+                   {"fonte", caso.fonte},
+                   {"IDRegione", caso.regione},
+                   {"numero", caso.numero},
+                   {"giorno", "7"},
+                   {"mese", "8"},
+                   {"anno", "1990"}});
+    };
+    prova.TogliFonti();
+    aggiungi();
+    EXPECT_EQ(prova.Elenco().erroriFonti, messaggio(caso.prima)) << caso.tp << caso.numero;
+    prova.TogliFonti();
+    prova.Fonte({{"TP", "GICO"}, {"testo", "prima"}});
+    aggiungi();
+    EXPECT_EQ(prova.Elenco().erroriFonti, messaggio(caso.seguente)) << caso.tp << caso.numero;
+  }
+}
+
+TEST(ElencoFonti, ANullNumberEndsTheRunOnALaterSourceOnly) {
+  FontiDiProva prova;
+  prova.Fonte({{"TP", "GICO"}, {"testo", "prima"}});
+  EXPECT_EQ(prova.Elenco().errore, 0);
+  prova.Fonte({{"TP", "GIA"}, {"testo", "seconda"}, {"fonte", 117}, {"IDRegione", 0}});
+  const EsitoScrittura esito = prova.Elenco();
+  EXPECT_EQ(esito.errore, 94);
+  EXPECT_EQ(esito.campi, "");
+  EXPECT_EQ(esito.erroriFonti, "Fonte TAR senza regione: seconda (2001A0012)\r\n");
+}
+
+}  // namespace
+}  // namespace torvi

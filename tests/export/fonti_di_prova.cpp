@@ -1,0 +1,76 @@
+#include "fonti_di_prova.h"
+
+#include <functional>
+
+#include "archive/schema.h"
+#include "export/catalogo_norme.h"
+#include "export/elenco_fonti.h"
+#include "export/fonti_etichettate.h"
+#include "shell/consegna.h"
+
+namespace torvi {
+namespace {
+
+constexpr qint64 kDocumento = 3;
+
+EsitoScrittura Scrivi(FontiDiProva& prova,
+                      const std::function<void(ContestoEsportazione&)>& scrittore) {
+  const QString nomi[] = {prova.cartella.Dump(QStringLiteral("errori.A01")),
+                          prova.cartella.Dump(QStringLiteral("errClasse.A01")),
+                          prova.cartella.Dump(QStringLiteral("errFonte.A01"))};
+  EsitoScrittura esito;
+  Record record;
+  {
+    CatalogoNorme catalogo(prova.stato.CartellaApplicazione);
+    FileTesto errori(nomi[0], Apertura::Scrittura);
+    FileTesto errClasse(nomi[1], Apertura::Scrittura);
+    FileTesto errFonte(nomi[2], Apertura::Scrittura);
+    ContestoEsportazione contesto = {prova.stato, record, errori, errClasse, errFonte, catalogo};
+    esito.errore = NumeroErrore([&] { scrittore(contesto); });
+  }
+  for (const Record::Riga& riga : record.RigheRecord()) {
+    esito.campi += (riga.tag + riga.contenuto + "\n").toStdString();
+  }
+  esito.errori = Byte(nomi[0]).toStdString();
+  esito.erroriFonti = Byte(nomi[2]).toStdString();
+  return esito;
+}
+
+}  // namespace
+
+FontiDiProva::FontiDiProva(const DatiConsegna& dati) : stato(cartella.StatoConConsegna(dati)) {
+  LeggiInfoConsegna(stato);
+}
+
+qint64 FontiDiProva::Riga(const char* tabella, Valori valori) const {
+  return Aggiungi(stato.DbArchivio, QString::fromUtf8(tabella), valori);
+}
+
+qint64 FontiDiProva::Fonte(Valori valori) const {
+  const qint64 fonte = Riga("TabFonte", valori);
+  Riga("LegameDocFonte", {{"IDDoc", kDocumento}, {"IDFnt", fonte}});
+  return fonte;
+}
+
+void FontiDiProva::TogliFonti() const {
+  stato.DbArchivio.Execute(QStringLiteral("delete * from LegameDocFonte"));
+}
+
+void FontiDiProva::NuovoCatalogo(Valori riga) const {
+  const QString percorso = cartella.Mdb(QStringLiteral("Catalogo Norme.MDB"));
+  CreaDatabase(percorso, SchemaCatalogo());
+  Aggiungi(OpenDatabase(percorso), QStringLiteral("tabCatalogo"), riga);
+}
+
+EsitoScrittura FontiDiProva::Elenco() {
+  return Scrivi(*this, [](ContestoEsportazione& contesto) {
+    ScriviElencoFonti(contesto, kDocumento, QStringLiteral("2001A0012"));
+  });
+}
+
+EsitoScrittura FontiDiProva::Etichettate() {
+  return Scrivi(
+      *this, [](ContestoEsportazione& contesto) { ScriviFontiEtichettate(contesto, kDocumento); });
+}
+
+}  // namespace torvi

@@ -1,0 +1,38 @@
+// A delivery with one document, its sources, and the two writers of sources run on it.
+#pragma once
+
+#include <string>
+
+#include "comune/cartella_di_prova.h"
+
+namespace torvi {
+
+// What a writer left: each field as tag and content, each message as a line, one after the other.
+struct EsitoScrittura {
+  std::string campi;
+  std::string errori;
+  std::string erroriFonti;
+  int errore = 0;  // the run-time error that ended it
+};
+
+using Valori = std::initializer_list<std::pair<const char*, Campo>>;
+
+class FontiDiProva {
+ public:
+  explicit FontiDiProva(const DatiConsegna& dati = {});
+
+  CartellaDiProva cartella;
+  StatoGlobale stato;
+
+  qint64 Riga(const char* tabella, Valori valori) const;
+  // One source more of the document. Result: its `IDFonte`.
+  qint64 Fonte(Valori valori) const;
+  void TogliFonti() const;
+  // mdb/"catalogo norme.mdb" with one row.
+  void NuovoCatalogo(Valori riga) const;
+
+  [[nodiscard]] EsitoScrittura Elenco();
+  [[nodiscard]] EsitoScrittura Etichettate();
+};
+
+}  // namespace torvi
