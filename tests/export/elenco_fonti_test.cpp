@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fonti_di_prova.h"
+#include "export/fonti_di_prova.h"
 
 namespace torvi {
 namespace {
@@ -61,12 +61,12 @@ TEST(ElencoFonti, SourcesStandInTheOrderOfTheirLinks) {
 
 TEST(ElencoFonti, ALongListBecomesSeveralFields) {
   FontiDiProva prova;
-  const QString parola = QString(499, u'x');
-  prova.Fonte({{"TP", "GIO"}, {"testo", QString(parola + " " + parola + " ")}, {"numero", ""}});
+  const QString parola(499, u'x');
+  const QString testo = parola + " " + parola + " ";
+  prova.Fonte({{"TP", "GIO"}, {"testo", testo}, {"numero", ""}});
   EXPECT_EQ(prova.Elenco().campi.size(), 2 + 1000 + 1);
   prova.Fonte({{"TP", "GIO"}, {"testo", "b"}, {"numero", ""}});
-  const std::string intera = (parola + " " + parola + " ").toStdString();
-  EXPECT_EQ(prova.Elenco().campi, "10" + intera + "\n10\\b\n");
+  EXPECT_EQ(prova.Elenco().campi, "10" + testo.toStdString() + "\n10\\b\n");
 }
 
 TEST(ElencoFonti, ADocumentWithoutSourcesIsToldOnlyWhereTheyAreRequired) {

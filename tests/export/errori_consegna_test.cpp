@@ -37,10 +37,13 @@ class ErroriConsegnaTest : public testing::Test {
     for (const Parola& parola : dialoghi.Parole()) {
       const bool finestra = parola.genere == Parola::Genere::Errori;
       visto += (finestra ? "W:" : "M:") + parola.titolo + parola.testo + "|";
-      if (finestra) EXPECT_EQ(parola.testo, stato.TestoErrori);
+      if (finestra) {
+        EXPECT_EQ(parola.testo, stato.TestoErrori);
+      }
     }
     const Recordset info = stato.DbArchivio.OpenRecordset(QStringLiteral("TabInfo"));
-    return (visto + info.Fields(vista.marcatore).TestoOVuoto()).toStdString();
+    visto += info.Fields(vista.marcatore).TestoOVuoto();
+    return visto.toStdString();
   }
   void Scrivi(const Vista& vista, const char* testo) const {
     ScriviByte(cartella.Dump(QString::fromUtf8(vista.file)), testo);

@@ -1,4 +1,4 @@
-#include "fonti_di_prova.h"
+#include "export/fonti_di_prova.h"
 
 #include <functional>
 
@@ -29,7 +29,7 @@ EsitoScrittura Scrivi(FontiDiProva& prova,
     esito.errore = NumeroErrore([&] { scrittore(contesto); });
   }
   for (const Record::Riga& riga : record.RigheRecord()) {
-    esito.campi += (riga.tag + riga.contenuto + "\n").toStdString();
+    esito.campi += riga.tag.toStdString() + riga.contenuto.toStdString() + "\n";
   }
   esito.errori = Byte(nomi[0]).toStdString();
   esito.erroriFonti = Byte(nomi[2]).toStdString();

@@ -33,6 +33,9 @@ class FontiDiProva {
 
   [[nodiscard]] EsitoScrittura Elenco();
   [[nodiscard]] EsitoScrittura Etichettate();
+
+ private:
+  UnitaDiScrittura unita_{stato.DbArchivio};  // one write for all rows of a test
 };
 
 }  // namespace torvi

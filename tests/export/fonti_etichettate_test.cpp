@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "export/celex.h"
-#include "fonti_di_prova.h"
+#include "export/fonti_di_prova.h"
 
 namespace torvi {
 namespace {
@@ -214,9 +214,10 @@ TEST_F(FontiEtichettateTest, OnlyTheEuFamilyNeedsASixteenBitNumber) {
 
 TEST_F(FontiEtichettateTest, LengthDecidesTheNumberOfFields) {
   EXPECT_EQ(prova.Etichettate().campi, "");
-  prova.Fonte({{"TP", "NS"}, {"articolo", QString(1000, u'x')}});
-  const std::string campi = prova.Etichettate().campi;
-  EXPECT_TRUE(campi.starts_with("22^tNS^f ^x ^y ^m ^d ^n \n22^ax")) << campi;
+  const QString articolo(970, u'x');
+  prova.Fonte({{"TP", "NS"}, {"articolo", articolo}});
+  EXPECT_EQ(prova.Etichettate().campi, "22^tNS^f ^x ^y ^m ^d ^n ^a" + articolo.toStdString() +
+                                           "^j ^c \n22^k ^l ^g ^s ^o ^e ^r ^p ^i ^z ^u \n");
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-#include "fonti_di_prova.h"
+#include "export/fonti_di_prova.h"
 
 namespace torvi {
 namespace {
