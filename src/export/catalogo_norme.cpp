@@ -52,14 +52,23 @@ void CatalogoNorme::Apri() {
 }
 
 bool CatalogoNorme::Contiene(const AttoCercato& atto) {
+  constexpr qsizetype kRicordati = 4096;
   Apri();
   const auto data = DataCatalogo(atto);
   if (!data) return false;
+  const QString chiave = *data + QLatin1Char('|') + atto.FonteNorm + QLatin1Char('|') + atto.numero;
+  const auto noto = cercati_.constFind(chiave);
+  if (noto != cercati_.constEnd()) return *noto;
+  if (cercati_.size() >= kRicordati) cercati_.clear();
+  return *cercati_.insert(chiave, Cerca(atto, *data));
+}
+
+bool CatalogoNorme::Cerca(const AttoCercato& atto, const QString& data) const {
   // The date goes in as the text that a date literal stands for, so that one statement does for
   // all.
   auto istruzione = QStringLiteral(
       "select * from tabCatalogo where anno = ? and promulgazione = ? and abbreviazione = ?");
-  QList<Campo> valori = {Val(atto.anno), *data, AbbreviazioneCatalogo(atto.FonteNorm)};
+  QList<Campo> valori = {Val(atto.anno), data, AbbreviazioneCatalogo(atto.FonteNorm)};
   if (!atto.numero.isEmpty()) {
     istruzione += " and numero = ?"_L1;
     valori.append(atto.numero);

@@ -2,6 +2,7 @@
 // folder.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <optional>
 
@@ -24,12 +25,16 @@ class CatalogoNorme {
 
   // Opens the file for reading, once for as long as this object lives. Not there: error 3024.
   void Apri();
-  // A day that is on no calendar matches nothing.
+  // A day that is on no calendar matches nothing. Documents cite the same acts over and over: what
+  // was found is remembered.
   [[nodiscard]] bool Contiene(const AttoCercato& atto);
 
  private:
+  [[nodiscard]] bool Cerca(const AttoCercato& atto, const QString& data) const;
+
   QString cartella_;
   std::optional<Database> database_;
+  QHash<QString, bool> cercati_;
 };
 
 }  // namespace torvi

@@ -5,6 +5,7 @@
 
 #include "export/file_testo.h"
 #include "export/record.h"
+#include "export/tabelle_di_codici.h"
 #include "shell/stato_globale.h"
 
 namespace torvi {
@@ -19,6 +20,7 @@ struct ContestoEsportazione {
   FileTesto& fileErrFonte;
   CatalogoNorme& catalogo;
   QString CodiciClasse = {};  // classification of the current document
+  TabelleDiCodici codici{stato.DbArchivio};
 };
 
 }  // namespace torvi

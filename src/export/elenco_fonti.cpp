@@ -38,8 +38,7 @@ bool NumeroMancante(ContestoEsportazione& /*contesto*/, const Citazione& citazio
 bool AttoNonConfermato(ContestoEsportazione& contesto, const Citazione& citazione) {
   const bool norma =
       citazione.tp == "LICO"_L1 || citazione.tp == "LIO"_L1 || citazione.tp == "LIOA"_L1;
-  return norma && VerificaCatalogo(contesto.stato.DbArchivio, contesto.catalogo, citazione.fonte) ==
-                      EsitoCatalogo::NonConfermato;
+  return norma && VerificaCatalogo(contesto, citazione.fonte) == EsitoCatalogo::NonConfermato;
 }
 
 struct Controllo {
@@ -73,7 +72,7 @@ void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QStri
   Recordset fonti = FontiDocumento(contesto.stato.DbArchivio, idDoc);
   if (fonti.Eof()) {
     if (contesto.stato.ControlloFonti) {
-      contesto.fileErrori.Print(QString("Manca fonte: "_L1 + idRecord));
+      contesto.fileErrori.Print("Manca fonte: "_L1 + idRecord);
     }
     return;
   }
@@ -85,8 +84,8 @@ void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QStri
     for (const Controllo& controllo : kControlli) {
       if (prima && !controllo.ancheSullaPrima) continue;
       if (!controllo.fallito(contesto, citazione)) continue;
-      contesto.fileErrFonte.Print(
-          QString(controllo.messaggio + citazione.testo + " ("_L1 + idRecord + QLatin1Char(')')));
+      contesto.fileErrFonte.Print(controllo.messaggio + citazione.testo + " ("_L1 + idRecord +
+                                  QLatin1Char(')'));
     }
   }
   contesto.record.AggiungiTesto(tag::kFonti, elenco);

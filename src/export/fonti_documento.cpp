@@ -9,11 +9,4 @@ Recordset FontiDocumento(const Database& archivio, qint64 idDoc) {
       {idDoc});
 }
 
-Recordset CercaPerChiave(const Database& archivio, const QString& tabella, const Campo& chiave) {
-  Recordset riga = archivio.OpenRecordset(tabella);
-  riga.Index("PrimaryKey");
-  riga.Seek(chiave);
-  return riga;
-}
-
 }  // namespace torvi

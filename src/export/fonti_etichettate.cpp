@@ -13,13 +13,13 @@ using namespace Qt::Literals::StringLiterals;
 
 // The tables that name the kind of a source.
 struct Famiglia {
-  QLatin1StringView tabella;
+  std::string_view tabella;
   const char* colonna;
 };
-constexpr Famiglia kInterna = {"TabFonteInterna"_L1, "FonteNorm"};
-constexpr Famiglia kComunitaria = {"TabFonteCom"_L1, "FonteCom"};
-constexpr Famiglia kInternazionale = {"TabFonteInt"_L1, "FonteInt"};
-constexpr Famiglia kCanonica = {"TabFonteCan"_L1, "FonteCan"};
+constexpr Famiglia kInterna = {"TabFonteInterna", "FonteNorm"};
+constexpr Famiglia kComunitaria = {"TabFonteCom", "FonteCom"};
+constexpr Famiglia kInternazionale = {"TabFonteInt", "FonteInt"};
+constexpr Famiglia kCanonica = {"TabFonteCan", "FonteCan"};
 
 struct VoceFamiglia {
   QLatin1StringView tp;
@@ -61,19 +61,19 @@ constexpr SottocampoTesto kTesti[] = {
 struct SottocampoChiave {
   const char* marca;
   const char* chiave;  // column of the source
-  QLatin1StringView tabella;
+  std::string_view tabella;
   const char* colonna;
 };
 
-constexpr SottocampoChiave kStato = {"^s", "IDStato", "TabStato"_L1, "stato"};
-constexpr SottocampoChiave kMinistero = {"^o", "IDMinistero", "TabMinistero"_L1, "MinisteroNorm"};
-constexpr SottocampoChiave kAmministrazione = {"^e", "IDAmministrazione", "TabAmministrazione"_L1,
+constexpr SottocampoChiave kStato = {"^s", "IDStato", "TabStato", "stato"};
+constexpr SottocampoChiave kMinistero = {"^o", "IDMinistero", "TabMinistero", "MinisteroNorm"};
+constexpr SottocampoChiave kAmministrazione = {"^e", "IDAmministrazione", "TabAmministrazione",
                                                "AmministrazioneNorm"};
-constexpr SottocampoChiave kAutorita = {"^e", "IDAutorita", "TabAutorita"_L1, "AutoritaNorm"};
-constexpr SottocampoChiave kRegione = {"^r", "IDRegione", "TabRegione"_L1, "regione"};
-constexpr SottocampoChiave kProvincia = {"^p", "IDProvincia", "TabProvincia"_L1, "provincia"};
-constexpr SottocampoChiave kCitta = {"^i", "IDCitta", "TabCitta"_L1, "citta"};
-constexpr SottocampoChiave kSezione = {"^z", "IDSezione", "TabSezione"_L1, "sigla"};
+constexpr SottocampoChiave kAutorita = {"^e", "IDAutorita", "TabAutorita", "AutoritaNorm"};
+constexpr SottocampoChiave kRegione = {"^r", "IDRegione", "TabRegione", "regione"};
+constexpr SottocampoChiave kProvincia = {"^p", "IDProvincia", "TabProvincia", "provincia"};
+constexpr SottocampoChiave kCitta = {"^i", "IDCitta", "TabCitta", "citta"};
+constexpr SottocampoChiave kSezione = {"^z", "IDSezione", "TabSezione", "sigla"};
 
 const Famiglia* FamigliaDi(const QString& tp, bool prima) {
   for (const VoceFamiglia& voce : kFamiglie) {
@@ -84,7 +84,7 @@ const Famiglia* FamigliaDi(const QString& tp, bool prima) {
 
 class CampoEtichettato {
  public:
-  explicit CampoEtichettato(const StatoGlobale& stato) : stato_(stato) {}
+  explicit CampoEtichettato(ContestoEsportazione& contesto) : contesto_(contesto) {}
 
   void AggiungiFonte(const Recordset& fonte);
   [[nodiscard]] const QString& Testo() const { return testo_; }
@@ -96,12 +96,12 @@ class CampoEtichettato {
   void SottocampoVuoto(const char* marca) { Sottocampo(marca, QStringLiteral(" ")); }
   void TipoDiFonte(const Recordset& fonte, const QString& tp);
   void Parte(const Recordset& fonte, const SottocampoTesto& parte);
-  std::optional<Recordset> Nome(const Recordset& fonte, const SottocampoChiave& nome,
-                                bool vuotoSeManca = true);
+  const Recordset* Nome(const Recordset& fonte, const SottocampoChiave& nome,
+                        bool vuotoSeManca = true);
   void Ente(const Recordset& fonte);
   void Territorio(const Recordset& fonte);
 
-  const StatoGlobale& stato_;
+  ContestoEsportazione& contesto_;
   QString testo_;
   QString urnCorrente_;
   bool prima_ = true;
@@ -114,11 +114,10 @@ void CampoEtichettato::TipoDiFonte(const Recordset& fonte, const QString& tp) {
     SottocampoVuoto("^x");
     return;
   }
-  const Recordset tipo =
-      CercaPerChiave(stato_.DbArchivio, famiglia->tabella, fonte.Fields("fonte"));
+  const Recordset& tipo = contesto_.codici.Cerca(famiglia->tabella, fonte.Fields("fonte"));
   Sottocampo("^f", tipo.Fields(famiglia->colonna).Testo());
   if (famiglia == &kComunitaria) {
-    Sottocampo("^x", CelexDaFonte(stato_, fonte.Fields("IDFonte").Intero16()));
+    Sottocampo("^x", CelexDaFonte(contesto_.stato, fonte.Fields("IDFonte").Intero16()));
     return;
   }
   SottocampoVuoto("^x");
@@ -137,31 +136,31 @@ void CampoEtichettato::Parte(const Recordset& fonte, const SottocampoTesto& part
 }
 
 // The row that the key names, if the source has one.
-std::optional<Recordset> CampoEtichettato::Nome(const Recordset& fonte,
-                                                const SottocampoChiave& nome, bool vuotoSeManca) {
+const Recordset* CampoEtichettato::Nome(const Recordset& fonte, const SottocampoChiave& nome,
+                                        bool vuotoSeManca) {
   const Campo chiave = fonte.Fields(nome.chiave);
   if (chiave.Nullo() || chiave.Intero() == 0) {
     if (vuotoSeManca) SottocampoVuoto(nome.marca);
-    return std::nullopt;
+    return nullptr;
   }
-  Recordset riga = CercaPerChiave(stato_.DbArchivio, nome.tabella, chiave);
+  const Recordset& riga = contesto_.codici.Cerca(nome.tabella, chiave);
   Sottocampo(nome.marca, riga.Fields(nome.colonna).Testo());
-  return riga;
+  return &riga;
 }
 
 // The issuing body: an administration, an authority, or both under the same mark.
 void CampoEtichettato::Ente(const Recordset& fonte) {
-  const bool amministrazione = Nome(fonte, kAmministrazione, false).has_value();
+  const bool amministrazione = Nome(fonte, kAmministrazione, false) != nullptr;
   Nome(fonte, kAutorita, !amministrazione);
 }
 
 void CampoEtichettato::Territorio(const Recordset& fonte) {
-  const auto regione = Nome(fonte, kRegione);
-  if (regione && !urnCorrente_.isEmpty()) {
+  const Recordset* regione = Nome(fonte, kRegione);
+  if (regione != nullptr && !urnCorrente_.isEmpty()) {
     CompletaUrn(urnCorrente_, regione->Fields("codRegioneURN").Testo());
   }
-  const auto provincia = Nome(fonte, kProvincia);
-  if (provincia && !urnCorrente_.isEmpty()) {
+  const Recordset* provincia = Nome(fonte, kProvincia);
+  if (provincia != nullptr && !urnCorrente_.isEmpty()) {
     CompletaUrn(urnCorrente_, provincia->Fields(kProvincia.colonna).Testo().toLower());
   }
 }
@@ -188,7 +187,7 @@ void CampoEtichettato::AggiungiFonte(const Recordset& fonte) {
 void ScriviFontiEtichettate(ContestoEsportazione& contesto, qint64 idDoc) {
   Recordset fonti = FontiDocumento(contesto.stato.DbArchivio, idDoc);
   if (fonti.Eof()) return;
-  CampoEtichettato campo(contesto.stato);
+  CampoEtichettato campo(contesto);
   for (; !fonti.Eof(); fonti.MoveNext()) campo.AggiungiFonte(fonti);
   contesto.record.AggiungiTesto(tag::kFontiEtichettate, campo.Testo());
 }

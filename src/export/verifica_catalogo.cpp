@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "export/fonti_documento.h"
+#include "export/catalogo_norme.h"
 
 namespace torvi {
 namespace {
@@ -17,23 +17,20 @@ constexpr QLatin1StringView kAttiCoperti[] = {
 
 }  // namespace
 
-EsitoCatalogo VerificaCatalogo(const Database& archivio, CatalogoNorme& catalogo,
-                               const Recordset& fonte) {
+EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const Recordset& fonte) {
   const QString fonteNorm =
-      CercaPerChiave(archivio, QStringLiteral("TabFonteInterna"), fonte.Fields("fonte"))
-          .Fields("FonteNorm")
-          .Testo();
+      contesto.codici.Cerca("TabFonteInterna", fonte.Fields("fonte")).Fields("FonteNorm").Testo();
   if (std::ranges::find(kAttiCoperti, fonteNorm) == std::end(kAttiCoperti)) {
     return EsitoCatalogo::NonCoperto;
   }
-  catalogo.Apri();
+  contesto.catalogo.Apri();
   const AttoCercato atto = {.FonteNorm = fonteNorm,
                             .giorno = fonte.Fields("giorno").TestoOVuoto(),
                             .mese = fonte.Fields("mese").TestoOVuoto(),
                             .anno = fonte.Fields("anno").TestoOVuoto(),
                             .numero = fonte.Fields("numero").TestoOVuoto()};
   // A date that lacks a part needs no test of its own: it is on no calendar.
-  return catalogo.Contiene(atto) ? EsitoCatalogo::Trovato : EsitoCatalogo::NonConfermato;
+  return contesto.catalogo.Contiene(atto) ? EsitoCatalogo::Trovato : EsitoCatalogo::NonConfermato;
 }
 
 }  // namespace torvi

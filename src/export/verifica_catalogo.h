@@ -1,7 +1,7 @@
 // Looks a cited Italian norm up in the norm catalogue.
 #pragma once
 
-#include "export/catalogo_norme.h"
+#include "export/contesto.h"
 
 namespace torvi {
 
@@ -13,7 +13,7 @@ enum class EsitoCatalogo {
 
 // `fonte` is a row of TabFonte. A `fonte` without its row in TabFonteInterna: error 3021; a
 // catalogue that is needed and not there: error 3024.
-[[nodiscard]] EsitoCatalogo VerificaCatalogo(const Database& archivio, CatalogoNorme& catalogo,
+[[nodiscard]] EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto,
                                              const Recordset& fonte);
 
 }  // namespace torvi

@@ -144,6 +144,41 @@ TEST(ElencoFonti, EachCheckRunsOnItsPositions) {
   }
 }
 
+TEST(ElencoFonti, EachActOfARunIsJudgedByItself) {
+  struct Caso {
+    int fonte;
+    const char* giorno;
+    const char* anno;
+    const char* numero;
+    bool errata;
+  };
+  constexpr Caso kCasi[] = {
+      {1, "7", "1990", "241", false}, {1, "7", "1990", "242", true}, {1, "8", "1990", "241", true},
+      {1, "7", "1991", "241", true},  {2, "7", "1990", "241", true}, {1, "7", "1990", "", false},
+      {1, "7", "1990", "241", false}, {1, "7", "1990", "242", true},
+  };
+  FontiDiProva prova;
+  prova.Riga("TabFonteInterna", {{"FonteNorm", "l."}});
+  prova.Riga("TabFonteInterna", {{"FonteNorm", "d.l."}});
+  prova.NuovoCatalogo({{"anno", 1990},
+                       {"numero", "241"},
+                       {"abbreviazione", "l."},
+                       {"promulgazione", "07/08/1990"}});
+  std::string attesi;
+  for (const Caso& caso : kCasi) {
+    const QString testo = QString::number(&caso - kCasi);
+    prova.Fonte({{"TP", "LIO"},
+                 {"testo", testo},
+                 {"fonte", caso.fonte},
+                 {"giorno", caso.giorno},
+                 {"mese", "8"},
+                 {"anno", caso.anno},
+                 {"numero", caso.numero}});
+    if (caso.errata) attesi += "Fonte errata: " + testo.toStdString() + " (2001A0012)\r\n";
+  }
+  EXPECT_EQ(prova.Elenco().erroriFonti, attesi);
+}
+
 TEST(ElencoFonti, ANullNumberEndsTheRunOnALaterSourceOnly) {
   FontiDiProva prova;
   prova.Fonte({{"TP", "GICO"}, {"testo", "prima"}});

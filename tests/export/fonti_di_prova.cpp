@@ -1,7 +1,5 @@
 #include "export/fonti_di_prova.h"
 
-#include <functional>
-
 #include "archive/schema.h"
 #include "export/catalogo_norme.h"
 #include "export/elenco_fonti.h"
@@ -12,29 +10,6 @@ namespace torvi {
 namespace {
 
 constexpr qint64 kDocumento = 3;
-
-EsitoScrittura Scrivi(FontiDiProva& prova,
-                      const std::function<void(ContestoEsportazione&)>& scrittore) {
-  const QString nomi[] = {prova.cartella.Dump(QStringLiteral("errori.A01")),
-                          prova.cartella.Dump(QStringLiteral("errClasse.A01")),
-                          prova.cartella.Dump(QStringLiteral("errFonte.A01"))};
-  EsitoScrittura esito;
-  Record record;
-  {
-    CatalogoNorme catalogo(prova.stato.CartellaApplicazione);
-    FileTesto errori(nomi[0], Apertura::Scrittura);
-    FileTesto errClasse(nomi[1], Apertura::Scrittura);
-    FileTesto errFonte(nomi[2], Apertura::Scrittura);
-    ContestoEsportazione contesto = {prova.stato, record, errori, errClasse, errFonte, catalogo};
-    esito.errore = NumeroErrore([&] { scrittore(contesto); });
-  }
-  for (const Record::Riga& riga : record.RigheRecord()) {
-    esito.campi += riga.tag.toStdString() + riga.contenuto.toStdString() + "\n";
-  }
-  esito.errori = Byte(nomi[0]).toStdString();
-  esito.erroriFonti = Byte(nomi[2]).toStdString();
-  return esito;
-}
 
 }  // namespace
 
@@ -62,15 +37,37 @@ void FontiDiProva::NuovoCatalogo(Valori riga) const {
   Aggiungi(OpenDatabase(percorso), QStringLiteral("tabCatalogo"), riga);
 }
 
+EsitoScrittura FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
+  const QString nomi[] = {cartella.Dump(QStringLiteral("errori.A01")),
+                          cartella.Dump(QStringLiteral("errClasse.A01")),
+                          cartella.Dump(QStringLiteral("errFonte.A01"))};
+  EsitoScrittura esito;
+  Record record;
+  {
+    CatalogoNorme catalogo(stato.CartellaApplicazione);
+    FileTesto errori(nomi[0], Apertura::Scrittura);
+    FileTesto errClasse(nomi[1], Apertura::Scrittura);
+    FileTesto errFonte(nomi[2], Apertura::Scrittura);
+    ContestoEsportazione contesto = {stato, record, errori, errClasse, errFonte, catalogo};
+    esito.errore = NumeroErrore([&] { scrittore(contesto); });
+  }
+  for (const Record::Riga& riga : record.RigheRecord()) {
+    esito.campi += riga.tag.toStdString() + riga.contenuto.toStdString() + "\n";
+  }
+  esito.errori = Byte(nomi[0]).toStdString();
+  esito.erroriFonti = Byte(nomi[2]).toStdString();
+  return esito;
+}
+
 EsitoScrittura FontiDiProva::Elenco() {
-  return Scrivi(*this, [](ContestoEsportazione& contesto) {
+  return Scrivi([](ContestoEsportazione& contesto) {
     ScriviElencoFonti(contesto, kDocumento, QStringLiteral("2001A0012"));
   });
 }
 
 EsitoScrittura FontiDiProva::Etichettate() {
   return Scrivi(
-      *this, [](ContestoEsportazione& contesto) { ScriviFontiEtichettate(contesto, kDocumento); });
+      [](ContestoEsportazione& contesto) { ScriviFontiEtichettate(contesto, kDocumento); });
 }
 
 }  // namespace torvi

@@ -1,9 +1,11 @@
 // A delivery with one document, its sources, and the two writers of sources run on it.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "comune/cartella_di_prova.h"
+#include "export/contesto.h"
 
 namespace torvi {
 
@@ -31,6 +33,8 @@ class FontiDiProva {
   // mdb/"catalogo norme.mdb" with one row.
   void NuovoCatalogo(Valori riga) const;
 
+  // A fresh run with its own files; errors of `scrittore` are caught.
+  EsitoScrittura Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
   [[nodiscard]] EsitoScrittura Elenco();
   [[nodiscard]] EsitoScrittura Etichettate();
 

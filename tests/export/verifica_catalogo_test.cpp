@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include "export/catalogo_norme.h"
 #include "export/fonti_di_prova.h"
 
 namespace torvi {
@@ -30,13 +31,12 @@ class VerificaCatalogoTest : public testing::Test {
     return Esito();
   }
   int Esito() {
-    CatalogoNorme catalogo(prova.cartella.Percorso());
     const Recordset fonte = prova.stato.DbArchivio.OpenRecordset(
         QStringLiteral("select * from TabFonte order by IDFonte desc"));
     auto esito = EsitoCatalogo::Trovato;
-    const int errore =
-        NumeroErrore([&] { esito = VerificaCatalogo(prova.stato.DbArchivio, catalogo, fonte); });
-    return errore != 0 ? errore : static_cast<int>(esito);
+    const EsitoScrittura scritto = prova.Scrivi(
+        [&](ContestoEsportazione& contesto) { esito = VerificaCatalogo(contesto, fonte); });
+    return scritto.errore != 0 ? scritto.errore : static_cast<int>(esito);
   }
 
   FontiDiProva prova;
