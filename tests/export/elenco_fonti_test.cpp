@@ -116,10 +116,7 @@ TEST(ElencoFonti, EachCheckRunsOnItsPositions) {
   };
   FontiDiProva prova;
   prova.Riga("TabFonteInterna", {{"FonteNorm", "l."}});
-  prova.NuovoCatalogo({{"anno", 1990},
-                       {"numero", "241"},
-                       {"abbreviazione", "l."},
-                       {"promulgazione", "07/08/1990"}});
+  prova.NuovoCatalogo("l.");
   const auto messaggio = [](const char* testo) {
     return *testo == '\0' ? std::string() : std::string(testo) + "t\xE0 (2001A0012)\r\n";
   };
@@ -160,10 +157,7 @@ TEST(ElencoFonti, EachActOfARunIsJudgedByItself) {
   FontiDiProva prova;
   prova.Riga("TabFonteInterna", {{"FonteNorm", "l."}});
   prova.Riga("TabFonteInterna", {{"FonteNorm", "d.l."}});
-  prova.NuovoCatalogo({{"anno", 1990},
-                       {"numero", "241"},
-                       {"abbreviazione", "l."},
-                       {"promulgazione", "07/08/1990"}});
+  prova.NuovoCatalogo("l.");
   std::string attesi;
   for (const Caso& caso : kCasi) {
     const QString testo = QString::number(&caso - kCasi);

@@ -1,5 +1,7 @@
 #include "export/fonti_di_prova.h"
 
+#include <QFile>
+
 #include "archive/schema.h"
 #include "export/catalogo_norme.h"
 #include "export/elenco_fonti.h"
@@ -31,10 +33,15 @@ void FontiDiProva::TogliFonti() const {
   stato.DbArchivio.Execute(QStringLiteral("delete * from LegameDocFonte"));
 }
 
-void FontiDiProva::NuovoCatalogo(Valori riga) const {
+void FontiDiProva::NuovoCatalogo(const char* abbreviazione) const {
   const QString percorso = cartella.Mdb(QStringLiteral("Catalogo Norme.MDB"));
+  QFile::remove(percorso);
   CreaDatabase(percorso, SchemaCatalogo());
-  Aggiungi(OpenDatabase(percorso), QStringLiteral("tabCatalogo"), riga);
+  Aggiungi(OpenDatabase(percorso), QStringLiteral("tabCatalogo"),
+           {{"anno", 1990},
+            {"numero", "241"},
+            {"abbreviazione", abbreviazione},
+            {"promulgazione", "07/08/1990"}});
 }
 
 EsitoScrittura FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {

@@ -30,8 +30,8 @@ class FontiDiProva {
   // One source more of the document. Result: its `IDFonte`.
   qint64 Fonte(Valori valori) const;
   void TogliFonti() const;
-  // mdb/"catalogo norme.mdb" with one row.
-  void NuovoCatalogo(Valori riga) const;
+  // mdb/"catalogo norme.mdb" with one act: 7 August 1990, number 241.
+  void NuovoCatalogo(const char* abbreviazione) const;
 
   // A fresh run with its own files; errors of `scrittore` are caught.
   EsitoScrittura Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);

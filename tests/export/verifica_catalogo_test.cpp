@@ -66,13 +66,7 @@ TEST_F(VerificaCatalogoTest, EachKindOfActIsSoughtUnderItsSpelling) {
       {"", nullptr},
   };
   for (const Caso& caso : kCasi) {
-    const QString percorso = prova.cartella.Mdb(QStringLiteral("Catalogo Norme.MDB"));
-    QFile::remove(percorso);
-    prova.NuovoCatalogo(
-        {{"anno", 1990},
-         {"numero", "241"},
-         {"abbreviazione", caso.abbreviazione == nullptr ? caso.fonteNorm : caso.abbreviazione},
-         {"promulgazione", "07/08/1990"}});
+    prova.NuovoCatalogo(caso.abbreviazione == nullptr ? caso.fonteNorm : caso.abbreviazione);
     const int trovato = caso.abbreviazione == nullptr ? 1 : 0;
     const int assente = caso.abbreviazione == nullptr ? 1 : 2;
     EXPECT_EQ(Verifica(caso.fonteNorm, kData, "241"), trovato) << caso.fonteNorm;
@@ -109,10 +103,7 @@ TEST_F(VerificaCatalogoTest, DateAndNumberMustBeThoseOfTheAct) {
       {{"1\xC2\xB0", "8", "1990"}, "241", 2},
       {{"7", "8", "1990# or #1/1/1990"}, "241", 2},
   };
-  prova.NuovoCatalogo({{"anno", 1990},
-                       {"numero", "241"},
-                       {"abbreviazione", "l."},
-                       {"promulgazione", "07/08/1990"}});
+  prova.NuovoCatalogo("l.");
   for (const Caso& caso : casi) {
     EXPECT_EQ(Verifica("l.", caso.data, caso.numero), caso.esito)
         << caso.data.giorno.TestoOVuoto().toStdString() << "/"
