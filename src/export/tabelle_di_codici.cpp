@@ -16,7 +16,7 @@ Recordset CercaPerChiave(const Database& archivio, const std::string& tabella,
 const Recordset& TabelleDiCodici::Cerca(std::string_view tabella, const Campo& chiave) {
   auto nota = tabelle_.find(tabella);
   if (nota == tabelle_.end()) nota = tabelle_.emplace(std::string(tabella), Righe()).first;
-  const auto numero = chiave.Nullo() ? std::nullopt : std::optional(chiave.Intero());
+  const QString numero = chiave.TestoOVuoto();
   auto riga = nota->second.find(numero);
   if (riga == nota->second.end()) {
     riga = nota->second.emplace(numero, CercaPerChiave(archivio_, nota->first, chiave)).first;

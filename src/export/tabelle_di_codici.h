@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 
 #include "archive/database.h"
@@ -18,7 +17,7 @@ class TabelleDiCodici {
   [[nodiscard]] const Recordset& Cerca(std::string_view tabella, const Campo& chiave);
 
  private:
-  using Righe = std::map<std::optional<qint64>, Recordset>;
+  using Righe = std::map<QString, Recordset>;  // by the key as text, Null as none
 
   Database archivio_;
   std::map<std::string, Righe, std::less<>> tabelle_;
