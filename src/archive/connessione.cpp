@@ -10,7 +10,8 @@
 namespace torvi {
 namespace {
 
-constexpr std::size_t kIstruzioniTenute = 256;
+// Texts with their values inside come once each; beyond so many the shelf starts anew.
+constexpr std::size_t kTestiTenuti = 512;
 
 char Minuscolo(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
@@ -107,64 +108,76 @@ void Connessione::RichiediAperta() const {
   if (Chiusa()) throw ErroreEsecuzione(Errore::OggettoChiuso, percorso_);
 }
 
+Connessione::Prestito::Prestito(std::shared_ptr<Connessione> di, Scaffale& scaffale,
+                                std::unique_ptr<Preparata> preparata)
+    : di_(std::move(di)), scaffale_(&scaffale), preparata_(std::move(preparata)) {
+  di_->prestate_.push_back(preparata_.get());
+  ++scaffale_->prestate;
+}
+
+Connessione::Prestito& Connessione::Prestito::operator=(Prestito&& altro) noexcept {
+  if (this == &altro) return *this;
+  Restituisci();
+  di_ = std::move(altro.di_);
+  scaffale_ = altro.scaffale_;
+  preparata_ = std::move(altro.preparata_);
+  return *this;
+}
+
+void Connessione::Prestito::Restituisci() noexcept {
+  if (preparata_ == nullptr) return;
+  std::erase(di_->prestate_, preparata_.get());
+  // Without its statement it comes from a connection that was closed meanwhile.
+  if (preparata_->motore != nullptr) {
+    preparata_->motore->tryReset();
+    preparata_->motore->clearBindings();
+    --scaffale_->prestate;
+    scaffale_->libere.push_back(std::move(preparata_));
+  }
+  preparata_.reset();
+  di_.reset();
+}
+
+Connessione::Prestito Connessione::Presta(Scaffale& scaffale, std::unique_ptr<Preparata> nuova) {
+  if (nuova == nullptr) {
+    nuova = std::move(scaffale.libere.back());
+    scaffale.libere.pop_back();
+  }
+  return {shared_from_this(), scaffale, std::move(nuova)};
+}
+
+std::unique_ptr<Preparata> Connessione::Nuova(const std::string& sql, const QString& dettaglio) {
+  auto nuova = std::make_unique<Preparata>();
+  try {
+    nuova->motore = std::make_unique<SQLite::Statement>(*motore_, sql);
+  } catch (const SQLite::Exception& guasto) {
+    throw DaMotore(guasto, dettaglio);
+  }
+  return nuova;
+}
+
 Connessione::Prestito Connessione::Prepara(const QString& istruzione) {
   RichiediAperta();
-  const Chiave chiave = istruzione.toStdString();
-  if (auto libera = PrendiLibera(chiave)) return Presta(chiave, std::move(libera));
-  const Traduzione traduzione = Traduci(istruzione);
-  auto nuova = std::make_unique<Preparata>();
-  nuova->tabella = traduzione.tabella;
-  try {
-    nuova->motore = std::make_unique<SQLite::Statement>(*motore_, traduzione.sql.toStdString());
-  } catch (const SQLite::Exception& guasto) {
-    throw DaMotore(guasto, istruzione);
+  if (dialetto_.size() >= kTestiTenuti) {
+    std::erase_if(dialetto_, [](const auto& voce) { return voce.second.prestate == 0; });
   }
+  Scaffale& scaffale = dialetto_[istruzione];
+  if (!scaffale.libere.empty()) return Presta(scaffale, nullptr);
+  const Traduzione traduzione = Traduci(istruzione);
+  auto nuova = Nuova(traduzione.sql.toStdString(), istruzione);
+  nuova->tabella = traduzione.tabella;
   for (int i = nuova->Spostamento(); i < nuova->motore->getColumnCount(); ++i) {
     std::string_view nome = nuova->motore->getColumnName(i);
     if (nome.starts_with(kPrefissoAlias)) nome.remove_prefix(1);
     nuova->colonne.emplace_back(nome);
   }
-  return Presta(chiave, std::move(nuova));
+  return Presta(scaffale, std::move(nuova));
 }
 
 Connessione::Prestito Connessione::PreparaMotore(const std::string& sql) {
   RichiediAperta();
-  // No statement of the dialect begins with this sign, so the two kinds share one cache.
-  const Chiave chiave = '\x01' + sql;
-  if (auto libera = PrendiLibera(chiave)) return Presta(chiave, std::move(libera));
-  auto nuova = std::make_unique<Preparata>();
-  try {
-    nuova->motore = std::make_unique<SQLite::Statement>(*motore_, sql);
-  } catch (const SQLite::Exception& guasto) {
-    throw DaMotore(guasto, percorso_);
-  }
-  return Presta(chiave, std::move(nuova));
-}
-
-std::unique_ptr<Preparata> Connessione::PrendiLibera(const Chiave& chiave) {
-  const auto trovata = libere_.find(chiave);
-  if (trovata == libere_.end()) return nullptr;
-  auto libera = std::move(trovata->second);
-  libere_.erase(trovata);
-  return libera;
-}
-
-Connessione::Prestito Connessione::Presta(const Chiave& chiave,
-                                          std::unique_ptr<Preparata> preparata) {
-  Preparata* const nuda = preparata.release();
-  prestate_.push_back(nuda);
-  return {nuda, [io = shared_from_this(), chiave](Preparata* p) {
-            io->Restituisci(chiave, std::unique_ptr<Preparata>(p));
-          }};
-}
-
-void Connessione::Restituisci(const Chiave& chiave, std::unique_ptr<Preparata> preparata) {
-  std::erase(prestate_, preparata.get());
-  if (preparata->motore == nullptr) return;
-  preparata->motore->tryReset();
-  preparata->motore->clearBindings();
-  if (libere_.size() >= kIstruzioniTenute) libere_.clear();
-  libere_.emplace(chiave, std::move(preparata));
+  Scaffale& scaffale = interne_[sql];
+  return Presta(scaffale, scaffale.libere.empty() ? Nuova(sql, percorso_) : nullptr);
 }
 
 void Connessione::LegaTutti(const Prestito& prestito, const QList<Campo>& parametri) const {
@@ -264,7 +277,8 @@ void Connessione::ConcludiUnita() {
 }
 
 void Connessione::Chiudi() {
-  libere_.clear();
+  dialetto_.clear();
+  interne_.clear();
   for (Preparata* const prestata : prestate_) prestata->motore.reset();
   motore_.reset();
 }

@@ -41,6 +41,12 @@ struct InfoTabella {
 };
 
 class Connessione : public std::enable_shared_from_this<Connessione> {
+  // The idle statements of one text. Entries stay as long as the connection: a loan points here.
+  struct Scaffale {
+    std::vector<std::unique_ptr<Preparata>> libere;
+    int prestate = 0;
+  };
+
  public:
   // `percorso` is what messages name.
   Connessione(QString percorso, std::unique_ptr<SQLite::Database> motore);
@@ -48,8 +54,24 @@ class Connessione : public std::enable_shared_from_this<Connessione> {
   Connessione& operator=(const Connessione&) = delete;
   ~Connessione();
 
-  // A statement lent by the cache: it goes back, reset, when the last copy of the handle goes.
-  using Prestito = std::shared_ptr<Preparata>;
+  // A statement lent by the cache: it goes back, reset, when the handle goes.
+  class Prestito {
+   public:
+    Prestito() = default;
+    Prestito(std::shared_ptr<Connessione> di, Scaffale& scaffale,
+             std::unique_ptr<Preparata> preparata);
+    Prestito(Prestito&&) noexcept = default;
+    Prestito& operator=(Prestito&& altro) noexcept;
+    ~Prestito() { Restituisci(); }
+    [[nodiscard]] Preparata* operator->() const { return preparata_.get(); }
+    [[nodiscard]] explicit operator bool() const { return preparata_ != nullptr; }
+    void Restituisci() noexcept;
+
+   private:
+    std::shared_ptr<Connessione> di_;
+    Scaffale* scaffale_ = nullptr;
+    std::unique_ptr<Preparata> preparata_;
+  };
   // In the system's dialect, or already in the engine's.
   [[nodiscard]] Prestito Prepara(const QString& istruzione);
   [[nodiscard]] Prestito PreparaMotore(const std::string& sql);
@@ -71,15 +93,14 @@ class Connessione : public std::enable_shared_from_this<Connessione> {
   [[nodiscard]] const QString& Percorso() const { return percorso_; }
 
  private:
-  using Chiave = std::string;
-  [[nodiscard]] Prestito Presta(const Chiave& chiave, std::unique_ptr<Preparata> preparata);
-  [[nodiscard]] std::unique_ptr<Preparata> PrendiLibera(const Chiave& chiave);
-  void Restituisci(const Chiave& chiave, std::unique_ptr<Preparata> preparata);
+  [[nodiscard]] Prestito Presta(Scaffale& scaffale, std::unique_ptr<Preparata> nuova);
+  [[nodiscard]] std::unique_ptr<Preparata> Nuova(const std::string& sql, const QString& dettaglio);
   [[nodiscard]] InfoTabella LeggiTabella(const QString& nome);
 
   QString percorso_;
   std::unique_ptr<SQLite::Database> motore_;
-  std::unordered_multimap<Chiave, std::unique_ptr<Preparata>> libere_;
+  std::unordered_map<QString, Scaffale> dialetto_;
+  std::unordered_map<std::string, Scaffale> interne_;  // already in the engine's words
   std::vector<Preparata*> prestate_;
   std::unordered_map<std::string, InfoTabella> tabelle_;
   int unita_ = 0;

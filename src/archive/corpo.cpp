@@ -28,12 +28,16 @@ QList<Campo> Valori(const std::vector<std::pair<std::string, Campo>>& preparati)
 Recordset::Corpo::Corpo(std::shared_ptr<Connessione> connessione)
     : connessione_(std::move(connessione)) {}
 
-Campo Recordset::Corpo::Fields(std::string_view nome) {
+int Recordset::Corpo::Colonna(std::string_view nome) const {
   const int colonna = Posizione(Colonne(), nome);
   if (colonna < 0) {
     throw ErroreEsecuzione(Errore::CampoNonTrovato,
                            QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
   }
+  return colonna;
+}
+
+Campo Recordset::Corpo::Fields(int colonna) {
   for (const auto& [assegnato, valore] : preparati_) {
     if (assegnato == Colonne()[colonna]) return valore;
   }

@@ -31,7 +31,9 @@ class Recordset::Corpo {
   [[nodiscard]] virtual qint64 Bookmark() = 0;
   virtual void Bookmark(qint64 riga) = 0;
 
-  [[nodiscard]] Campo Fields(std::string_view nome);
+  [[nodiscard]] Campo Fields(std::string_view nome) { return Fields(Colonna(nome)); }
+  [[nodiscard]] Campo Fields(int colonna);
+  [[nodiscard]] int Colonna(std::string_view nome) const;
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
   void Assegna(std::string_view nome, const Campo& valore);
   void AddNew();

@@ -8,11 +8,11 @@ CorpoIstruzione::CorpoIstruzione(std::shared_ptr<Connessione> connessione, QStri
       istruzione_(std::move(istruzione)),
       parametri_(std::move(parametri)) {
   Esegui();
-  vuota_ = aperta_ == nullptr;
+  vuota_ = !aperta_;
 }
 
 void CorpoIstruzione::Esegui() {
-  aperta_.reset();
+  aperta_.Restituisci();
   aperta_ = Motore().Prepara(istruzione_);
   tabella_ = aperta_->tabella;
   if (colonne_.empty()) colonne_ = aperta_->colonne;
@@ -24,7 +24,7 @@ void CorpoIstruzione::Esegui() {
 void CorpoIstruzione::Avanza() {
   ++posizione_;
   // A finished statement would still hold its lock on the file.
-  if (!Motore().Passo(aperta_)) aperta_.reset();
+  if (!Motore().Passo(aperta_)) aperta_.Restituisci();
 }
 
 CorpoIstruzione::Riga CorpoIstruzione::LeggiRiga() const {
@@ -41,14 +41,14 @@ void CorpoIstruzione::TieniTutte() {
   if (tenute_.has_value()) return;
   const qint64 dove = posizione_;
   std::vector<Riga> righe;
-  for (Esegui(); aperta_ != nullptr; Avanza()) righe.push_back(LeggiRiga());
+  for (Esegui(); aperta_; Avanza()) righe.push_back(LeggiRiga());
   tenute_ = std::move(righe);
   posizione_ = dove;
 }
 
 bool CorpoIstruzione::Eof() {
   if (tenute_.has_value()) return posizione_ >= static_cast<qint64>(tenute_->size());
-  return aperta_ == nullptr;
+  return !aperta_;
 }
 
 bool CorpoIstruzione::Bof() { return vuota_ || posizione_ < 0; }
@@ -96,7 +96,7 @@ CorpoIstruzione::Riga& CorpoIstruzione::Corrente() {
 
 Campo CorpoIstruzione::Valore(int colonna) {
   if (tenute_.has_value()) return Corrente().valori.at(colonna);
-  if (aperta_ == nullptr) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
+  if (!aperta_) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
   return Leggi(*aperta_->motore, aperta_->Spostamento() + colonna);
 }
 

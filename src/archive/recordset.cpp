@@ -23,6 +23,8 @@ void Recordset::MoveLast() { Aperto().MoveLast(); }
 void Recordset::MoveNext() { Aperto().MoveNext(); }
 void Recordset::MovePrevious() { Aperto().MovePrevious(); }
 Campo Recordset::Fields(std::string_view nome) const { return Aperto().Fields(nome); }
+Campo Recordset::Fields(int colonna) const { return Aperto().Fields(colonna); }
+int Recordset::Colonna(std::string_view nome) const { return Aperto().Colonna(nome); }
 bool Recordset::HaCampo(std::string_view nome) const { return Aperto().HaCampo(nome); }
 void Recordset::Assegna(std::string_view nome, const Campo& valore) {
   Aperto().Assegna(nome, valore);

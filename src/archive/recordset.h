@@ -37,6 +37,9 @@ class Recordset {
   // two columns of one name it is the first. No such column: error 3265. No current row: error
   // 3021.
   [[nodiscard]] Campo Fields(std::string_view nome) const;
+  // The same by the place of the column, for loops over many rows; Colonna tells it, error 3265.
+  [[nodiscard]] Campo Fields(int colonna) const;
+  [[nodiscard]] int Colonna(std::string_view nome) const;
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
   // Only between AddNew or Edit and Update.
   void Assegna(std::string_view nome, const Campo& valore);
