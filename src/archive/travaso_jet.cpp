@@ -146,8 +146,8 @@ Tabella Completata(Tabella tabella) {
   return tabella;
 }
 
-Contarighe::Contarighe(const LettoreJet& lettore, int giri, const Progresso& progresso)
-    : progresso_(progresso) {
+Contarighe::Contarighe(const LettoreJet& lettore, int giri, Progresso progresso)
+    : progresso_(std::move(progresso)) {
   qint64 righe = 0;
   for (const torvi::Tabella& tabella : lettore.Tabelle())
     righe += lettore.QuanteRighe(tabella.nome);

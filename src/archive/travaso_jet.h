@@ -17,13 +17,13 @@ namespace torvi {
 class Contarighe {
  public:
   // `giri`: how many times all rows pass.
-  Contarighe(const LettoreJet& lettore, int giri, const Progresso& progresso);
+  Contarighe(const LettoreJet& lettore, int giri, Progresso progresso);
   void Tabella(const QString& cosa);
   void Riga();
 
  private:
   void Mostra() const;
-  const Progresso& progresso_;
+  Progresso progresso_;
   QString cosa_;
   int fatte_ = 0;
   int totale_ = 0;
