@@ -47,7 +47,7 @@ class LettoreCoppie {
  private:
   QString Unisci(const Recordset& riga, const QString& codice, const QString& descrittore,
                  bool asterisco) {
-    const QString coppia = codice + QLatin1Char(';') + descrittore;
+    QString coppia = codice + QLatin1Char(';') + descrittore;
     const QString messaggio = MessaggioCoppia(riga.Fields("Check").TestoOVuoto(), asterisco);
     if (!messaggio.isEmpty()) {
       contesto_.fileErrClasse.Print(messaggio + idRecord_ + ", record="_L1 +

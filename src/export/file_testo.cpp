@@ -11,8 +11,8 @@
 namespace torvi {
 namespace {
 
-constexpr qsizetype kMassimoPendenti = 64 * 1024;
-constexpr qint64 kLettura = 64 * 1024;
+constexpr qsizetype kMassimoPendenti = 65536;
+constexpr qint64 kLettura = 65536;
 
 QIODevice::OpenMode Modo(Apertura apertura) {
   switch (apertura) {

@@ -10,7 +10,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 QString Nome(const Recordset& riga) {
-  const QString primo = Trim(riga.Fields("PrimoElemento").Testo());
+  QString primo = Trim(riga.Fields("PrimoElemento").Testo());
   if (riga.Fields("flagCollettivo").Logico()) return primo;
   return primo + QLatin1Char('+') + Trim(riga.Fields("SecondoElemento").Testo());
 }
