@@ -23,50 +23,28 @@ QString MessaggioCoppia(const QString& check, bool asterisco) {
 }
 
 // Code and descriptor of one row of the scheme 2000, reported if need be.
-class LettoreCoppie {
- public:
-  LettoreCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord)
-      : contesto_(contesto),
-        idDoc_(idDoc),
-        idRecord_(idRecord),
-        descrittori_(contesto.stato.DbArchivio.OpenRecordset(QStringLiteral("tabClasse2000-D"))) {
-    descrittori_.Index("PrimaryKey");
+QString Coppia(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
+               const Recordset& riga) {
+  const QString codice = riga.Fields("CodiceS").Testo();
+  const Campo idDescrittore = riga.Fields("IDClasse2000-D");
+  const bool asterisco = idDescrittore.Nullo() || idDescrittore.Intero() == 0;
+  const Campo descrittore =
+      asterisco ? riga.Fields("Classe2000-D")
+                : contesto.codici.Cerca("tabClasse2000-D", idDescrittore).Fields("CodiceD");
+  if (asterisco && !descrittore.Presente()) return codice;
+  QString coppia = codice + QLatin1Char(';') + descrittore.Testo();
+  const QString messaggio = MessaggioCoppia(riga.Fields("Check").TestoOVuoto(), asterisco);
+  if (!messaggio.isEmpty()) {
+    contesto.fileErrClasse.Print(messaggio + idRecord + ", record="_L1 + QString::number(idDoc) +
+                                 "): "_L1 + coppia);
   }
-
-  [[nodiscard]] QString Coppia(const Recordset& riga) {
-    const QString codice = riga.Fields("CodiceS").Testo();
-    const Campo idDescrittore = riga.Fields("IDClasse2000-D");
-    if (!idDescrittore.Nullo() && idDescrittore.Intero() != 0) {
-      descrittori_.Seek(idDescrittore);
-      return Unisci(riga, codice, descrittori_.Fields("CodiceD").Testo(), false);
-    }
-    const Campo libero = riga.Fields("Classe2000-D");
-    return libero.Presente() ? Unisci(riga, codice, libero.Testo(), true) : codice;
-  }
-
- private:
-  QString Unisci(const Recordset& riga, const QString& codice, const QString& descrittore,
-                 bool asterisco) {
-    QString coppia = codice + QLatin1Char(';') + descrittore;
-    const QString messaggio = MessaggioCoppia(riga.Fields("Check").TestoOVuoto(), asterisco);
-    if (!messaggio.isEmpty()) {
-      contesto_.fileErrClasse.Print(messaggio + idRecord_ + ", record="_L1 +
-                                    QString::number(idDoc_) + "): "_L1 + coppia);
-    }
-    return coppia;
-  }
-
-  ContestoEsportazione& contesto_;
-  qint64 idDoc_;
-  const QString& idRecord_;
-  Recordset descrittori_;
-};
+  return coppia;
+}
 
 QString LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
                     Recordset& riga) {
-  LettoreCoppie lettore(contesto, idDoc, idRecord);
   QStringList coppie;
-  for (; !riga.Eof(); riga.MoveNext()) coppie += lettore.Coppia(riga);
+  for (; !riga.Eof(); riga.MoveNext()) coppie += Coppia(contesto, idDoc, idRecord, riga);
   return coppie.join(kSeparatore);
 }
 

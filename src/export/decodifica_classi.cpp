@@ -8,34 +8,18 @@ using namespace Qt::Literals::StringLiterals;
 const QLatin1Char kSeparatore('\\');
 constexpr qsizetype kCodice = 5;  // characters of a systematic code and of a descriptor's
 
-// Pieces of CodiciClasse, cut by position, and the tables that decode them.
-class Decodificatore2000 {
- public:
-  explicit Decodificatore2000(const Database& archivio)
-      : sistematici_(archivio.OpenRecordset(QStringLiteral("tabClasse2000-S"))),
-        descrittori_(archivio.OpenRecordset(QStringLiteral("tabClasse2000-D"))) {
-    sistematici_.Index("CodiceS");
-    descrittori_.Index("CodiceD");
-  }
+QString Sistematico(TabelleDiCodici& codici, const QString& codice, QLatin1String separatore) {
+  const Recordset& riga = codici.Cerca("tabClasse2000-S", codice, "CodiceS");
+  return riga.Fields("sigla").Testo() + separatore + riga.Fields("descrizione").Testo();
+}
 
-  [[nodiscard]] QString Sistematico(const QString& codice, const QString& separatore) {
-    sistematici_.Seek(codice);
-    return sistematici_.Fields("sigla").Testo() + separatore +
-           sistematici_.Fields("descrizione").Testo();
-  }
-
-  // Empty for a piece without descriptor. What is no code of a descriptor is free text.
-  [[nodiscard]] QString Descrittore(const QString& pezzo) {
-    if (pezzo.mid(kCodice, 1) != ";"_L1) return {};
-    descrittori_.Seek(pezzo.mid(kCodice + 1, kCodice));
-    return "; "_L1 + (descrittori_.NoMatch() ? pezzo.mid(kCodice + 1)
-                                             : descrittori_.Fields("descrizione").Testo());
-  }
-
- private:
-  Recordset sistematici_;
-  Recordset descrittori_;
-};
+// Empty for a piece without descriptor. What is no code of a descriptor is free text.
+QString Descrittore(TabelleDiCodici& codici, const QString& pezzo) {
+  if (pezzo.mid(kCodice, 1) != ";"_L1) return {};
+  const Recordset& riga =
+      codici.Cerca("tabClasse2000-D", pezzo.mid(kCodice + 1, kCodice), "CodiceD");
+  return "; "_L1 + (riga.NoMatch() ? pezzo.mid(kCodice + 1) : riga.Fields("descrizione").Testo());
+}
 
 // One code of the scheme before 2000: its own row, with that of its parent unless it stands at the
 // top.
@@ -87,11 +71,10 @@ void ScriviClassiStorico(ContestoEsportazione& contesto) {
     ScriviClassi1999(contesto, false);
     return;
   }
-  Decodificatore2000 decodificatore(contesto.stato.DbArchivio);
   QStringList classi;
   for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
-    classi += decodificatore.Sistematico(pezzo.left(kCodice), QStringLiteral("|")) +
-              decodificatore.Descrittore(pezzo);
+    classi += Sistematico(contesto.codici, pezzo.left(kCodice), "|"_L1) +
+              Descrittore(contesto.codici, pezzo);
   }
   contesto.record.AggiungiTesto(tag::kClassiStorico, classi.join(kSeparatore));
 }
@@ -101,16 +84,15 @@ void ScriviClassiCassazione(ContestoEsportazione& contesto) {
     ScriviClassi1999(contesto, true);
     return;
   }
-  Decodificatore2000 decodificatore(contesto.stato.DbArchivio);
   QString classi;
   QString ultimo;
   for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
     const QString codice = pezzo.left(kCodice);
     if (codice != ultimo) {
       if (!classi.isEmpty()) classi += kSeparatore;
-      classi += decodificatore.Sistematico(codice, QStringLiteral(" "));
+      classi += Sistematico(contesto.codici, codice, " "_L1);
     }
-    classi += decodificatore.Descrittore(pezzo);
+    classi += Descrittore(contesto.codici, pezzo);
     ultimo = codice;
   }
   contesto.record.AggiungiTesto(tag::kClassiCassazione, classi);

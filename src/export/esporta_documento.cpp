@@ -29,7 +29,8 @@ class Documento {
         flag_(flag),
         riga_(riga),
         idDoc_(riga.Fields("IDDocumento").Intero()),
-        idRecord_(contesto.stato.PrefissoDoc + NumeroDoc(contesto.stato)) {}
+        idRecord_(contesto.stato.PrefissoDoc + NumeroDoc(contesto.stato)),
+        testi_(contesto.stato.DbArchivio, idDoc_) {}
 
   void Componi();
 
@@ -50,6 +51,7 @@ class Documento {
   const Recordset& riga_;
   qint64 idDoc_;
   QString idRecord_;
+  TestiDocumento testi_;
   QString td_;
   QString tAbs_;
   bool traduzione_ = false;
@@ -147,7 +149,7 @@ void Documento::Classificazione() {
 }
 
 bool Documento::Testo(const char* tipo, const char* nome, const QString& tag) {
-  return ScriviTesto(contesto_, idDoc_, idRecord_,
+  return ScriviTesto(contesto_, testi_, idRecord_,
                      {QString::fromLatin1(tipo), QString::fromLatin1(nome), tag}, td_, tAbs_);
 }
 

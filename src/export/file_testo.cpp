@@ -93,7 +93,7 @@ void FileTesto::Svuota() {
     throw ErroreEsecuzione(pieno ? Errore::DiscoPieno : Errore::ErroreDispositivo, Percorso());
   }
   inizio_ += scritti;
-  pendenti_.clear();
+  pendenti_.resize(0);  // keeps its memory for the next blocks
   blocchi_.clear();
 }
 

@@ -147,9 +147,7 @@ void Riferimento::Bibliografia(const QString& bib) {
     return;
   }
   Codifica("BIB", bib);
-  Recordset tabBib = contesto_.stato.DbArchivio.OpenRecordset(QStringLiteral("TabBIB"));
-  tabBib.Index("PrimaryKey");
-  tabBib.Seek(bib);
+  const Recordset& tabBib = contesto_.codici.Cerca("TabBIB", bib);
   RefEsteso_ += ", ("_L1 + tabBib.Fields("TipoBibliografia").Testo() + QLatin1Char(')');
 }
 

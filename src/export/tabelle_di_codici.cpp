@@ -3,25 +3,34 @@
 namespace torvi {
 namespace {
 
+// Not only codes are sought: a free text that might be one is, too, and there is no end of those.
+constexpr std::size_t kRicordate = 4096;
+
 Recordset CercaPerChiave(const Database& archivio, const std::string& tabella,
-                         const Campo& chiave) {
+                         const std::string& indice, const Campo& chiave) {
   Recordset riga = archivio.OpenRecordset(QString::fromStdString(tabella));
-  riga.Index("PrimaryKey");
+  riga.Index(indice);
   riga.Seek(chiave);
   return riga;
 }
 
 }  // namespace
 
-const Recordset& TabelleDiCodici::Cerca(std::string_view tabella, const Campo& chiave) {
-  auto nota = tabelle_.find(tabella);
-  if (nota == tabelle_.end()) nota = tabelle_.emplace(std::string(tabella), Righe()).first;
-  const QString numero = chiave.TestoOVuoto();
-  auto riga = nota->second.find(numero);
-  if (riga == nota->second.end()) {
-    riga = nota->second.emplace(numero, CercaPerChiave(archivio_, nota->first, chiave)).first;
+TabelleDiCodici::Tabella& TabelleDiCodici::Trova(std::string_view nome, std::string_view indice) {
+  for (Tabella& tabella : tabelle_) {
+    if (tabella.nome == nome && tabella.indice == indice) return tabella;
   }
-  return riga->second;
+  return tabelle_.emplace_back(std::string(nome), std::string(indice), Righe());
+}
+
+const Recordset& TabelleDiCodici::Cerca(std::string_view nome, const Campo& chiave,
+                                        std::string_view indice) {
+  Tabella& tabella = Trova(nome, indice);
+  const auto nota = tabella.righe.find(chiave.Grezzo());
+  if (nota != tabella.righe.end()) return nota->second;
+  if (tabella.righe.size() >= kRicordate) tabella.righe.clear();
+  Recordset riga = CercaPerChiave(archivio_, tabella.nome, tabella.indice, chiave);
+  return tabella.righe.emplace(chiave.Grezzo(), std::move(riga)).first->second;
 }
 
 }  // namespace torvi

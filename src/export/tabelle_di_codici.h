@@ -1,5 +1,5 @@
-// The code tables that an export reads by key. A run meets the same few rows over and over, so each
-// is sought once and kept until the run ends.
+// The code tables that an export looks up by one of their indexes. A run meets the same few rows
+// over and over, so each is sought once and remembered.
 #pragma once
 
 #include <map>
@@ -13,14 +13,22 @@ class TabelleDiCodici {
  public:
   explicit TabelleDiCodici(const Database& archivio) : archivio_(archivio) {}
 
-  // The row with that primary key. None is no failure yet: reading a column is (error 3021).
-  [[nodiscard]] const Recordset& Cerca(std::string_view tabella, const Campo& chiave);
+  // The row with that key. None is no failure yet: reading a column is (error 3021). It stays good
+  // until the next search by the same index of the same table.
+  [[nodiscard]] const Recordset& Cerca(std::string_view tabella, const Campo& chiave,
+                                       std::string_view indice = "PrimaryKey");
 
  private:
-  using Righe = std::map<QString, Recordset>;  // by the key as text, Null as none
+  using Righe = std::map<Campo::Valore, Recordset>;
+  struct Tabella {
+    std::string nome;
+    std::string indice;
+    Righe righe;
+  };
+  [[nodiscard]] Tabella& Trova(std::string_view nome, std::string_view indice);
 
   Database archivio_;
-  std::map<std::string, Righe, std::less<>> tabelle_;
+  std::vector<Tabella> tabelle_;
 };
 
 }  // namespace torvi

@@ -1,5 +1,6 @@
 #include "export/testi.h"
 
+#include <algorithm>
 #include <array>
 
 #include "shell/valori.h"
@@ -17,9 +18,20 @@ QString Nome(const Recordset& riga) {
 
 // Blanks around every backslash, and every pair of blanks closed up in one pass.
 QString Normalizza(QString testo) {
-  testo.replace("\\"_L1, " \\ "_L1);
-  testo.replace("  "_L1, " "_L1);
-  return testo;
+  if (testo.contains(QLatin1Char('\\'))) testo.replace("\\"_L1, " \\ "_L1);
+  const auto sonoSpazi = [](QChar a, QChar b) { return a == b && a == QLatin1Char(' '); };
+  if (std::adjacent_find(testo.cbegin(), testo.cend(), sonoSpazi) == testo.cend()) return testo;
+  const QChar* letto = testo.cbegin();
+  const QChar* const fine = testo.cend();
+  QString normale(testo.size(), Qt::Uninitialized);
+  QChar* scritto = normale.data();
+  while (letto != fine) {
+    const bool spazio = *letto == QLatin1Char(' ');
+    *scritto++ = *letto++;
+    if (spazio && letto != fine && *letto == QLatin1Char(' ')) ++letto;
+  }
+  normale.truncate(scritto - normale.constData());
+  return normale;
 }
 
 struct Mancanza {
@@ -69,18 +81,33 @@ void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QStr
   contesto.record.AggiungiTesto(tag, nomi);
 }
 
-bool ScriviTesto(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-                 const CampoTesto& campo, const QString& td, const QString& tAbs) {
-  const Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
+TestiDocumento::TestiDocumento(const Database& archivio, qint64 idDoc) {
+  Recordset riga = archivio.OpenRecordset(
       QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDDoc = ?and "
-                     "legameDocTesto.Tipo = ? and legameDocTesto.IDTesto = tabTesto.IDTesto"),
-      {idDoc, campo.tipo});
-  if (riga.Eof()) {
+                     "legameDocTesto.IDTesto = tabTesto.IDTesto"),
+      {idDoc});
+  for (; !riga.Eof(); riga.MoveNext()) {
+    testi_.emplace_back(riga.Fields("Tipo").TestoOVuoto(), riga.Fields("testo"));
+  }
+}
+
+const Campo* TestiDocumento::Trova(const QString& tipo) const {
+  for (const auto& [suo, testo] : testi_) {
+    if (suo == tipo) return &testo;
+  }
+  return nullptr;
+}
+
+bool ScriviTesto(ContestoEsportazione& contesto, const TestiDocumento& testi,
+                 const QString& idRecord, const CampoTesto& campo, const QString& td,
+                 const QString& tAbs) {
+  const Campo* trovato = testi.Trova(campo.tipo);
+  if (trovato == nullptr) {
     const QString messaggio = MessaggioMancanza(campo, td, tAbs);
     if (!messaggio.isEmpty()) contesto.fileErrori.Print(messaggio + idRecord);
     return false;
   }
-  const QString testo = Normalizza(riga.Fields("testo").Testo());
+  const QString testo = Normalizza(trovato->Testo());
   contesto.record.AggiungiTesto(campo.tag, testo);
   if (campo.tag == tag::kTraduzione && testo.contains(QLatin1Char('['))) {
     contesto.fileErrori.Print("Traduzione del titolo immessa dal compilatore: "_L1 + idRecord);

@@ -13,13 +13,26 @@ struct CampoTesto {
   QString tag;
 };
 
+// The texts of one document, read at once by one statement. Of several of one
+// `Tipo` the first counts.
+class TestiDocumento {
+ public:
+  TestiDocumento(const Database& archivio, qint64 idDoc);
+  // No such text: nullptr.
+  [[nodiscard]] const Campo* Trova(const QString& tipo) const;
+
+ private:
+  std::vector<std::pair<QString, Campo>> testi_;
+};
+
 // Authors or curators: one field for all names, under the tag of the first. A single name without
 // `SecondoElemento` (Null): error 94.
 void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord);
 
-// True if the text is there and was appended.
-bool ScriviTesto(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-                 const CampoTesto& campo, const QString& td, const QString& tAbs);
+// True if the text is there and was appended. A row without content (Null): error 94.
+bool ScriviTesto(ContestoEsportazione& contesto, const TestiDocumento& testi,
+                 const QString& idRecord, const CampoTesto& campo, const QString& td,
+                 const QString& tAbs);
 
 [[nodiscard]] bool EsisteNota(const ContestoEsportazione& contesto, qint64 idDoc);
 

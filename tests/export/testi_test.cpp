@@ -19,7 +19,8 @@ class Testi : public testing::Test {
   }
   Scritto Testo(const CampoTesto& campo, const QString& td = {}, const QString& tAbs = {}) {
     return prova.Scrivi([&](ContestoEsportazione& contesto) {
-      trovato = ScriviTesto(contesto, kDocumento, kIdRecord, campo, td, tAbs);
+      const TestiDocumento testi(contesto.stato.DbArchivio, kDocumento);
+      trovato = ScriviTesto(contesto, testi, kIdRecord, campo, td, tAbs);
     });
   }
   DocumentiDiProva prova;
