@@ -47,6 +47,7 @@ class Database {
 
  private:
   friend class UnitaDiScrittura;
+  friend QStringList VerificaArchivio(const Database& database);
   [[nodiscard]] Connessione& Connessa() const;
   std::shared_ptr<Connessione> connessione_;
 };

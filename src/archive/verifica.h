@@ -7,10 +7,11 @@
 
 namespace torvi {
 
-// The tables of an archive that the open database lacks; error 3011 names the file and the first.
+// A database that lacks a table of an archive: error 3011, which names the file and the table.
 void RichiediArchivio(const Database& database);
-// A line for each fault: damage of the file, tables, columns and indexes that are missing, links
-// that point to no row. Empty: the archive is sound.
+// A line for each fault: damage of the file, tables, columns and indexes that are missing, a
+// `TabInfo` of more or less than one row, links and keys that point to no row, with how many and
+// the first of them. Empty: the archive is sound.
 [[nodiscard]] QStringList VerificaArchivio(const Database& database);
 
 }  // namespace torvi

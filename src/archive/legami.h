@@ -1,0 +1,18 @@
+// Which column of an archive points to the key of which table.
+#pragma once
+
+#include <span>
+
+namespace torvi {
+
+struct Legame {
+  const char* tabella;
+  const char* colonna;
+  const char* destinazione;
+  const char* chiave;
+  bool ammetteZero;  // 0, as Null, stands for no row
+};
+
+[[nodiscard]] std::span<const Legame> LegamiArchivio();
+
+}  // namespace torvi

@@ -1,0 +1,99 @@
+#include "archive/verifica.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "archive/conversione.h"
+#include "archive/schema.h"
+#include "comune/cartella_di_prova.h"
+
+namespace torvi {
+namespace {
+
+TEST(VerificaTest, UnaConsegnaNuovaESana) {
+  const CartellaDiProva cartella;
+  EXPECT_EQ(QStringList(), VerificaArchivio(cartella.NuovaConsegna()));
+}
+
+TEST(VerificaTest, OgniDifettoHaLaSuaRiga) {
+  const CartellaDiProva cartella;
+  const Database db = cartella.NuovaConsegna();
+  Aggiungi(db, QStringLiteral("TabInfo"), {{"Consegna", "B02"}});
+  Aggiungi(db, QStringLiteral("TabDocumento"), {{"IDRifBibl", 7}});
+  Aggiungi(db, QStringLiteral("TabDocumento"), {{"IDRifBibl", 0}});
+  for (int doc = 11; doc <= 17; ++doc) {
+    Aggiungi(db, QStringLiteral("LegameDocFonte"), {{"IDDoc", doc}, {"IDFnt", 1}});
+  }
+  Aggiungi(db, QStringLiteral("TabFonte"), {{"TP", "LIO"}, {"IDStato", 9}});
+  Aggiungi(db, QStringLiteral("LegameDocTesto"), {{"IDDoc", 1}, {"Tipo", "0"}});
+  EXPECT_EQ(QStringList({
+                "La tabella TabInfo ha 2 righe invece di una.",
+                "TabDocumento.IDRifBibl: 1 righe senza riscontro in TabRifBibl (7).",
+                "LegameDocTesto.IDTesto: 1 righe senza riscontro in TabTesto (Null).",
+                "LegameDocFonte.IDDoc: 7 righe senza riscontro in TabDocumento "
+                "(11, 12, 13, 14, 15, ...).",
+                "TabFonte.IDStato: 1 righe senza riscontro in TabStato (9).",
+            }),
+            VerificaArchivio(db));
+}
+
+TEST(VerificaTest, UnoSchemaIncompletoSiVedeENonEUnArchivio) {
+  const CartellaDiProva cartella;
+  std::vector<Tabella> tabelle = SchemaArchivio();
+  tabelle.erase(tabelle.begin());      // TabDocumento
+  tabelle.front().colonne.pop_back();  // TabRifBibl.Data
+  tabelle.front().indici.pop_back();   // TabRifBibl.IDRivista
+  const QString percorso = cartella.Mdb(QStringLiteral("mezzo.mdb"));
+  CreaDatabase(percorso, tabelle);
+  const Database db = OpenDatabase(percorso);
+  Aggiungi(db, QStringLiteral("TabInfo"), {{"Consegna", "A01"}});
+  EXPECT_EQ(QStringList({"Manca la tabella TabDocumento.",
+                         "Nella tabella TabRifBibl manca la colonna Data.",
+                         "Nella tabella TabRifBibl manca l'indice IDRivista."}),
+            VerificaArchivio(db));
+  try {
+    RichiediArchivio(db);
+    FAIL() << "taken for an archive";
+  } catch (const ErroreEsecuzione& errore) {
+    EXPECT_EQ(3011, errore.Numero());
+    EXPECT_EQ("Il file " + percorso +
+                  " non è un archivio: manca la tabella TabDocumento. Scegliere un altro file.",
+              errore.Descrizione());
+  }
+}
+
+TEST(VerificaTest, UnFileDanneggiatoSiDichiara) {
+  const CartellaDiProva cartella;
+  Database db = cartella.NuovaConsegna();
+  const QString percorso = db.Name();
+  UnitaDiScrittura unita(db);
+  for (int i = 0; i < 300; ++i) {
+    Aggiungi(db, QStringLiteral("TabTesto"), {{"testo", QString(300, QLatin1Char('x'))}});
+  }
+  unita.Concludi();
+  db.Close();
+  QByteArray byte = Byte(percorso);
+  byte.replace(byte.size() - 20000, 9000, QByteArray(9000, '\x5a'));
+  ScriviByte(percorso, byte);
+  const QStringList difetti = VerificaArchivio(OpenDatabase(percorso));
+  ASSERT_FALSE(difetti.isEmpty());
+  EXPECT_TRUE(difetti.front().startsWith(QStringLiteral("Il file è danneggiato: ")))
+      << difetti.join('\n').toStdString();
+}
+
+TEST(VerificaTest, NellaConsegnaGenuinaSiVedonoILegamiSospesi) {
+  const QString genuina = FileGenuino(QStringLiteral("consegna.mdb"));
+  if (genuina.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
+  const CartellaDiProva cartella;
+  const QString nuovo = cartella.Mdb(QStringLiteral("convertita.mdb"));
+  ConvertiJet(genuina, nuovo);
+  const QStringList difetti = VerificaArchivio(OpenDatabase(nuovo));
+  ASSERT_FALSE(difetti.isEmpty());
+  for (const QString& difetto : difetti) {
+    EXPECT_TRUE(difetto.contains(QStringLiteral("senza riscontro"))) << difetto.toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace torvi
