@@ -1,0 +1,104 @@
+#include <algorithm>
+#include <array>
+
+#include "cli/comando.h"
+#include "export/errori_consegna.h"
+#include "export/esporta_ascii.h"
+#include "shell/apertura.h"
+#include "shell/consegna.h"
+#include "shell/percorsi.h"
+
+namespace torvi {
+
+namespace {
+
+constexpr std::array kOpzioniEsporta = {Opzione{"controllo-fonti", nullptr},
+                                        Opzione{"accoda", "FILE"}};
+
+struct Formato {
+  const char* nome;
+  FlagEsportazione flag;
+};
+constexpr std::array kFormati = {Formato{"isis", kEsportaIsis},
+                                 Formato{"cassazione", kEsportaCassazione},
+                                 Formato{"storico", kEsportaStorico}};
+
+struct FileErrori {
+  const char* nome;
+  const VoceErrori* voce;
+};
+constexpr std::array kFileErrori = {FileErrori{"generici", &kErroriGenerici},
+                                    FileErrori{"classe", &kErroriClasse},
+                                    FileErrori{"fonti", &kErroriFonti}};
+
+// The row of a table that the first argument names.
+template <typename Righe>
+const auto& PerNome(const Righe& righe, const QCommandLineParser& letto) {
+  const QString nome = letto.positionalArguments().constFirst();
+  const auto riga =
+      std::ranges::find_if(righe, [&](const auto& una) { return nome == QLatin1String(una.nome); });
+  if (riga == righe.end()) throw ErroreUso{QStringLiteral("non si conosce \"%1\"").arg(nome)};
+  return *riga;
+}
+
+void Rispondi(DialoghiConsole& dialoghi, const QCommandLineParser& righe) {
+  const QString accoda = QStringLiteral("accoda");
+  if (righe.isSet(accoda) && righe.value(accoda).isEmpty()) {
+    throw ErroreUso{QStringLiteral("--accoda vuole il nome di un file")};
+  }
+  const auto risposta = [](bool si) { return si ? Risposta::Si : Risposta::No; };
+  dialoghi.Rispondi(QStringLiteral("Controllo presenza fonti?"),
+                    risposta(righe.isSet(QStringLiteral("controllo-fonti"))));
+  dialoghi.Rispondi(QStringLiteral("Accodare risultato dell'esportazione?"),
+                    risposta(righe.isSet(accoda)));
+  dialoghi.FileUscitaScelto(TrovaPercorso(righe.value(accoda)));
+}
+
+Esito Esporta(Contesto& contesto, const QCommandLineParser& righe) {
+  const Formato& formato = PerNome(kFormati, righe);
+  Rispondi(contesto.dialoghi, righe);
+  contesto.stato.DbArchivio =
+      ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
+  EsportaAscii(contesto.stato, contesto.dialoghi, formato.flag);
+  return Esito::Fatto;
+}
+
+// The viewer ends in silence, or with an advice, where it finds no file to show.
+Esito Errori(Contesto& contesto, const QCommandLineParser& righe) {
+  const VoceErrori& voce = *PerNome(kFileErrori, righe).voce;
+  contesto.stato.DbArchivio =
+      ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
+  LeggiInfoConsegna(contesto.stato);
+  VisualizzaErrori(contesto.stato, contesto.dialoghi, voce);
+  const bool visti =
+      contesto.dialoghi.ErroriMostrati() || contesto.dialoghi.UltimoMessaggio() == voce.nessuno;
+  if (visti) return Esito::Fatto;
+  contesto.dialoghi.Messaggio(
+      QStringLiteral("Non si legge %1")
+          .arg(FileUscita(contesto.stato.CartellaApplicazione,
+                          QString(voce.file + contesto.stato.SiglaConsegna))));
+  return Esito::Fallito;
+}
+
+}  // namespace
+
+const Comando kEsporta = {
+    "esporta",
+    "isis|cassazione|storico ARCHIVIO [--controllo-fonti] [--accoda FILE]",
+    "Esporta la consegna in dump/lexxdump FORMATO.SIGLA e scrive i tre file degli errori. Un\n"
+    "archivio in formato Jet viene prima convertito; l'originale resta accanto come\n"
+    "ARCHIVIO.jet.\n\n"
+    "  --controllo-fonti  segnala i documenti senza fonti\n"
+    "  --accoda FILE      aggiunge in coda a FILE invece di scrivere un file nuovo\n",
+    2,
+    kOpzioniEsporta,
+    Esporta};
+
+const Comando kErrori = {"errori",
+                         "generici|classe|fonti ARCHIVIO",
+                         "Scrive gli errori trovati dall'ultima esportazione della consegna.\n",
+                         2,
+                         {},
+                         Errori};
+
+}  // namespace torvi
