@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Checks the layout of all sources (clang-format) and looks for what is better written otherwise
+# (clang-tidy). Run by hand before a change goes in; `scripts/stile.sh --correggi` mends the layout.
+# usage: scripts/stile.sh [--correggi] [FILE...]
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+scripts/pacchetti.sh prove stile
+modo=(--dry-run --Werror)
+if [ "${1:-}" = --correggi ]; then
+  modo=(-i)
+  shift
+fi
+if [ $# -gt 0 ]; then
+  sorgenti=("$@")
+else
+  mapfile -t sorgenti < <(git ls-files --cached --others --exclude-standard 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp')
+fi
+clang-format "${modo[@]}" "${sorgenti[@]}"
+
+# Generated headers are made by a build.
+cmake --preset dev >/dev/null
+cmake --build --preset dev
+printf '%s\n' "${sorgenti[@]}" | grep '\.cpp$' |
+  xargs -P "$(nproc)" -n 1 clang-tidy --quiet -p build/dev
