@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "archive/verifica.h"
+#include "comune/cartella_di_prova.h"
+#include "programma.h"
+
+namespace torvi {
+namespace {
+
+// An application folder with a sample delivery in it.
+class Comandi : public testing::Test {
+ protected:
+  [[nodiscard]] EsitoProgramma Esegui(const QStringList& argomenti) const {
+    return Torvi(QStringList{QStringLiteral("--cartella"), cartella_.Percorso()} + argomenti);
+  }
+  // The command must end well and say nothing but `errori`.
+  void Riesce(const QStringList& argomenti, const QString& errori = {}) const {
+    const EsitoProgramma esito = Esegui(argomenti);
+    EXPECT_EQ(esito.codice, 0) << argomenti.join(u' ').toStdString();
+    EXPECT_EQ(esito.errori, errori);
+  }
+  void PreparaEsempio(int documenti = 40) const {
+    Riesce({QStringLiteral("catalogo"), cartella_.Mdb(QStringLiteral("catalogo norme.mdb"))});
+    Riesce({QStringLiteral("esempio"), Archivio(), QStringLiteral("--documenti"),
+            QString::number(documenti)});
+  }
+  [[nodiscard]] QString Archivio() const { return cartella_.Mdb(QStringLiteral("A01.MDB")); }
+  [[nodiscard]] QByteArray Uscita(const char* nome) const {
+    return Byte(cartella_.Dump(QString::fromLatin1(nome)));
+  }
+
+  CartellaDiProva cartella_;
+};
+
+const QString kFine = QStringLiteral("Fine esportazione della consegna A01\n");
+
+TEST_F(Comandi, NuovoMakesADeliveryUnderTheUpperCasedName) {
+  Riesce({QStringLiteral("master"), cartella_.Mdb(QStringLiteral("master.mdb"))});
+  const QString minuscolo = cartella_.Mdb(QStringLiteral("b02.mdb"));
+  const QString atteso = cartella_.Mdb(QStringLiteral("B02.MDB"));
+  ScriviByte(minuscolo, "una consegna da sostituire");
+  const EsitoProgramma esito = Esegui(
+      {QStringLiteral("nuovo"), minuscolo, QStringLiteral("--consegna=b02"),
+       QStringLiteral("--inizio=12"), QStringLiteral("--centro=a"), QStringLiteral("--anno=2001")});
+  EXPECT_EQ(esito.codice, 0) << esito.errori.toStdString();
+  EXPECT_EQ(esito.uscita, atteso + "\n");
+  EXPECT_EQ(Informazioni(atteso), QStringLiteral("B02 12 A 2001 - - - - - - - - -"));
+  EXPECT_FALSE(QFile::exists(minuscolo));
+  EXPECT_EQ(QDir(cartella_.Percorso() + "/mdb").entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(Comandi, NuovoNeedsAMaster) {
+  const EsitoProgramma esito = Esegui(
+      {QStringLiteral("nuovo"), Archivio(), QStringLiteral("--consegna=A01"),
+       QStringLiteral("--inizio=12"), QStringLiteral("--centro=A"), QStringLiteral("--anno=2001")});
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '53': ")));
+  EXPECT_TRUE(esito.errori.contains(QStringLiteral("/mdb/master.mdb")));
+  EXPECT_FALSE(QFile::exists(Archivio()));
+}
+
+TEST_F(Comandi, EsportaWritesTheThreeFlavoursAndMarksTheDelivery) {
+  PreparaEsempio();
+  for (const char* formato : {"isis", "cassazione", "storico"}) {
+    Riesce({QStringLiteral("esporta"), QString::fromLatin1(formato), Archivio()}, kFine);
+    const QByteArray file = Uscita(("lexxdump " + std::string(formato) + ".A01").c_str());
+    EXPECT_EQ(file.count(" 2AP=2001 NP=A"), 40) << formato;
+    EXPECT_EQ(file.contains("\n22^t"), std::string(formato) == "isis") << formato;
+  }
+  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 1 - - - - - - - -"));
+}
+
+TEST_F(Comandi, OptionsAnswerTheQuestionsOfTheExport) {
+  PreparaEsempio();
+  const QStringList esporta{QStringLiteral("esporta"), QStringLiteral("isis"), Archivio()};
+  Riesce(esporta, kFine);
+  EXPECT_FALSE(Uscita("errori.A01").contains("Manca fonte: "));
+  const QByteArray daSolo = Uscita("lexxdump isis.A01");
+  Riesce(esporta + QStringList{QStringLiteral("--controllo-fonti")}, kFine);
+  EXPECT_TRUE(Uscita("errori.A01").contains("Manca fonte: "));
+
+  const QString comune = cartella_.Dump(QStringLiteral("lexxdump.tot"));
+  for (int volta = 1; volta <= 2; ++volta) {
+    Riesce(esporta + QStringList{QStringLiteral("--accoda"), comune}, kFine);
+    EXPECT_EQ(Byte(comune), daSolo.repeated(volta));
+    EXPECT_EQ(Uscita("errClasse.tot").count("Consegna A01\r\n"), volta);
+  }
+}
+
+TEST_F(Comandi, ErroriShowsWhatTheExportFound) {
+  PreparaEsempio(3);
+  const QStringList errori{QStringLiteral("errori"), QStringLiteral("generici"), Archivio()};
+  EsitoProgramma esito = Esegui(errori);
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral(
+      "Prima di usare questa funzione occorre utilizzare una delle tre sottovoci del sottomenù "
+      "Formato ASCII di Esporta\n")));
+  Riesce({QStringLiteral("esporta"), QStringLiteral("storico"), Archivio()}, kFine);
+  ScriviByte(cartella_.Dump(QStringLiteral("errori.A01")), "Manca titolo: 2001A0012\r\n\r\n");
+  esito = Esegui(errori);
+  EXPECT_EQ(esito.codice, 0);
+  EXPECT_EQ(esito.uscita, QStringLiteral("Errori generici\r\n\r\nManca titolo: 2001A0012\r\n\r\n"));
+  Riesce({QStringLiteral("errori"), QStringLiteral("classe"), Archivio()},
+         QStringLiteral("Non ci sono errori di classificazione!\n"));
+  Riesce({QStringLiteral("errori"), QStringLiteral("fonti"), Archivio()},
+         QStringLiteral("Non ci sono errori nelle fonti!\n"));
+  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 1 - - - - - 1 1 1"));
+}
+
+TEST_F(Comandi, VerificaTellsASoundArchiveFromOneWithFaults) {
+  PreparaEsempio();
+  const QByteArray prima = Byte(Archivio());
+  Riesce({QStringLiteral("verifica"), Archivio()},
+         QStringLiteral("Nessun difetto: %1\n").arg(Archivio()));
+  EXPECT_EQ(Byte(Archivio()), prima);
+  {
+    const Database archivio = OpenDatabase(Archivio());
+    archivio.Execute(QStringLiteral("delete * from TabTesto where IDTesto = 1"));
+  }
+  const EsitoProgramma esito = Esegui({QStringLiteral("verifica"), Archivio()});
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_EQ(esito.uscita.count(u'\n'), 1) << esito.uscita.toStdString();
+  EXPECT_TRUE(esito.uscita.contains(QStringLiteral("LegameDocTesto"), Qt::CaseInsensitive));
+  EXPECT_EQ(esito.errori, QStringLiteral("Difetti: 1 in %1\n").arg(Archivio()));
+}
+
+class Genuini : public Comandi {
+ protected:
+  void SetUp() override {
+    if (FileGenuino(QStringLiteral("consegna.mdb")).isEmpty()) {
+      GTEST_SKIP() << "the genuine Jet files are not at hand";
+    }
+    QFile::copy(FileGenuino(QStringLiteral("catalogo norme data.mdb")),
+                cartella_.Mdb(QStringLiteral("catalogo norme.mdb")));
+    QFile::copy(FileGenuino(QStringLiteral("consegna.mdb")), Archivio());
+    QFile::setPermissions(Archivio(), QFile::ReadOwner | QFile::WriteOwner);
+  }
+};
+
+TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
+  const QByteArray originale = Byte(Archivio());
+  const QString nuovo = cartella_.Mdb(QStringLiteral("nuovo.mdb"));
+  Riesce({QStringLiteral("converti"), Archivio(), nuovo});
+  EXPECT_EQ(Byte(Archivio()), originale);
+  RichiediArchivio(OpenDatabase(nuovo));
+  // Once more: what is there stays.
+  const QByteArray primo = Byte(nuovo);
+  EXPECT_EQ(Esegui({QStringLiteral("converti"), Archivio(), nuovo}).codice, 1);
+  EXPECT_EQ(Byte(nuovo), primo);
+
+  static_cast<void>(Esegui({QStringLiteral("errori"), QStringLiteral("fonti"), Archivio()}));
+  EXPECT_EQ(Byte(Archivio() + ".jet"), originale);
+  EXPECT_TRUE(Byte(Archivio()).startsWith("SQLite format 3"));
+}
+
+TEST_F(Genuini, AJetMasterMakesDeliveries) {
+  const QString master = cartella_.Mdb(QStringLiteral("master.mdb"));
+  Riesce({QStringLiteral("master"), master, QStringLiteral("--da"),
+          FileGenuino(QStringLiteral("master.mdb"))});
+  const QString esempio = cartella_.Mdb(QStringLiteral("esempio.mdb"));
+  Riesce({QStringLiteral("esempio"), esempio});
+  Riesce({QStringLiteral("verifica"), esempio},
+         QStringLiteral("Nessun difetto: %1\n").arg(esempio));
+  Riesce({QStringLiteral("esporta"), QStringLiteral("isis"), esempio}, kFine);
+}
+
+}  // namespace
+}  // namespace torvi

@@ -1,0 +1,190 @@
+// What cannot be worked on gets one line that names it, exit 1, and stays as it was.
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <functional>
+
+#include "comune/cartella_di_prova.h"
+#include "programma.h"
+
+namespace torvi {
+namespace {
+
+class IngressiErrati : public testing::Test {
+ protected:
+  void SetUp() override {
+    archivio_ = cartella_.Mdb(QStringLiteral("A01.MDB"));
+    cartella_.NuovaConsegna(QStringLiteral("A01.MDB")).Close();
+  }
+  [[nodiscard]] EsitoProgramma Esporta(const QStringList& davanti = {}) const {
+    return Torvi({QStringLiteral("--cartella"), cartella_.Percorso(), QStringLiteral("esporta"),
+                  QStringLiteral("isis"), archivio_},
+                 davanti);
+  }
+  // Exit 1 and one line with the number and the name; nothing in mdb/ changes.
+  void FallisceCon(int numero, const QString& nome, const QStringList& davanti = {}) const {
+    const auto prima = Cartella();
+    const EsitoProgramma esito = Esporta(davanti);
+    EXPECT_EQ(esito.codice, 1) << esito.errori.toStdString();
+    EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '%1': ").arg(numero)))
+        << esito.errori.toStdString();
+    EXPECT_TRUE(esito.errori.contains(nome)) << esito.errori.toStdString();
+    EXPECT_EQ(esito.errori.count(u'\n'), 1) << esito.errori.toStdString();
+    EXPECT_EQ(Cartella(), prima);
+  }
+  // The files of mdb/ with their bytes.
+  [[nodiscard]] QMap<QString, QByteArray> Cartella() const {
+    QMap<QString, QByteArray> file;
+    for (const QString& nome : QDir(cartella_.Percorso() + "/mdb").entryList(QDir::Files)) {
+      file[nome] = Byte(cartella_.Mdb(nome));
+    }
+    return file;
+  }
+
+  CartellaDiProva cartella_;
+  QString archivio_;
+};
+
+TEST_F(IngressiErrati, AFileThatIsNoArchive) {
+  QByteArray jet("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24);
+  jet.append(QByteArray(6000, '\0'));
+  struct Caso {
+    const char* cosa;
+    QByteArray byte;
+    int numero;
+  };
+  const Caso kCasi[] = {
+      {"empty", {}, 3343},
+      {"text", "Non sono un archivio.\n", 3343},
+      {"a header and nothing behind it", QByteArray("SQLite format 3\0", 16), 3343},
+      {"a Jet file of which little is left", jet, 3343},
+  };
+  for (const Caso& caso : kCasi) {
+    SCOPED_TRACE(caso.cosa);
+    ScriviByte(archivio_, caso.byte);
+    FallisceCon(caso.numero, archivio_);
+  }
+}
+
+TEST_F(IngressiErrati, ADamagedGenuineFile) {
+  const QString genuino = FileGenuino(QStringLiteral("consegna.mdb"));
+  if (genuino.isEmpty()) GTEST_SKIP() << "the genuine Jet files are not at hand";
+  const QByteArray intero = Byte(genuino);
+  ScriviByte(archivio_, intero.left(intero.size() / 3));
+  FallisceCon(3343, archivio_);
+  QByteArray guasto = intero;
+  // Every page from the third on loses its first bytes.
+  for (qsizetype pagina = 2 * 4096; pagina < guasto.size(); pagina += 4096) {
+    guasto.replace(pagina, 16, QByteArray(16, '\x7f'));
+  }
+  ScriviByte(archivio_, guasto);
+  FallisceCon(3343, archivio_);
+}
+
+TEST_F(IngressiErrati, AForeignDatabase) {
+  const QString altro = FileGenuino(QStringLiteral("classificazione.mdb"));
+  if (!altro.isEmpty()) {
+    ScriviByte(archivio_, Byte(altro));
+    FallisceCon(3011, archivio_);
+  }
+  QFile::remove(archivio_);
+  ASSERT_EQ(Torvi({QStringLiteral("catalogo"), archivio_}).codice, 0);
+  FallisceCon(3011, archivio_);
+}
+
+TEST_F(IngressiErrati, AnAbsentFileOrFolder) {
+  QFile::remove(archivio_);
+  FallisceCon(3024, archivio_);
+  archivio_ = cartella_.Percorso() + "/nessuna/A01.MDB";
+  FallisceCon(3024, archivio_);
+}
+
+TEST_F(IngressiErrati, TabInfoWithoutARowOrWithTwo) {
+  {
+    const Database archivio = OpenDatabase(archivio_);
+    Aggiungi(archivio, QStringLiteral("TabInfo"), {{"Consegna", "A02"}});
+  }
+  FallisceCon(3011, archivio_);
+  OpenDatabase(archivio_).Execute(QStringLiteral("delete * from TabInfo"));
+  FallisceCon(3021, archivio_);
+  const EsitoProgramma esito =
+      Torvi({QStringLiteral("--cartella"), cartella_.Percorso(), QStringLiteral("errori"),
+             QStringLiteral("fonti"), archivio_});
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '3021': ")));
+}
+
+TEST_F(IngressiErrati, AnArchiveWithoutDocuments) {
+  const EsitoProgramma esito = Esporta();
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '3021': ")));
+}
+
+TEST_F(IngressiErrati, AnAbsentNormCatalogueEndsTheRunAtTheFirstAct) {
+  QFile::remove(archivio_);
+  ASSERT_EQ(Torvi({QStringLiteral("esempio"), archivio_}).codice, 0);
+  const EsitoProgramma esito = Esporta();
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '3024': ")));
+  EXPECT_TRUE(esito.errori.contains(QStringLiteral("/mdb/catalogo norme.mdb")));
+  EXPECT_TRUE(Byte(cartella_.Dump(QStringLiteral("lexxdump isis.A01"))).isEmpty());
+}
+
+TEST_F(IngressiErrati, AnAbsentDumpFolder) {
+  ASSERT_TRUE(QDir(cartella_.Percorso()).rmdir(QStringLiteral("dump")));
+  const EsitoProgramma esito = Esporta();
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '76': ")))
+      << esito.errori.toStdString();
+  EXPECT_TRUE(esito.errori.contains(cartella_.Percorso() + "/dump"));
+}
+
+TEST_F(IngressiErrati, AFileThatExistsIsNotWrittenOver) {
+  for (const char* comando : {"master", "catalogo", "esempio"}) {
+    const QByteArray prima = Byte(archivio_);
+    const EsitoProgramma esito = Torvi({QString::fromLatin1(comando), archivio_});
+    EXPECT_EQ(esito.codice, 1) << comando;
+    EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '75': "))) << comando;
+    EXPECT_TRUE(esito.errori.contains(archivio_)) << comando;
+    EXPECT_EQ(Byte(archivio_), prima) << comando;
+  }
+}
+
+TEST_F(IngressiErrati, AFileInUseByAnother) {
+  if (QStandardPaths::findExecutable(QStringLiteral("sqlite3")).isEmpty()) {
+    GTEST_SKIP() << "no sqlite3";
+  }
+  QProcess altro;
+  altro.start(QStringLiteral("sqlite3"), {archivio_});
+  altro.write("BEGIN EXCLUSIVE; SELECT 'preso';\n");
+  ASSERT_TRUE(altro.waitForReadyRead(-1));
+  FallisceCon(3045, archivio_);
+  altro.closeWriteChannel();
+  altro.waitForFinished(-1);
+}
+
+// As a user without rights; the owner of all rights is not held by permissions.
+TEST_F(IngressiErrati, AFileThatCannotBeWritten) {
+  const QStringList senzaDiritti =
+      ::geteuid() == 0
+          ? QStringList{QStringLiteral("setpriv"), QStringLiteral("--reuid=65534"),
+                        QStringLiteral("--regid=65534"), QStringLiteral("--clear-groups")}
+          : QStringList{};
+  if (Torvi({QStringLiteral("--aiuto")}, senzaDiritti).codice != 0) {
+    GTEST_SKIP() << "the program is out of reach for a user without rights";
+  }
+  for (const QString& cartella : {QString(), QStringLiteral("/mdb"), QStringLiteral("/dump")}) {
+    QFile::setPermissions(cartella_.Percorso() + cartella,
+                          QFile::Permissions(0x5755));  // rwxr-xr-x
+  }
+  QFile::setPermissions(archivio_, QFile::ReadOwner | QFile::ReadOther);
+  FallisceCon(3027, archivio_, senzaDiritti);
+}
+
+}  // namespace
+}  // namespace torvi

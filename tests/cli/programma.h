@@ -1,0 +1,20 @@
+// Runs the built torvi as a process of its own.
+#pragma once
+
+#include <QStringList>
+
+namespace torvi {
+
+struct EsitoProgramma {
+  int codice = -1;
+  QString uscita;
+  QString errori;
+};
+
+// `torvi` with these arguments, after those of `davanti` ("setpriv", "--reuid=65534"...) if any.
+[[nodiscard]] EsitoProgramma Torvi(const QStringList& argomenti, const QStringList& davanti = {});
+
+// An archive's columns of `TabInfo` in the order of the schema, Null as "-".
+[[nodiscard]] QString Informazioni(const QString& archivio);
+
+}  // namespace torvi

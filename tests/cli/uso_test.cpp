@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include <QProcess>
+
+#include "programma.h"
+
+namespace torvi {
+namespace {
+
+QStringList Parole(const char* riga) {
+  return QString::fromUtf8(riga).split(u' ', Qt::SkipEmptyParts);
+}
+
+TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
+  struct Caso {
+    const char* argomenti;
+    const char* motivo;
+  };
+  const Caso kCasi[] = {
+      {"", "torvi: manca il comando"},
+      {"esportare isis a.mdb", "torvi: comando sconosciuto: esportare"},
+      {"stampa completa a.mdb", "torvi: comando sconosciuto: stampa"},
+      {"--cartelle /tmp verifica a.mdb", "torvi: opzione sconosciuta: cartelle"},
+      {"esporta isis a.mdb --accodare f", "torvi: opzione sconosciuta: accodare"},
+      {"esporta isis a.mdb --accoda", "torvi: manca il valore di un'opzione"},
+      {"esporta isis a.mdb --accoda=", "torvi: --accoda vuole il nome di un file"},
+      {"esporta isis", "torvi: gli argomenti di \"esporta\" sono 2"},
+      {"esporta isis a.mdb b.mdb", "torvi: gli argomenti di \"esporta\" sono 2"},
+      {"esporta rtf a.mdb", "torvi: non si conosce \"rtf\""},
+      {"errori tutti a.mdb", "torvi: non si conosce \"tutti\""},
+      {"converti a.mdb", "torvi: gli argomenti di \"converti\" sono 2"},
+      {"esempio a.mdb --documenti 0", "torvi: --documenti va da 1 a 32750"},
+      {"esempio a.mdb --documenti 32751", "torvi: --documenti va da 1 a 32750"},
+      {"esempio a.mdb --documenti dieci", "torvi: --documenti va da 1 a 32750"},
+      {"nuovo a.mdb --consegna A01 --inizio 1 --centro A", "torvi: --anno deve essere"},
+      {"nuovo a.mdb --consegna A01 --inizio 1 --centro AB --anno 2001",
+       "torvi: --centro deve essere"},
+      {"nuovo a.mdb --consegna A01 --inizio 1 --centro 0 --anno 2001",
+       "torvi: --centro deve essere"},
+      {"nuovo a.mdb --consegna A01 --inizio 1 --centro A --anno 01", "torvi: --anno deve essere"},
+      {"nuovo a.mdb --consegna A|1 --inizio 1 --centro A --anno 2001",
+       "torvi: --consegna deve essere"},
+  };
+  for (const Caso& caso : kCasi) {
+    const EsitoProgramma esito = Torvi(Parole(caso.argomenti));
+    EXPECT_EQ(esito.codice, 2) << caso.argomenti;
+    EXPECT_TRUE(esito.errori.startsWith(QString::fromUtf8(caso.motivo)))
+        << caso.argomenti << ": " << esito.errori.toStdString();
+    EXPECT_TRUE(esito.errori.contains(QStringLiteral("\n\nUso: torvi "))) << caso.argomenti;
+    EXPECT_TRUE(esito.uscita.isEmpty()) << caso.argomenti;
+  }
+}
+
+TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
+  const QString generale = Torvi({QStringLiteral("--aiuto")}).uscita;
+  EXPECT_TRUE(generale.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] COMANDO")));
+  for (const char* comando :
+       {"nuovo", "esporta", "errori", "converti", "verifica", "master", "catalogo", "esempio"}) {
+    const QString nome = QString::fromLatin1(comando);
+    EXPECT_TRUE(generale.contains(QStringLiteral("  torvi %1 ").arg(nome))) << comando;
+    const EsitoProgramma esito = Torvi({nome, QStringLiteral("--aiuto")});
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_TRUE(
+        esito.uscita.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] %1 ").arg(nome)))
+        << esito.uscita.toStdString();
+    EXPECT_TRUE(esito.errori.isEmpty()) << esito.errori.toStdString();
+  }
+}
+
+TEST(Uso, ATerminalWithoutUtf8ChangesNothing) {
+  const EsitoProgramma esito =
+      Torvi({QStringLiteral("--aiuto")}, {QStringLiteral("env"), QStringLiteral("LC_ALL=C")});
+  EXPECT_EQ(esito.codice, 0);
+  EXPECT_TRUE(esito.errori.isEmpty()) << esito.errori.toStdString();
+  EXPECT_EQ(esito.uscita, Torvi({QStringLiteral("--aiuto")}).uscita);
+}
+
+TEST(Uso, OutputThatCannotBeWrittenIsAFailure) {
+  QProcess processo;
+  processo.setStandardOutputFile(QStringLiteral("/dev/full"));
+  processo.start(QStringLiteral(TORVI_PROGRAMMA), {QStringLiteral("--aiuto")});
+  ASSERT_TRUE(processo.waitForFinished(-1));
+  EXPECT_EQ(processo.exitCode(), 1);
+}
+
+// The companion runs where no graphical library is installed.
+TEST(Uso, TheProgramLoadsNoGraphicalLibrary) {
+  QProcess ldd;
+  ldd.start(QStringLiteral("ldd"), {QStringLiteral(TORVI_PROGRAMMA)});
+  ASSERT_TRUE(ldd.waitForFinished(-1));
+  const QByteArray librerie = ldd.readAllStandardOutput();
+  EXPECT_TRUE(librerie.contains("libQt6Core"));
+  EXPECT_FALSE(librerie.contains("libQt6Gui")) << librerie.toStdString();
+  EXPECT_FALSE(librerie.contains("libQt6Widgets")) << librerie.toStdString();
+}
+
+}  // namespace
+}  // namespace torvi
