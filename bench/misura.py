@@ -1,0 +1,112 @@
+#!/usr/bin/env python3
+"""Measures export and conversion against public tools, in alternating pairs of whole processes.
+
+usage: bench/misura.py [--torvi build/release/bin/torvi] [--coppie 5] [--jet FILE.mdb]
+
+Run by hand on a quiet machine; scripts/pacchetti.sh misure installs what it calls.
+"""
+
+import argparse
+import os
+import pathlib
+import statistics
+import subprocess
+import tempfile
+import time
+
+
+class Prova:
+    """One run of a process: seconds by the clock and by the processor, peak memory in MB."""
+
+    def __init__(self, comando, uscita=os.devnull):
+        inizio = time.perf_counter()
+        with open(uscita, "wb") as file:
+            processo = subprocess.Popen(comando, stdout=file, stderr=subprocess.DEVNULL)
+            _, esito, uso = os.wait4(processo.pid, 0)
+        self.secondi = time.perf_counter() - inizio
+        self.processore = uso.ru_utime + uso.ru_stime
+        self.memoria = uso.ru_maxrss / 1024
+        if esito != 0:
+            raise SystemExit(f"fallito: {' '.join(map(str, comando))}")
+
+
+def mediane(prove):
+    return (
+        statistics.median(p.secondi for p in prove),
+        statistics.median(p.processore for p in prove),
+        max(p.memoria for p in prove),
+    )
+
+
+def stampa(nome, prove):
+    secondi, processore, memoria = mediane(prove)
+    print(f"  {nome:<28} {secondi:7.3f} s  {processore:7.3f} s cpu  {memoria:6.1f} MB")
+    return secondi
+
+
+class Cartella:
+    """An application folder with sample deliveries in it."""
+
+    def __init__(self, torvi, radice):
+        self.torvi = torvi
+        self.radice = radice
+        for nome in ("mdb", "dump"):
+            (radice / nome).mkdir()
+        self.fai("catalogo", radice / "mdb" / "catalogo norme.mdb")
+
+    def fai(self, *argomenti):
+        return Prova([self.torvi, "--cartella", self.radice, *argomenti])
+
+    def esempio(self, documenti):
+        archivio = self.radice / "mdb" / f"{documenti}.mdb"
+        prova = self.fai("esempio", archivio, "--documenti", str(documenti))
+        print(f"  esempio {documenti:<20} {prova.secondi:7.3f} s  {archivio.stat().st_size >> 20} MB")
+        return archivio
+
+
+def esportazione(cartella, coppie):
+    print("Esportazione (isis) e sqlite3 .dump")
+    grande, piccolo = cartella.esempio(20000), cartella.esempio(2000)
+    prove = {"dump": [], "grande": [], "piccolo": []}
+    for _ in range(coppie):
+        testo = cartella.radice / "dump.sql"
+        prove["dump"].append(Prova(["sqlite3", grande, ".dump"], testo))
+        prove["grande"].append(cartella.fai("esporta", "isis", grande))
+        prove["piccolo"].append(cartella.fai("esporta", "isis", piccolo))
+    dump = stampa("sqlite3 .dump, 20.000", prove["dump"])
+    venti = stampa("torvi esporta, 20.000", prove["grande"])
+    due = stampa("torvi esporta, 2.000", prove["piccolo"])
+    print(f"  torvi / .dump            {venti / dump:6.2f}   (al più 2)")
+    print(f"  per documento 20.000 / 2.000 {venti / due / 10:6.2f}   (tra 0,8 e 1,2)")
+
+
+def conversione(cartella, jet, coppie):
+    print(f"Conversione di {jet.name} e mdb-export di tutte le tabelle")
+    tabelle = subprocess.run(["mdb-tables", "-1", jet], check=True, capture_output=True, text=True)
+    leggi = "".join(f'mdb-export "$0" "{nome}"\n' for nome in tabelle.stdout.splitlines())
+    prove = {"torvi": [], "mdb": []}
+    for i in range(coppie):
+        prove["mdb"].append(Prova(["sh", "-c", leggi, jet], cartella.radice / "tabelle.csv"))
+        prove["torvi"].append(cartella.fai("converti", jet, cartella.radice / f"nuovo{i}.mdb"))
+    mdb = stampa("mdb-export", prove["mdb"])
+    torvi = stampa("torvi converti", prove["torvi"])
+    print(f"  mdb-export / torvi       {mdb / torvi:6.2f}   (almeno 0,25)")
+
+
+def main():
+    radice = pathlib.Path(__file__).resolve().parent.parent
+    argomenti = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    argomenti.add_argument("--torvi", type=pathlib.Path, default=radice / "build/release/bin/torvi")
+    argomenti.add_argument("--coppie", type=int, default=5)
+    argomenti.add_argument("--jet", type=pathlib.Path,
+                           default=radice / "../shared/jet/consegna.mdb")
+    scelte = argomenti.parse_args()
+    with tempfile.TemporaryDirectory(dir=scelte.torvi.parent) as temporanea:
+        cartella = Cartella(scelte.torvi, pathlib.Path(temporanea))
+        esportazione(cartella, scelte.coppie)
+        if scelte.jet.exists():
+            conversione(cartella, scelte.jet, scelte.coppie)
+
+
+if __name__ == "__main__":
+    main()
