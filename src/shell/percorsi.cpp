@@ -46,6 +46,12 @@ void PreparaCartelle(const QString& cartellaApplicazione) {
   }
 }
 
+QStringList ElencoFile(const QString& cartella, const QString& modello) {
+  QStringList modelli = {modello};
+  if (modello.endsWith(QLatin1String(".*"))) modelli += modello.chopped(2);
+  return QDir(cartella).entryList(modelli, QDir::Files, QDir::Name | QDir::IgnoreCase);
+}
+
 QString NomeMaiuscolo(const QString& percorso) {
   const qsizetype inizio = percorso.lastIndexOf(QLatin1Char('/')) + 1;
   return percorso.left(inizio) + percorso.mid(inizio).toUpper();

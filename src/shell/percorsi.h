@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace torvi {
 
@@ -13,6 +14,9 @@ namespace torvi {
 [[nodiscard]] QString FileUscita(const QString& cartellaApplicazione, const QString& nome);    // dump/
 // Makes mdb/ and dump/ where they are missing. Error 75 names the folder that cannot be made.
 void PreparaCartelle(const QString& cartellaApplicazione);
+// Names of the files of a folder that match a pattern ("lexxdump*.*"), ignoring case, in
+// alphabetical order. A final ".*" matches a name without extension too.
+[[nodiscard]] QStringList ElencoFile(const QString& cartella, const QString& modello);
 // Only the file's name, never its folders.
 [[nodiscard]] QString NomeMaiuscolo(const QString& percorso);
 

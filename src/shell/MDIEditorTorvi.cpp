@@ -1,0 +1,99 @@
+#include "shell/MDIEditorTorvi.h"
+
+#include <QCloseEvent>
+
+#include "export/errori_consegna.h"
+#include "export/esporta_ascii.h"
+#include "shell/archivio_comandi.h"
+#include "shell/guardia.h"
+#include "ui_MDIEditorTorvi.h"
+
+namespace torvi {
+
+MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
+    : QMainWindow(padre),
+      ui_(std::make_unique<Ui::MDIEditorTorvi>()),
+      stato_(stato),
+      dialoghi_(*this) {
+  ui_->setupUi(this);
+  for (QAction* separatore : {ui_->mnuSep, ui_->mnuStampaSep1, ui_->mnuStampaSep2,
+                              ui_->mnuUtilitaSep1, ui_->mnuUtilitaSep2, ui_->mnuUtilitaSep3}) {
+    separatore->setSeparator(true);
+  }
+  Collega(ui_->mnuFileApri, &MDIEditorTorvi::mnuFileApri_Click);
+  Collega(ui_->mnuFileChiudi, &MDIEditorTorvi::mnuFileChiudi_Click);
+  Collega(ui_->mnuFileNuovo, &MDIEditorTorvi::mnuFileNuovo_Click);
+  Collega(ui_->mnuFileEsci, &MDIEditorTorvi::mnuFileEsci_Click);
+  Collega(ui_->mnuFormatoASCIIStorico, &MDIEditorTorvi::mnuFormatoASCIIStorico_Click);
+  Collega(ui_->mnuFormatoASCIIIsis, &MDIEditorTorvi::mnuFormatoASCIIIsis_Click);
+  Collega(ui_->mnuFormatoASCIICassazione, &MDIEditorTorvi::mnuFormatoASCIICassazione_Click);
+  Collega(ui_->mnuFileErroriGenerici, &MDIEditorTorvi::mnuFileErroriGenerici_Click);
+  Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
+  Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
+  ImpostaFase(FaseMenu::NessunArchivio);
+}
+
+MDIEditorTorvi::~MDIEditorTorvi() = default;
+
+// Every command runs under the guard.
+void MDIEditorTorvi::Collega(QAction* voce, Gestore gestore) {
+  connect(voce, &QAction::triggered, this,
+          [this, gestore] { Esegui(dialoghi_, [this, gestore] { (this->*gestore)(); }); });
+}
+
+void MDIEditorTorvi::ImpostaFase(FaseMenu fase) {
+  for (const StatoMenu& stato : StatiMenu()) {
+    const bool abilitato = stato.abilitato.at(static_cast<std::size_t>(fase));
+    const QString nome = QLatin1String(stato.controllo);
+    if (auto* menu = findChild<QMenu*>(nome)) menu->setEnabled(abilitato);
+    if (auto* voce = findChild<QAction*>(nome)) voce->setEnabled(abilitato);
+  }
+}
+
+void MDIEditorTorvi::closeEvent(QCloseEvent* evento) {
+  bool esce = false;
+  Esegui(dialoghi_, [&] { esce = ComandoEsci(stato_, dialoghi_); });
+  evento->setAccepted(esce);
+}
+
+void MDIEditorTorvi::mnuFileApri_Click() {
+  if (!ComandoApri(stato_, dialoghi_)) return;
+  setWindowTitle(TitoloArchivio(stato_.PathArchivio));
+  ImpostaFase(FaseMenu::ArchivioAperto);
+}
+
+// The caption keeps the name of the closed archive.
+void MDIEditorTorvi::mnuFileChiudi_Click() {
+  ComandoChiudi(stato_);
+  ImpostaFase(FaseMenu::NessunArchivio);
+}
+
+void MDIEditorTorvi::mnuFileNuovo_Click() {
+  if (ComandoNuovo(stato_, dialoghi_)) ImpostaFase(FaseMenu::DopoNuovo);
+}
+
+void MDIEditorTorvi::mnuFileEsci_Click() { close(); }
+
+void MDIEditorTorvi::mnuFormatoASCIIStorico_Click() {
+  EsportaAscii(stato_, dialoghi_, kEsportaStorico);
+}
+
+void MDIEditorTorvi::mnuFormatoASCIIIsis_Click() { EsportaAscii(stato_, dialoghi_, kEsportaIsis); }
+
+void MDIEditorTorvi::mnuFormatoASCIICassazione_Click() {
+  EsportaAscii(stato_, dialoghi_, kEsportaCassazione);
+}
+
+void MDIEditorTorvi::mnuFileErroriGenerici_Click() {
+  VisualizzaErrori(stato_, dialoghi_, kErroriGenerici);
+}
+
+void MDIEditorTorvi::mnuFileErroriClasse_Click() {
+  VisualizzaErrori(stato_, dialoghi_, kErroriClasse);
+}
+
+void MDIEditorTorvi::mnuFileErroriFonti_Click() {
+  VisualizzaErrori(stato_, dialoghi_, kErroriFonti);
+}
+
+}  // namespace torvi

@@ -1,0 +1,50 @@
+// The main window: it owns the menus and their states, and starts the commands.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "shell/finestra_dialoghi.h"
+#include "shell/stati_menu.h"
+#include "shell/stato_globale.h"
+
+namespace torvi {
+
+namespace Ui {
+class MDIEditorTorvi;
+}
+
+class MDIEditorTorvi : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MDIEditorTorvi(StatoGlobale& stato, QWidget* padre = nullptr);
+  ~MDIEditorTorvi() override;
+
+  void ImpostaFase(FaseMenu fase);
+  [[nodiscard]] Dialoghi& DialoghiDellaFinestra() { return dialoghi_; }
+
+ protected:
+  void closeEvent(QCloseEvent* evento) override;
+
+ private:
+  using Gestore = void (MDIEditorTorvi::*)();
+  void Collega(QAction* voce, Gestore gestore);
+
+  void mnuFileApri_Click();
+  void mnuFileChiudi_Click();
+  void mnuFileNuovo_Click();
+  void mnuFileEsci_Click();
+  void mnuFormatoASCIIStorico_Click();
+  void mnuFormatoASCIIIsis_Click();
+  void mnuFormatoASCIICassazione_Click();
+  void mnuFileErroriGenerici_Click();
+  void mnuFileErroriClasse_Click();
+  void mnuFileErroriFonti_Click();
+
+  std::unique_ptr<Ui::MDIEditorTorvi> ui_;
+  StatoGlobale& stato_;
+  DialoghiFinestra dialoghi_;
+};
+
+}  // namespace torvi

@@ -1,0 +1,124 @@
+#include "shell/finestra_dialoghi.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <array>
+
+#include "archive/errore.h"
+#include "export/frmWndErrori.h"
+#include "report/frmSceltaFileOut.h"
+#include "shell/finestra_scelta_file.h"
+#include "shell/frmInformazione.h"
+
+namespace torvi {
+namespace {
+
+struct Pulsante {
+  QMessageBox::StandardButton codice;
+  const char16_t* testo;
+  Risposta risposta;
+};
+
+constexpr Pulsante kOk = {QMessageBox::Ok, u"OK", Risposta::Ok};
+constexpr Pulsante kAnnulla = {QMessageBox::Cancel, u"Annulla", Risposta::Annulla};
+constexpr Pulsante kSi = {QMessageBox::Yes, u"&Sì", Risposta::Si};
+constexpr Pulsante kNo = {QMessageBox::No, u"&No", Risposta::No};
+
+struct Insieme {
+  Pulsanti quali;
+  QList<Pulsante> pulsanti;  // the first is the default, the last answers to Esc
+};
+
+const QList<Pulsante>& Voci(Pulsanti quali) {
+  static const std::array insiemi = {
+      Insieme{Pulsanti::Ok, {kOk}},
+      Insieme{Pulsanti::OkAnnulla, {kOk, kAnnulla}},
+      Insieme{Pulsanti::SiNo, {kSi, kNo}},
+      Insieme{Pulsanti::SiNoAnnulla, {kSi, kNo, kAnnulla}},
+  };
+  return insiemi.at(static_cast<std::size_t>(quali)).pulsanti;
+}
+
+QString Titolo(const QString& titolo) {
+  return titolo.isEmpty() ? QStringLiteral("TorviEditor") : titolo;
+}
+
+Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {
+  const QList<Pulsante>& voci = Voci(quali);
+  for (const Pulsante& voce : voci) {
+    riquadro.addButton(voce.codice)->setText(QString::fromUtf16(voce.testo));
+  }
+  riquadro.setDefaultButton(voci.first().codice);
+  riquadro.setEscapeButton(voci.last().codice);
+  const int scelto = riquadro.exec();
+  for (const Pulsante& voce : voci) {
+    if (voce.codice == scelto) return voce.risposta;
+  }
+  return voci.last().risposta;
+}
+
+}  // namespace
+
+DialoghiFinestra::DialoghiFinestra(QMainWindow& finestra)
+    : finestra_(finestra), attesa_(finestra) {}
+
+QWidget* DialoghiFinestra::Padre() const {
+  QWidget* modale = QApplication::activeModalWidget();
+  return modale != nullptr ? modale : &finestra_;
+}
+
+void DialoghiFinestra::Messaggio(const QString& testo, const QString& titolo, Icona icona) {
+  QMessageBox riquadro(
+      icona == Icona::Informazione ? QMessageBox::Information : QMessageBox::NoIcon, Titolo(titolo),
+      testo, QMessageBox::NoButton, Padre());
+  riquadro.setTextFormat(Qt::PlainText);
+  Chiedi(riquadro, Pulsanti::Ok);
+}
+
+Risposta DialoghiFinestra::Domanda(const QString& testo, const QString& titolo, Pulsanti pulsanti) {
+  QMessageBox riquadro(QMessageBox::Question, Titolo(titolo), testo, QMessageBox::NoButton,
+                       Padre());
+  riquadro.setTextFormat(Qt::PlainText);
+  return Chiedi(riquadro, pulsanti);
+}
+
+QString DialoghiFinestra::Immissione(const QString& testo, const QString& titolo) {
+  QInputDialog riquadro(Padre());
+  riquadro.setWindowTitle(Titolo(titolo));
+  riquadro.setLabelText(testo);
+  riquadro.setOkButtonText(QStringLiteral("OK"));
+  riquadro.setCancelButtonText(QStringLiteral("Annulla"));
+  riquadro.resize(420, riquadro.sizeHint().height());
+  return riquadro.exec() == QDialog::Accepted ? riquadro.textValue() : QString();
+}
+
+QString DialoghiFinestra::ScegliFile(const RichiestaFile& richiesta) {
+  SceltaFile scelta(*this, richiesta, Padre());
+  if (scelta.exec() != QDialog::Accepted) throw ErroreEsecuzione(Errore::OperazioneAnnullata);
+  return scelta.Scelto();
+}
+
+QString DialoghiFinestra::ChiediInformazione() {
+  frmInformazione forma(*this, QDate::currentDate().year(), Padre());
+  forma.exec();
+  return forma.InfoNuovoArchivio;
+}
+
+QString DialoghiFinestra::ScegliFileUscita(const QString& cartella, const QString& modello,
+                                           bool conNuovo) {
+  frmSceltaFileOut forma(*this, cartella, modello, conNuovo, Padre());
+  forma.exec();
+  return forma.FileBatch;
+}
+
+void DialoghiFinestra::MostraErrori(const QString& testo) { frmWndErrori(testo, Padre()).exec(); }
+
+void DialoghiFinestra::Attesa(bool attiva) { attesa_.Imposta(attiva); }
+
+void DialoghiFinestra::Avanzamento(const QString& cosa, int fatto, int totale) {
+  attesa_.Avanza(cosa, fatto, totale);
+}
+
+}  // namespace torvi

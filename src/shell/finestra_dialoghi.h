@@ -1,0 +1,35 @@
+// The dialogs of the desktop program: boxes, forms, and the main window's pointer and status bar.
+#pragma once
+
+#include <QMainWindow>
+
+#include "shell/dialoghi.h"
+#include "shell/finestra_attesa.h"
+
+namespace torvi {
+
+class DialoghiFinestra : public Dialoghi {
+ public:
+  explicit DialoghiFinestra(QMainWindow& finestra);
+
+  void Messaggio(const QString& testo, const QString& titolo, Icona icona) override;
+  [[nodiscard]] Risposta Domanda(const QString& testo, const QString& titolo,
+                                 Pulsanti pulsanti) override;
+  [[nodiscard]] QString Immissione(const QString& testo, const QString& titolo) override;
+  [[nodiscard]] QString ScegliFile(const RichiestaFile& richiesta) override;
+  [[nodiscard]] QString ChiediInformazione() override;
+  [[nodiscard]] QString ScegliFileUscita(const QString& cartella, const QString& modello,
+                                         bool conNuovo) override;
+  void MostraErrori(const QString& testo) override;
+  void Attesa(bool attiva) override;
+  void Avanzamento(const QString& cosa, int fatto, int totale) override;
+
+ private:
+  // Boxes stand over the form that is open.
+  [[nodiscard]] QWidget* Padre() const;
+
+  QMainWindow& finestra_;
+  AttesaFinestra attesa_;
+};
+
+}  // namespace torvi
