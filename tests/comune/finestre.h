@@ -1,0 +1,92 @@
+// Modal forms driven as an operator would: by keys and clicks on named controls.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+
+namespace torvi {
+
+using Passo = std::function<void(QWidget& modale)>;
+
+// Runs `azione`; each modal form that it opens, one inside the other too, is met by the next step.
+// A form without a step, or a step without its form, fails the test.
+class Operatore {
+ public:
+  static void Esegue(const std::function<void()>& azione, std::deque<Passo> passi) {
+    const auto copione = std::make_shared<Copione>(Copione{std::move(passi)});
+    Sorveglia(copione);
+    azione();
+    copione->finito = true;
+    EXPECT_EQ(copione->passi.size(), 0U) << "forms that never came";
+  }
+
+ private:
+  struct Copione {
+    std::deque<Passo> passi;
+    bool finito = false;
+  };
+
+  static void Sorveglia(const std::shared_ptr<Copione>& copione) {
+    QTimer::singleShot(0, qApp, [copione] {
+      if (copione->finito) return;
+      Sorveglia(copione);
+      QWidget* modale = QApplication::activeModalWidget();
+      if (modale == nullptr || !modale->isVisible()) return;
+      if (copione->passi.empty()) {
+        ADD_FAILURE() << "unexpected form: " << modale->windowTitle().toStdString();
+        modale->close();
+        return;
+      }
+      const Passo passo = copione->passi.front();
+      copione->passi.pop_front();
+      passo(*modale);
+    });
+  }
+};
+
+// A control by its name; its absence fails the test.
+template <typename Controllo>
+[[nodiscard]] Controllo& Trova(const QWidget& forma, const char* nome) {
+  auto* controllo = forma.findChild<Controllo*>(QLatin1String(nome));
+  if (controllo == nullptr) {
+    ADD_FAILURE() << "no control " << nome;
+    throw std::logic_error(nome);
+  }
+  return *controllo;
+}
+
+inline void Clic(const QWidget& forma, const char* pulsante) {
+  QTest::mouseClick(&Trova<QPushButton>(forma, pulsante), Qt::LeftButton);
+}
+
+// The words of a box, as "title|text|button|button", mnemonics left out, and then a key.
+inline QString Parole(const QWidget& modale) {
+  const auto* riquadro = qobject_cast<const QMessageBox*>(&modale);
+  if (riquadro == nullptr) return modale.windowTitle();
+  QStringList parole = {riquadro->windowTitle(), riquadro->text()};
+  for (const auto codice :
+       {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
+    if (auto* pulsante = riquadro->button(codice)) {
+      parole += pulsante->text().remove(QLatin1Char('&'));
+    }
+  }
+  return parole.join(QLatin1Char('|'));
+}
+
+// A step that checks the words of a box and answers with a key.
+inline Passo Riquadro(const QString& parole, Qt::Key tasto = Qt::Key_Return) {
+  return [parole, tasto](QWidget& modale) {
+    EXPECT_EQ(Parole(modale).toStdString(), parole.toStdString());
+    QTest::keyClick(&modale, tasto);
+  };
+}
+
+}  // namespace torvi

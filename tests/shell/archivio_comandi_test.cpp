@@ -1,0 +1,231 @@
+#include "shell/archivio_comandi.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "archive/schema.h"
+#include "comune/cartella_di_prova.h"
+#include "comune/dialoghi_scritti.h"
+#include "shell/apertura.h"
+
+namespace torvi {
+namespace {
+
+const QString kApri = QStringLiteral("Apri archivio");
+const QString kNuovo = QStringLiteral("Nuovo archivio");
+
+// A file dialog that fails with a given error instead of giving a file.
+class DialoghiGuasti : public DialoghiScritti {
+ public:
+  explicit DialoghiGuasti(Errore errore) : errore_(errore) {}
+  [[nodiscard]] QString ScegliFile(const RichiestaFile& /*richiesta*/) override {
+    throw ErroreEsecuzione::ConDescrizione(errore_, QStringLiteral("guasto del dialogo"));
+  }
+
+ private:
+  Errore errore_;
+};
+
+class ArchivioComandi : public testing::Test {
+ protected:
+  ArchivioComandi() { stato.CartellaApplicazione = cartella.Percorso(); }
+
+  void CreaMasterVuoto() const { CreaDatabase(cartella.Mdb("master.mdb"), SchemaArchivio()); }
+  [[nodiscard]] QStringList FileMdb() const {
+    return QDir(cartella.Percorso() + "/mdb").entryList(QDir::Files, QDir::Name);
+  }
+
+  const CartellaDiProva cartella;
+  StatoGlobale stato;
+};
+
+TEST_F(ArchivioComandi, OpensTheChosenFile) {
+  cartella.NuovaConsegna(QStringLiteral("A01.MDB"));
+  DialoghiScritti dialoghi;
+  dialoghi.AttendeFile(kApri, cartella.Mdb("A01.MDB"));
+  ASSERT_TRUE(ComandoApri(stato, dialoghi));
+  EXPECT_EQ(stato.PathArchivio, cartella.Mdb("A01.MDB"));
+  EXPECT_EQ(TitoloArchivio(stato.PathArchivio), "Torvi Editor (" + stato.PathArchivio + ")");
+  EXPECT_FALSE(stato.DbArchivio.OpenRecordset("TabInfo").Eof());
+  EXPECT_TRUE(dialoghi.Messaggi().isEmpty());
+  const RichiestaFile& richiesta = dialoghi.UltimaRichiesta();
+  EXPECT_EQ(richiesta.filtro, "Database file (*.mdb)|*.mdb");
+  EXPECT_EQ(richiesta.estensione, "mdb");
+  EXPECT_EQ(richiesta.cartella, cartella.Percorso() + "/mdb");
+  EXPECT_TRUE(richiesta.deveEsistere);
+  EXPECT_FALSE(richiesta.chiedeSeCreare);
+}
+
+TEST_F(ArchivioComandi, TrapsTheDialogByNumber) {
+  struct Caso {
+    Errore errore;
+    QStringList messaggi;
+  };
+  const QString guasto = QStringLiteral("guasto del dialogo");
+  for (const Caso& caso :
+       {Caso{Errore::OperazioneAnnullata, {guasto}}, Caso{Errore::OggettoNonTrovato, {guasto}},
+        Caso{Errore::DatabaseNonTrovato, {guasto}}, Caso{Errore::Overflow, {}},
+        Caso{Errore::SintassiErrata, {}}}) {
+    DialoghiGuasti dialoghi(caso.errore);
+    EXPECT_FALSE(ComandoApri(stato, dialoghi));
+    EXPECT_EQ(dialoghi.Messaggi(), caso.messaggi) << static_cast<int>(caso.errore);
+  }
+  // No current record: the next statement opens the path that stands.
+  cartella.NuovaConsegna(QStringLiteral("A01.MDB"));
+  stato.PathArchivio = cartella.Mdb("A01.MDB");
+  DialoghiGuasti dialoghi(Errore::NessunRecordCorrente);
+  EXPECT_TRUE(ComandoApri(stato, dialoghi));
+  EXPECT_EQ(dialoghi.Messaggi(), QStringList{guasto});
+  EXPECT_TRUE(stato.DbArchivio.Aperto());
+}
+
+TEST_F(ArchivioComandi, NamesAFileThatIsNoArchiveAndLeavesItAlone) {
+  stato.DbArchivio = cartella.NuovaConsegna(QStringLiteral("PRIMA.MDB"));
+  ScriviByte(cartella.Mdb("vuoto.mdb"), {});
+  ScriviByte(cartella.Mdb("testo.mdb"), "Questo non è un database, ma è lungo abbastanza.");
+  ScriviByte(cartella.Mdb("jet.mdb"),
+             QByteArray("\0\1\0\0Standard Jet DB\0\1", 21) + QByteArray(4096, '\x7f'));
+  const Tabella altra = {QStringLiteral("Altra"), {{QStringLiteral("x")}}, {}};
+  CreaDatabase(cartella.Mdb("altro.mdb"), std::span(&altra, 1));
+  for (const char* nome : {"vuoto.mdb", "testo.mdb", "jet.mdb", "altro.mdb", "assente.mdb"}) {
+    const QString percorso = cartella.Mdb(QLatin1String(nome));
+    const QByteArray prima = QFile::exists(percorso) ? Byte(percorso) : QByteArray();
+    DialoghiScritti dialoghi;
+    dialoghi.AttendeFile(kApri, percorso);
+    EXPECT_FALSE(ComandoApri(stato, dialoghi)) << nome;
+    EXPECT_EQ(dialoghi.Messaggi().size(), 1) << nome;
+    EXPECT_TRUE(dialoghi.UltimoMessaggio().contains(percorso))
+        << dialoghi.UltimoMessaggio().toStdString();
+    EXPECT_EQ(QFile::exists(percorso) ? Byte(percorso) : QByteArray(), prima) << nome;
+  }
+  EXPECT_EQ(stato.DbArchivio.Name(), cartella.Mdb("PRIMA.MDB"));
+  EXPECT_TRUE(stato.DbArchivio.Aperto());
+  EXPECT_EQ(FileMdb().size(), 5);
+}
+
+TEST_F(ArchivioComandi, ConvertsAGenuineArchiveInPlace) {
+  const QString genuino = FileGenuino(QStringLiteral("consegna.mdb"));
+  if (genuino.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
+  const QString percorso = cartella.Mdb("consegna.mdb");
+  ASSERT_TRUE(QFile::copy(genuino, percorso));
+  DialoghiScritti dialoghi;
+  dialoghi.AttendeFile(kApri, percorso);
+  ASSERT_TRUE(ComandoApri(stato, dialoghi));
+  EXPECT_EQ(dialoghi.Messaggi(),
+            QStringList{"Archivio convertito; l'originale è conservato come " + percorso + ".jet"});
+  EXPECT_EQ(Byte(percorso + ".jet"), Byte(genuino));
+  EXPECT_FALSE(stato.DbArchivio.OpenRecordset("TabDocumento").Eof());
+}
+
+TEST_F(ArchivioComandi, LeavesAGenuineFileThatIsNoArchiveAsItIs) {
+  const QString genuino = FileGenuino(QStringLiteral("catalogo norme.mdb"));
+  if (genuino.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
+  const QString percorso = cartella.Mdb("catalogo.mdb");
+  ASSERT_TRUE(QFile::copy(genuino, percorso));
+  DialoghiScritti dialoghi;
+  dialoghi.AttendeFile(kApri, percorso);
+  EXPECT_FALSE(ComandoApri(stato, dialoghi));
+  EXPECT_EQ(dialoghi.Messaggi().size(), 1);
+  EXPECT_EQ(Byte(percorso), Byte(genuino));
+  EXPECT_EQ(FileMdb(), QStringList{"catalogo.mdb"});
+}
+
+TEST_F(ArchivioComandi, MakesADeliveryFromTheMaster) {
+  CreaMasterVuoto();
+  const QByteArray master = Byte(cartella.Mdb("master.mdb"));
+  ScriviByte(cartella.Mdb("prova.mdb"), "a file of that name, in another case");
+  ScriviByte(cartella.Mdb("PROVA.MDB-journal"), "a journal that must not be played back");
+  DialoghiScritti dialoghi;
+  dialoghi.AttendeFile(kNuovo, cartella.Mdb("prova.mdb"));
+  dialoghi.AttendeInformazione(QStringLiteral("a01|35x|a|2001"));
+  ASSERT_TRUE(ComandoNuovo(stato, dialoghi));
+  EXPECT_TRUE(dialoghi.UltimaRichiesta().chiedeSeCreare);
+  EXPECT_FALSE(dialoghi.UltimaRichiesta().deveEsistere);
+  EXPECT_EQ(stato.PathArchivio, cartella.Mdb("prova.mdb"));
+  EXPECT_EQ(NumeroErrore([&] { stato.DbArchivio.Close(); }), 3420);
+  EXPECT_EQ(FileMdb(), (QStringList{"PROVA.MDB", "master.mdb"}));
+  EXPECT_EQ(Byte(cartella.Mdb("master.mdb")), master);
+
+  Recordset info = OpenDatabase(cartella.Mdb("PROVA.MDB")).OpenRecordset("TabInfo");
+  EXPECT_EQ(info.Fields("Consegna").Testo(), "A01");
+  EXPECT_EQ(info.Fields("NumInizio").Testo(), "35x");
+  EXPECT_EQ(info.Fields("IDCentroSpoglio").Testo(), "A");
+  EXPECT_EQ(info.Fields("AnnoProduzione").Testo(), "2001");
+  EXPECT_TRUE(info.Fields("Storico").Nullo());
+  info.MoveNext();
+  EXPECT_TRUE(info.Eof());
+}
+
+TEST_F(ArchivioComandi, StopsWhereTheOperatorStops) {
+  CreaMasterVuoto();
+  {
+    DialoghiScritti dialoghi;
+    dialoghi.AttendeFileAnnullato(kNuovo);
+    EXPECT_FALSE(ComandoNuovo(stato, dialoghi));
+    EXPECT_TRUE(dialoghi.Messaggi().isEmpty());
+  }
+  {
+    DialoghiScritti dialoghi;
+    dialoghi.AttendeFile(kNuovo, {});
+    EXPECT_FALSE(ComandoNuovo(stato, dialoghi));
+    EXPECT_EQ(dialoghi.Messaggi(), QStringList{"Nome archivio non valido"});
+  }
+  DialoghiScritti dialoghi;
+  dialoghi.AttendeFile(kNuovo, cartella.Mdb("x.mdb"));
+  dialoghi.AttendeInformazione({});
+  EXPECT_FALSE(ComandoNuovo(stato, dialoghi));
+  EXPECT_EQ(dialoghi.Messaggi(), QStringList{"Archivio nuovo non creato!"});
+  EXPECT_EQ(dialoghi.Parole().last().icona, Icona::Informazione);
+  EXPECT_EQ(FileMdb(), QStringList{"master.mdb"});
+}
+
+TEST_F(ArchivioComandi, ShowsWhyADeliveryCannotBeMade) {
+  const auto prova = [this](const QString& percorso, const QString& info) {
+    DialoghiScritti dialoghi;
+    dialoghi.AttendeFile(kNuovo, percorso);
+    dialoghi.AttendeInformazione(info);
+    EXPECT_FALSE(ComandoNuovo(stato, dialoghi));
+    return dialoghi.Messaggi().join(QLatin1Char('\n'));
+  };
+  const QString dati = QStringLiteral("A01|1|A|2001");
+  const QString master = cartella.Mdb("master.mdb");
+  EXPECT_EQ(prova(cartella.Mdb("x.mdb"), dati), "Impossibile trovare il file: " + master);
+
+  ScriviByte(master, "no archive at all");
+  ScriviByte(cartella.Mdb("X.MDB"), "stays");
+  EXPECT_TRUE(prova(cartella.Mdb("x.mdb"), dati).contains(master));
+  EXPECT_EQ(Byte(cartella.Mdb("X.MDB")), "stays");
+
+  QFile::remove(master);
+  CreaMasterVuoto();
+  EXPECT_EQ(prova(master, dati), "Autorizzazione negata: " + master);
+  EXPECT_EQ(prova(cartella.Percorso() + "/assente/x.mdb", dati),
+            "Impossibile trovare il percorso: " + cartella.Percorso() + "/assente");
+  EXPECT_EQ(FileMdb(), (QStringList{"X.MDB", "master.mdb"}));
+
+  // A failure after the copy leaves what was copied.
+  EXPECT_EQ(prova(cartella.Mdb("x.mdb"), QStringLiteral("A01|1|A")),
+            "Indice non incluso nell'intervallo.");
+  EXPECT_TRUE(OpenDatabase(cartella.Mdb("X.MDB")).OpenRecordset("TabInfo").Eof());
+}
+
+TEST_F(ArchivioComandi, EndsInEveryState) {
+  const QString domanda = QStringLiteral("Confermi l'uscita ?");
+  DialoghiScritti dialoghi;
+  for (const Risposta risposta : {Risposta::Annulla, Risposta::Ok, Risposta::Ok, Risposta::Ok}) {
+    dialoghi.AttendeDomanda(domanda, {}, Pulsanti::OkAnnulla, risposta);
+  }
+  StatoGlobale aperto = cartella.StatoConConsegna();
+  EXPECT_FALSE(ComandoEsci(aperto, dialoghi));
+  EXPECT_TRUE(aperto.DbArchivio.Aperto());
+  EXPECT_TRUE(ComandoEsci(aperto, dialoghi));
+  EXPECT_EQ(NumeroErrore([&] { ComandoChiudi(aperto); }), 3420);
+  EXPECT_TRUE(ComandoEsci(aperto, dialoghi));  // closed already
+  EXPECT_TRUE(ComandoEsci(stato, dialoghi));   // never opened
+  EXPECT_TRUE(dialoghi.Messaggi().isEmpty());
+}
+
+}  // namespace
+}  // namespace torvi
