@@ -1,0 +1,92 @@
+#include "report/frmSceltaFileOut.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QListWidget>
+
+#include "comune/cartella_di_prova.h"
+#include "comune/dialoghi_scritti.h"
+#include "comune/finestre.h"
+
+namespace torvi {
+namespace {
+
+class SceltaFileOut : public testing::Test {
+ protected:
+  SceltaFileOut() {
+    for (const char* nome : {"lexxdump isis.A01", "lexxdump storico.A01", "errori.A01"}) {
+      ScriviByte(cartella.Dump(QLatin1String(nome)), "x");
+    }
+    // The folder is asked for in another case than it has on disk.
+    forma = std::make_unique<frmSceltaFileOut>(dialoghi, cartella.Percorso() + "/Dump",
+                                               QStringLiteral("lexxdump*.*"), true);
+    forma->show();
+  }
+  [[nodiscard]] QListWidget& Lista() const { return Trova<QListWidget>(*forma, "fileListOut"); }
+
+  const CartellaDiProva cartella;
+  DialoghiScritti dialoghi;
+  std::unique_ptr<frmSceltaFileOut> forma;
+};
+
+TEST_F(SceltaFileOut, ShowsTheFilesThatMatch) {
+  EXPECT_EQ(forma->windowTitle(), "Scelta file di uscita");
+  EXPECT_EQ(Trova<QLabel>(*forma, "Label1").text(), "Scegli un file:");
+  EXPECT_EQ(Trova<QPushButton>(*forma, "cmdConferma").text(), "&Conferma");
+  EXPECT_EQ(Trova<QPushButton>(*forma, "cmdNuovo").text(), "&Nuovo file");
+  EXPECT_EQ(Trova<QPushButton>(*forma, "cmdAnnulla").text(), "&Annulla");
+  ASSERT_EQ(Lista().count(), 2);
+  EXPECT_EQ(Lista().item(0)->text(), "lexxdump isis.A01");
+  EXPECT_TRUE(Trova<QPushButton>(*forma, "cmdNuovo").isVisible());
+  const frmSceltaFileOut senzaNuovo(dialoghi, cartella.Percorso() + "/dump",
+                                    QStringLiteral("lexxdump*.*"), false);
+  EXPECT_TRUE(Trova<QPushButton>(senzaNuovo, "cmdNuovo").isHidden());
+}
+
+TEST_F(SceltaFileOut, WantsAFileBeforeItCloses) {
+  Clic(*forma, "cmdConferma");
+  EXPECT_TRUE(forma->isVisible());
+  EXPECT_EQ(dialoghi.Messaggi(),
+            QStringList{"Non è stato selezionato alcun file fra gli esistenti né il nome di uno "
+                        "nuovo!"});
+  QTest::mouseClick(Lista().viewport(), Qt::LeftButton, {},
+                    Lista().visualItemRect(Lista().item(1)).center());
+  Clic(*forma, "cmdConferma");
+  EXPECT_FALSE(forma->isVisible());
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump storico.A01"));
+}
+
+TEST_F(SceltaFileOut, FollowsTheKeyboard) {
+  Lista().setFocus();
+  QTest::keyClick(&Lista(), Qt::Key_Down);
+  QTest::keyClick(&Lista(), Qt::Key_Space);
+  QTest::keyClick(forma.get(), Qt::Key_Return);
+  EXPECT_FALSE(forma->isVisible());
+  EXPECT_EQ(forma->FileBatch, cartella.Dump(Lista().currentItem()->text()));
+}
+
+TEST_F(SceltaFileOut, JoinsFolderAndNewNameAsTheyStand) {
+  const QString testo = QStringLiteral("Inserisci nuovo nome file:");
+  const QString titolo = QStringLiteral("Nome file nuovo");
+  dialoghi.AttendeImmissione(testo, titolo, QStringLiteral("/lexxdump unico.B01"));
+  dialoghi.AttendeImmissione(testo, titolo, QStringLiteral("\\lexxdump unico.B02"));
+  dialoghi.AttendeImmissione(testo, titolo, QStringLiteral("unico"));
+  Clic(*forma, "cmdNuovo");
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump unico.B01"));
+  Clic(*forma, "cmdNuovo");
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump unico.B02"));
+  Clic(*forma, "cmdNuovo");
+  EXPECT_EQ(forma->FileBatch, cartella.Percorso() + "/dumpunico");
+  EXPECT_TRUE(forma->isVisible());
+}
+
+TEST_F(SceltaFileOut, CancelLeavesTheChoiceAsItIs) {
+  Lista().setCurrentRow(0);
+  Clic(*forma, "cmdAnnulla");
+  EXPECT_FALSE(forma->isVisible());
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump isis.A01"));
+}
+
+}  // namespace
+}  // namespace torvi

@@ -1,0 +1,303 @@
+#include "shell/MDIEditorTorvi.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QStatusBar>
+
+#include "archive/schema.h"
+#include "comune/cartella_di_prova.h"
+#include "comune/finestre.h"
+#include "shell/avvio.h"
+
+namespace torvi {
+namespace {
+
+// The tree as the operator sees it: control, caption and, for a separator, a dash.
+void Descrivi(const QMenu& menu, const QString& rientro, QStringList& righe) {
+  righe += rientro + menu.objectName() + " " + menu.title();
+  for (const QAction* voce : menu.actions()) {
+    if (voce->menu() != nullptr) {
+      Descrivi(*voce->menu(), rientro + " ", righe);
+    } else {
+      righe += rientro + " " + voce->objectName() + " " +
+               (voce->isSeparator() ? QStringLiteral("-") : voce->text());
+    }
+  }
+}
+
+constexpr const char* kAlbero = R"(mnuFile &File
+ mnuFileApri &Apri database
+ mnuFileChiudi &Chiudi database
+ mnuFileNuovo &Nuovo database
+ mnuSep -
+ mnuFileEsci &Esci
+mnuAggiornamento &Aggiornamento
+ mnuAggiornamentoNuovo &Nuovo documento
+ mnuAggiornamentoEdita &Edita documento
+ mnuAggiornamentoCancella &Cancella documento
+ mnuAggiornamentoRicerca &Ricerca documento
+ mnuInterrogaCatalogo &Catalogo norme
+mnuStampa &Stampa
+ mnuStampaCompleta Stampa &completa
+ mnuStampaSoloTesti Stampa campi &testo
+ mnuStampaSep1 -
+ mnuStampaProspetto Stampa &prospetto
+ mnuStampaConsistenza Stampa c&onsistenza
+ mnuStampaSep2 -
+ mnuUtilitaHTML Stampa &HTML per controllo CELEX
+ mnuUtilitaHTML_HUDOC Stampa HT&ML per controllo HUDOC
+mnuFinestra Fi&nestra
+ mnuFinestraCascata In &cascata
+ mnuFinestraOrizzontale Affianca &orizzontalmente
+ mnuFinestraVerticale Affianca &verticalmente
+mnuEsporta &Esporta
+ mnuEsportaDBT &Formato ASCII ...
+  mnuFormatoASCIIStorico &Storico
+  mnuFormatoASCIIIsis &Isis
+  mnuFormatoASCIICassazione &Cassazione
+ mnuFileNotaDocumenti File &Nota (documenti)
+ mnuFileNuovi File  N&uovi
+ mnuFileErrori File &Errori ...
+  mnuFileErroriGenerici &Generici (errori.xxx)
+  mnuFileErroriClasse &Classificazione (errclasse.xxx)
+  mnuFileErroriFonti &Fonti (errfonti.xxx)
+mnuUtilita &Utilità
+ mnuUtilitaClassificazione &Classificazione ...
+  mnuCaricaTabLegami Carica tabella &legami
+  mnuCaricaTabDescrittori Carica tabella &descrittori
+  mnuCaricaTabDescrittoriAsteriscati Carica tabella descrittori &asteriscati
+  mnuCaricaTabSistematici Carica tabella &sistematici
+ mnuUtilitaSep1 -
+ mnuUtilitaCatalogo Catalogo &norme ...
+  mnuCatalogoNorme Carica tabella &norme
+ mnuUtilitaSep2 -
+ mnuUtilitaAggiornamento &Aggiornamento
+  mnuUtilitaAggiornamentoEsportazione &Esportazione
+   mnuUtilitaAggiornamentoStorico &Storico
+   mnuUtilitaAggiornamentoISIS &ISIS
+   mnuUtilitaAggiornamentoCassazione &Cassazione
+  mnuUtilitaAggiornamentoNote &Note
+  mnuUtilitaAggiornamentoFileNuovi File n&uovi
+  mnuUtilitaAggiornamentoCelex &HTML per Celex
+  mnuUtilitaAggiornamentoHUDOC HTM&L per HUDOC
+  mnuUtilitaAggiornamentoConteggioDocumenti Conte&ggio documenti
+  mnuUtilitaAggiornamentoModificaLista &Modifica lista consegne
+ mnuUtilitaSep3 -
+ mnuUtilitaControllo Controllo)";
+
+// Which of the entries with a state can be used, one sign each: a letter or a dash.
+QString Abilitati(const QWidget& finestra) {
+  static constexpr std::pair<const char*, char> kVoci[] = {
+      {"mnuFileApri", 'A'},      {"mnuFileNuovo", 'N'}, {"mnuFileChiudi", 'C'},
+      {"mnuAggiornamento", 'G'}, {"mnuFinestra", 'F'},  {"mnuStampa", 'S'},
+      {"mnuEsporta", 'E'},       {"mnuUtilita", 'U'}};
+  QString segni;
+  for (const auto& [nome, segno] : kVoci) {
+    const auto* menu = finestra.findChild<QMenu*>(QLatin1String(nome));
+    const auto* voce = finestra.findChild<QAction*>(QLatin1String(nome));
+    const bool abilitato =
+        menu != nullptr ? menu->menuAction()->isEnabled() : voce != nullptr && voce->isEnabled();
+    segni += abilitato ? QLatin1Char(segno) : QLatin1Char('-');
+  }
+  return segni;
+}
+
+const QString kEsci = QStringLiteral("TorviEditor|Confermi l'uscita ?|OK|Annulla");
+
+class Finestra : public testing::Test {
+ protected:
+  Finestra() {
+    PreparaStato(stato, cartella.Percorso());
+    finestra = std::make_unique<MDIEditorTorvi>(stato);
+    finestra->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
+  }
+
+  void Scegli(const char* voce, std::deque<Passo> passi = {}) const {
+    Operatore::Esegue([&] { Trova<QAction>(*finestra, voce).trigger(); }, std::move(passi));
+  }
+  [[nodiscard]] static Passo ScriveFile(const QString& nome) {
+    return [nome](QWidget& modale) {
+      auto& campo = Trova<QLineEdit>(modale, "fileNameEdit");
+      campo.selectAll();
+      QTest::keyClicks(&campo, nome);
+      QTest::keyClick(&campo, Qt::Key_Return);
+    };
+  }
+
+  const CartellaDiProva cartella;
+  StatoGlobale stato;
+  std::unique_ptr<MDIEditorTorvi> finestra;
+};
+
+TEST_F(Finestra, ShowsTheWholeMenuTree) {
+  EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
+  QStringList righe;
+  for (const QAction* voce : finestra->menuBar()->actions()) Descrivi(*voce->menu(), {}, righe);
+  EXPECT_EQ(righe.join('\n').toStdString(), kAlbero);
+}
+
+TEST_F(Finestra, SetsTheStateOfTheProgramAtStart) {
+  EXPECT_EQ(stato.PasswordRiservata, "$kavo$");
+  EXPECT_EQ(Abilitati(*finestra), "AN-----U");
+  EXPECT_TRUE(Trova<QAction>(*finestra, "mnuInterrogaCatalogo").isEnabled());
+  Scegli("mnuInterrogaCatalogo");
+  EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
+}
+
+TEST_F(Finestra, FollowsTheArchiveWithItsMenus) {
+  cartella.NuovaConsegna(QStringLiteral("A01.MDB"));
+  Scegli("mnuFileApri", {ScriveFile(QStringLiteral("a01"))});
+  const QString titolo = "Torvi Editor (" + cartella.Mdb("A01.MDB") + ")";
+  EXPECT_EQ(finestra->windowTitle(), titolo);
+  EXPECT_EQ(Abilitati(*finestra), "--CGFSEU");
+  finestra->ImpostaFase(FaseMenu::DocumentoAperto);
+  EXPECT_EQ(Abilitati(*finestra), "--C-F---");
+  Scegli("mnuFileChiudi");
+  EXPECT_EQ(finestra->windowTitle(), titolo);
+  EXPECT_EQ(Abilitati(*finestra), "AN-----U");
+  EXPECT_FALSE(stato.DbArchivio.Aperto());
+}
+
+TEST_F(Finestra, CancelledOpeningIsToldAndChangesNothing) {
+  Scegli("mnuFileApri", {[](QWidget& modale) { QTest::keyClick(&modale, Qt::Key_Escape); },
+                         Riquadro(QStringLiteral("TorviEditor|È stato scelto Annulla.|OK"))});
+  EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
+  EXPECT_EQ(Abilitati(*finestra), "AN-----U");
+}
+
+TEST_F(Finestra, CanBeDrivenByKeysAlone) {
+  Operatore::Esegue(
+      [&] {
+        QTest::keyClick(finestra.get(), Qt::Key_F, Qt::AltModifier);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_E);
+      },
+      {Riquadro(kEsci, Qt::Key_Escape)});
+}
+
+TEST_F(Finestra, MakesADeliveryAndLeavesItClosed) {
+  CreaDatabase(cartella.Mdb("master.mdb"), SchemaArchivio());
+  const auto compila = [](QWidget& modale) {
+    EXPECT_EQ(modale.windowTitle(), "Informazione consegna");
+    for (const auto& [tasti, avanti] :
+         {std::pair{"j", true}, {"2", true}, {"b01", true}, {"7", false}}) {
+      QTest::keyClicks(QApplication::focusWidget(), QLatin1String(tasti));
+      if (avanti) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  };
+  Scegli("mnuFileNuovo", {ScriveFile(QStringLiteral("b01")),
+                          Riquadro("Nuovo archivio|" + cartella.Mdb("b01.mdb") +
+                                   "\nIl file non esiste. Crearlo?|Sì|No"),
+                          compila});
+  EXPECT_EQ(Abilitati(*finestra), "A------U");
+  EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
+  const Recordset info = OpenDatabase(cartella.Mdb("B01.MDB")).OpenRecordset("TabInfo");
+  EXPECT_EQ(info.Fields("Consegna").Testo(), "B01");
+  EXPECT_EQ(info.Fields("IDCentroSpoglio").Testo(), "J");
+  EXPECT_EQ(info.Fields("NumInizio").Testo(), "7");
+}
+
+TEST_F(Finestra, AsksBeforeItEnds) {
+  finestra->setAttribute(Qt::WA_DeleteOnClose, false);
+  Scegli("mnuFileEsci", {Riquadro(kEsci, Qt::Key_Escape)});
+  EXPECT_TRUE(finestra->isVisible());
+  // The close box asks the same.
+  Operatore::Esegue([&] { finestra->close(); }, {Riquadro(kEsci, Qt::Key_Escape)});
+  EXPECT_TRUE(finestra->isVisible());
+  Scegli("mnuFileEsci", {Riquadro(kEsci, Qt::Key_Return)});
+  EXPECT_FALSE(finestra->isVisible());
+}
+
+TEST_F(Finestra, ShowsWhatNoTrapTakesAndGoesOn) {
+  stato = cartella.StatoConConsegna();
+  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  stato.DbArchivio.Execute(QStringLiteral("delete * from TabInfo"));
+  Scegli("mnuFormatoASCIIIsis",
+         {Riquadro("TorviEditor|Errore di run-time '3021': Nessun record corrente: TabInfo è vuota "
+                   "in " +
+                   stato.DbArchivio.Name() + "|OK")});
+  EXPECT_TRUE(stato.DbArchivio.Aperto());
+  EXPECT_EQ(Abilitati(*finestra), "--CGFSEU");
+  EXPECT_EQ(finestra->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Finestra, ExportsFromTheMenu) {
+  struct Caso {
+    const char* voce;
+    const char* file;
+  };
+  stato = cartella.StatoConConsegna();
+  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  for (const Caso& caso : {Caso{"mnuFormatoASCIIIsis", "lexxdump isis.A01"},
+                           Caso{"mnuFormatoASCIICassazione", "lexxdump cassazione.A01"},
+                           Caso{"mnuFormatoASCIIStorico", "lexxdump storico.A01"}}) {
+    Scegli(caso.voce,
+           {Riquadro(QStringLiteral("Esportazione per ISIS|Controllo presenza fonti?|Sì|No"),
+                     Qt::Key_N),
+            Riquadro(QStringLiteral("Esportazione|Accodare risultato dell'esportazione?|Sì|No"),
+                     Qt::Key_Escape),
+            Riquadro(QStringLiteral(
+                "TorviEditor|Errore di run-time '3021': Nessun record corrente.|OK"))});
+    EXPECT_TRUE(QFile::exists(cartella.Dump(QLatin1String(caso.file)))) << caso.file;
+  }
+}
+
+TEST_F(Finestra, ShowsEachErrorFile) {
+  struct Caso {
+    const char* voce;
+    const char* file;
+    const char* testo;
+  };
+  stato = cartella.StatoConConsegna();
+  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  for (const Caso& caso :
+       {Caso{"mnuFileErroriGenerici", "errori.A01", "Errori generici\n\nx\n\n"},
+        Caso{"mnuFileErroriClasse", "errClasse.A01", "Errori di classificazione\n\nx\n\n"},
+        Caso{"mnuFileErroriFonti", "errFonte.A01", "Errori nelle fonti\n\nx\n\n"}}) {
+    ScriviByte(cartella.Dump(QLatin1String(caso.file)), "x\r\n\r\n");
+    Scegli(caso.voce, {[&caso](QWidget& modale) {
+             EXPECT_EQ(modale.windowTitle(), "Visualizzazione errori");
+             EXPECT_EQ(Trova<QPlainTextEdit>(modale, "txtErrori").toPlainText(), caso.testo);
+             EXPECT_TRUE(Trova<QPlainTextEdit>(modale, "txtErrori").isReadOnly());
+             EXPECT_EQ(Trova<QPushButton>(modale, "cmdChiudi").text(), "Chiudi");
+             Clic(modale, "cmdChiudi");
+           }});
+  }
+}
+
+TEST_F(Finestra, LetsNothingStartDuringALongRun) {
+  Dialoghi& dialoghi = finestra->DialoghiDellaFinestra();
+  const QAction& esci = Trova<QAction>(*finestra, "mnuFileEsci");
+  int scelte = 0;
+  QObject::connect(&esci, &QAction::triggered, [&scelte] { ++scelte; });
+  {
+    const Clessidra clessidra(dialoghi);
+    EXPECT_EQ(finestra->cursor().shape(), Qt::WaitCursor);
+    dialoghi.Avanzamento(QStringLiteral("Esportazione"), 3, 10);
+    const auto& barra = Trova<QProgressBar>(*finestra, "barraAvanzamento");
+    EXPECT_TRUE(barra.isVisible());
+    EXPECT_EQ(barra.value(), 3);
+    EXPECT_EQ(finestra->statusBar()->currentMessage(), "Esportazione");
+    QTest::keyClick(finestra.get(), Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    finestra->close();
+    EXPECT_TRUE(finestra->isVisible());
+    // What the run itself asks can be answered.
+    Operatore::Esegue([&] { dialoghi.Messaggio(QStringLiteral("Fatto")); },
+                      {Riquadro(QStringLiteral("TorviEditor|Fatto|OK"))});
+    EXPECT_FALSE(Trova<QProgressBar>(*finestra, "barraAvanzamento").isHidden());
+  }
+  EXPECT_EQ(scelte, 0);
+  EXPECT_TRUE(Trova<QProgressBar>(*finestra, "barraAvanzamento").isHidden());
+  EXPECT_EQ(finestra->cursor().shape(), Qt::ArrowCursor);
+  Operatore::Esegue([&] { finestra->close(); }, {Riquadro(kEsci)});
+  EXPECT_FALSE(finestra->isVisible());
+}
+
+}  // namespace
+}  // namespace torvi
