@@ -1,6 +1,8 @@
 #include "shell/finestra_scelta_file.h"
 
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include "shell/percorsi.h"
 
@@ -32,6 +34,20 @@ SceltaFile::SceltaFile(Dialoghi& dialoghi, const RichiestaFile& richiesta, QWidg
   setLabelText(QFileDialog::FileType, QStringLiteral("Tipo file:"));
   setLabelText(QFileDialog::Accept, QStringLiteral("&Apri"));
   setLabelText(QFileDialog::Reject, QStringLiteral("Annulla"));
+  MostraColonne();
+}
+
+// Names and dates whole; the kind of file is the same for all.
+void SceltaFile::MostraColonne() {
+  enum Colonna { Nome, Dimensione, Tipo, Data };
+  auto* vista = findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (vista == nullptr) return;
+  vista->setColumnHidden(Tipo, true);
+  vista->header()->setSectionResizeMode(Nome, QHeaderView::Stretch);
+  for (const Colonna colonna : {Dimensione, Data}) {
+    vista->header()->setSectionResizeMode(colonna, QHeaderView::ResizeToContents);
+  }
+  resize(760, 460);
 }
 
 void SceltaFile::accept() {

@@ -20,6 +20,7 @@ class SceltaFile : public QFileDialog {
   void accept() override;
 
  private:
+  void MostraColonne();
   [[nodiscard]] bool Accettabile(const QString& percorso);
 
   Dialoghi& dialoghi_;
