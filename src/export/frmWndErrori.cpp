@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 
+#include "shell/finestra_misure.h"
 #include "ui_frmWndErrori.h"
 
 namespace torvi {
@@ -11,6 +12,7 @@ frmWndErrori::frmWndErrori(const QString& testoErrori, QWidget* padre)
   ui_->setupUi(this);
   ui_->txtErrori->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   ui_->txtErrori->setPlainText(testoErrori);
+  AdattaAlloSchermo(*this);
   connect(ui_->cmdChiudi, &QPushButton::clicked, this, &frmWndErrori::cmdChiudi_Click);
 }
 

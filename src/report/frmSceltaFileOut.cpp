@@ -1,5 +1,6 @@
 #include "report/frmSceltaFileOut.h"
 
+#include "shell/finestra_misure.h"
 #include "shell/percorsi.h"
 #include "ui_frmSceltaFileOut.h"
 
@@ -14,6 +15,7 @@ frmSceltaFileOut::frmSceltaFileOut(Dialoghi& dialoghi, const QString& cartella,
   ui_->setupUi(this);
   ui_->fileListOut->addItems(ElencoFile(cartella_, modello));
   ui_->cmdNuovo->setVisible(conNuovo);
+  AdattaAlloSchermo(*this);
   connect(ui_->fileListOut, &QListWidget::itemSelectionChanged, this,
           &frmSceltaFileOut::fileListOut_Click);
   connect(ui_->cmdConferma, &QPushButton::clicked, this, &frmSceltaFileOut::cmdConferma_Click);

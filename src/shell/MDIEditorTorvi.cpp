@@ -5,6 +5,7 @@
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
 #include "shell/archivio_comandi.h"
+#include "shell/finestra_misure.h"
 #include "shell/guardia.h"
 #include "ui_MDIEditorTorvi.h"
 
@@ -30,6 +31,7 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFileErroriGenerici, &MDIEditorTorvi::mnuFileErroriGenerici_Click);
   Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
   Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
+  AdattaAlloSchermo(*this);
   ImpostaFase(FaseMenu::NessunArchivio);
 }
 

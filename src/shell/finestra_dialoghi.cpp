@@ -9,6 +9,7 @@
 #include "archive/errore.h"
 #include "export/frmWndErrori.h"
 #include "report/frmSceltaFileOut.h"
+#include "shell/finestra_misure.h"
 #include "shell/finestra_scelta_file.h"
 #include "shell/frmInformazione.h"
 
@@ -52,6 +53,7 @@ Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {
   }
   riquadro.setDefaultButton(voci.first().codice);
   riquadro.setEscapeButton(voci.last().codice);
+  AllargaPerIlTitolo(riquadro);
   const int scelto = riquadro.exec();
   for (const Pulsante& voce : voci) {
     if (voce.codice == scelto) return voce.risposta;

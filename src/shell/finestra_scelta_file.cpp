@@ -2,8 +2,10 @@
 
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QSplitter>
 #include <QTreeView>
 
+#include "shell/finestra_misure.h"
 #include "shell/percorsi.h"
 
 namespace torvi {
@@ -34,11 +36,11 @@ SceltaFile::SceltaFile(Dialoghi& dialoghi, const RichiestaFile& richiesta, QWidg
   setLabelText(QFileDialog::FileType, QStringLiteral("Tipo file:"));
   setLabelText(QFileDialog::Accept, QStringLiteral("&Apri"));
   setLabelText(QFileDialog::Reject, QStringLiteral("Annulla"));
-  MostraColonne();
+  Disponi();
 }
 
 // Names and dates whole; the kind of file is the same for all.
-void SceltaFile::MostraColonne() {
+void SceltaFile::Disponi() {
   enum Colonna { Nome, Dimensione, Tipo, Data };
   auto* vista = findChild<QTreeView*>(QStringLiteral("treeView"));
   if (vista == nullptr) return;
@@ -47,7 +49,11 @@ void SceltaFile::MostraColonne() {
   for (const Colonna colonna : {Dimensione, Data}) {
     vista->header()->setSectionResizeMode(colonna, QHeaderView::ResizeToContents);
   }
-  resize(760, 460);
+  if (auto* divisione = findChild<QSplitter*>(QStringLiteral("splitter"))) {
+    divisione->setSizes({150, 600});
+  }
+  resize(780, 460);
+  AdattaAlloSchermo(*this);
 }
 
 void SceltaFile::accept() {

@@ -20,7 +20,7 @@ class SceltaFile : public QFileDialog {
   void accept() override;
 
  private:
-  void MostraColonne();
+  void Disponi();
   [[nodiscard]] bool Accettabile(const QString& percorso);
 
   Dialoghi& dialoghi_;

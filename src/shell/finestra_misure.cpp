@@ -1,0 +1,24 @@
+#include "shell/finestra_misure.h"
+
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QScreen>
+
+namespace torvi {
+
+void AdattaAlloSchermo(QWidget& finestra) {
+  constexpr QSize kCornice(24, 64);  // frame and caption bar, which the window does not know
+  finestra.resize(finestra.size().boundedTo(finestra.screen()->availableSize() - kCornice));
+}
+
+void AllargaPerIlTitolo(QMessageBox& riquadro) {
+  constexpr int kPulsantiDelTitolo = 160;
+  auto* griglia = qobject_cast<QGridLayout*>(riquadro.layout());
+  if (griglia == nullptr) return;
+  const int larghezza =
+      riquadro.fontMetrics().horizontalAdvance(riquadro.windowTitle()) + kPulsantiDelTitolo;
+  griglia->addItem(new QSpacerItem(larghezza, 0), griglia->rowCount(), 0, 1,
+                   griglia->columnCount());
+}
+
+}  // namespace torvi
