@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 #include "archive/traduttore.h"
 
@@ -59,39 +60,19 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
 
 }  // namespace
 
-int Posizione(const std::vector<std::string>& nomi, std::string_view nome) {
-  for (std::size_t i = 0; i < nomi.size(); ++i) {
-    if (Uguali(nomi[i], nome)) return static_cast<int>(i);
+int NomiColonne::Posizione(std::string_view nome) const {
+  const auto posto = (std::bit_cast<std::uintptr_t>(nome.data()) >> 1) % ricordate_.size();
+  // The memory is only a hint: at the same address there may be another text by now.
+  const auto ricordata = static_cast<std::size_t>(ricordate_[posto]);
+  if (ricordata < nomi_.size() && Uguali(nomi_[ricordata], nome)) {
+    return static_cast<int>(ricordata);
+  }
+  for (std::size_t i = 0; i < nomi_.size(); ++i) {
+    if (!Uguali(nomi_[i], nome)) continue;
+    ricordate_[posto] = static_cast<qint16>(i);
+    return static_cast<int>(i);
   }
   return -1;
-}
-
-Campo Leggi(const SQLite::Statement& istruzione, int colonna) {
-  const SQLite::Column valore = istruzione.getColumn(colonna);
-  switch (valore.getType()) {
-    case SQLITE_INTEGER:
-      return Campo(static_cast<qint64>(valore.getInt64()));
-    case SQLITE_FLOAT:
-      return Campo(valore.getDouble());
-    case SQLITE_NULL:
-      return {};
-    default: {
-      const char* byte = valore.getText();
-      return Campo(QString::fromUtf8(byte, valore.getBytes()));
-    }
-  }
-}
-
-void Lega(SQLite::Statement& istruzione, int posizione, const Campo& valore) {
-  if (const auto* intero = std::get_if<qint64>(&valore.Grezzo())) {
-    istruzione.bind(posizione, static_cast<int64_t>(*intero));
-  } else if (const auto* reale = std::get_if<double>(&valore.Grezzo())) {
-    istruzione.bind(posizione, *reale);
-  } else if (const auto* testo = std::get_if<QString>(&valore.Grezzo())) {
-    istruzione.bind(posizione, testo->toStdString());
-  } else {
-    istruzione.bind(posizione);
-  }
 }
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
@@ -129,8 +110,7 @@ void Connessione::Prestito::Restituisci() noexcept {
   std::erase(di_->prestate_, preparata_.get());
   // Without its statement it comes from a connection that was closed meanwhile.
   if (preparata_->motore != nullptr) {
-    preparata_->motore->tryReset();
-    preparata_->motore->clearBindings();
+    preparata_->motore->Azzera();
     --scaffale_->prestate;
     scaffale_->libere.push_back(std::move(preparata_));
   }
@@ -149,7 +129,7 @@ Connessione::Prestito Connessione::Presta(Scaffale& scaffale, std::unique_ptr<Pr
 std::unique_ptr<Preparata> Connessione::Nuova(const std::string& sql, const QString& dettaglio) {
   auto nuova = std::make_unique<Preparata>();
   try {
-    nuova->motore = std::make_unique<SQLite::Statement>(*motore_, sql);
+    nuova->motore = std::make_unique<IstruzioneMotore>(*motore_, sql);
   } catch (const SQLite::Exception& guasto) {
     throw DaMotore(guasto, dettaglio);
   }
@@ -166,11 +146,13 @@ Connessione::Prestito Connessione::Prepara(const QString& istruzione) {
   const Traduzione traduzione = Traduci(istruzione);
   auto nuova = Nuova(traduzione.sql.toStdString(), istruzione);
   nuova->tabella = traduzione.tabella;
-  for (int i = nuova->Spostamento(); i < nuova->motore->getColumnCount(); ++i) {
-    std::string_view nome = nuova->motore->getColumnName(i);
+  auto colonne = std::make_shared<NomiColonne>();
+  for (int i = nuova->Spostamento(); i < nuova->motore->NumeroColonne(); ++i) {
+    std::string_view nome = nuova->motore->NomeColonna(i);
     if (nome.starts_with(kPrefissoAlias)) nome.remove_prefix(1);
-    nuova->colonne.emplace_back(nome);
+    colonne->Aggiungi(nome);
   }
+  nuova->colonne = std::move(colonne);
   return Presta(scaffale, std::move(nuova));
 }
 
@@ -184,7 +166,7 @@ void Connessione::LegaTutti(const Prestito& prestito, const QList<Campo>& parame
   RichiediAperta();
   try {
     for (qsizetype i = 0; i < parametri.size(); ++i) {
-      Lega(*prestito->motore, static_cast<int>(i) + 1, parametri.at(i));
+      prestito->motore->Lega(static_cast<int>(i) + 1, parametri.at(i));
     }
   } catch (const SQLite::Exception& guasto) {
     throw DaMotore(guasto, percorso_);
@@ -194,7 +176,7 @@ void Connessione::LegaTutti(const Prestito& prestito, const QList<Campo>& parame
 bool Connessione::Passo(const Prestito& prestito) const {
   RichiediAperta();
   try {
-    return prestito->motore->executeStep();
+    return prestito->motore->Passo();
   } catch (const SQLite::Exception& guasto) {
     throw DaMotore(guasto, percorso_);
   }
@@ -212,7 +194,7 @@ QStringList Connessione::Tabelle() {
   const Prestito elenco = PreparaMotore(
       "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' "
       "ESCAPE '\\' ORDER BY rowid");
-  while (Passo(elenco)) nomi += Leggi(*elenco->motore, 0).Testo();
+  while (Passo(elenco)) nomi += elenco->motore->Leggi(0).Testo();
   return nomi;
 }
 
@@ -233,12 +215,13 @@ InfoTabella Connessione::LeggiTabella(const QString& nome) {
       "WHERE m.type = 'table' AND m.name = ? COLLATE NOCASE ORDER BY c.cid");
   LegaTutti(tabella, {nome});
   while (Passo(tabella)) {
-    info.nome = Leggi(*tabella->motore, 0).Testo();
-    info.colonne.push_back(Leggi(*tabella->motore, 1).Testo().toStdString());
-    const QString tipo = Leggi(*tabella->motore, 2).Testo().toUpper();
+    info.nome = tabella->motore->Leggi(0).Testo();
+    const std::string colonna = tabella->motore->Leggi(1).Testo().toStdString();
+    info.colonne.Aggiungi(colonna);
+    const QString tipo = tabella->motore->Leggi(2).Testo().toUpper();
     info.numeriche.push_back(tipo == QLatin1String("INTEGER") || tipo == QLatin1String("BOOLEAN") ||
                              tipo == QLatin1String("REAL"));
-    if (Leggi(*tabella->motore, 3).Logico()) info.numeroRiga = info.colonne.back();
+    if (tabella->motore->Leggi(3).Logico()) info.numeroRiga = colonna;
   }
   if (info.nome.isEmpty()) throw ErroreEsecuzione(Errore::TabellaNonTrovata, nome);
   if (!info.numeroRiga.empty()) info.indici.emplace("primarykey", info.numeroRiga);
@@ -248,8 +231,8 @@ InfoTabella Connessione::LeggiTabella(const QString& nome) {
       "JOIN pragma_index_info(m.name) c WHERE m.type = 'index' AND c.seqno = 0 AND m.tbl_name = ?");
   LegaTutti(indici, {info.nome});
   while (Passo(indici)) {
-    info.indici.insert_or_assign(InMinuscolo(Leggi(*indici->motore, 0).Testo().toStdString()),
-                                 Leggi(*indici->motore, 1).Testo().toStdString());
+    info.indici.insert_or_assign(InMinuscolo(indici->motore->Leggi(0).Testo().toStdString()),
+                                 indici->motore->Leggi(1).Testo().toStdString());
   }
   return info;
 }

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QString>
+#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,27 +15,39 @@
 
 #include "archive/campo.h"
 #include "archive/errore.h"
+#include "archive/istruzione_motore.h"
 
 namespace torvi {
 
+// The names of a statement's columns. A name is sought again and again by the same literal of the
+// program: its address leads straight to the column where it was found the time before.
+class NomiColonne {
+ public:
+  void Aggiungi(std::string_view nome) { nomi_.emplace_back(nome); }
+  // Without regard to case; -1 where there is none.
+  [[nodiscard]] int Posizione(std::string_view nome) const;
+  [[nodiscard]] std::size_t Quante() const { return nomi_.size(); }
+  [[nodiscard]] const std::string& operator[](std::size_t posto) const { return nomi_[posto]; }
+
+ private:
+  std::vector<std::string> nomi_;
+  mutable std::array<qint16, 64> ricordate_{};
+};
+
 // A statement that the engine has prepared, with the names of its columns.
 struct Preparata {
-  std::unique_ptr<SQLite::Statement> motore;
-  QString tabella;                   // the one table whose rows can be changed through it
-  std::vector<std::string> colonne;  // without the row number, where `tabella` is set
+  std::unique_ptr<IstruzioneMotore> motore;
+  QString tabella;                             // the one table whose rows can be changed through it
+  std::shared_ptr<const NomiColonne> colonne;  // without the row number, where `tabella` is set
 
   [[nodiscard]] int Spostamento() const { return tabella.isEmpty() ? 0 : 1; }
 };
 
-// Position of a name in a list, without regard to case; -1 where it is not.
-[[nodiscard]] int Posizione(const std::vector<std::string>& nomi, std::string_view nome);
-[[nodiscard]] Campo Leggi(const SQLite::Statement& istruzione, int colonna);
-void Lega(SQLite::Statement& istruzione, int posizione, const Campo& valore);
 [[nodiscard]] ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio);
 
 struct InfoTabella {
   QString nome;  // as the schema spells it
-  std::vector<std::string> colonne;
+  NomiColonne colonne;
   std::vector<bool> numeriche;  // columns that take only numbers
   std::string numeroRiga;       // the counter, empty where the table has none
   std::unordered_map<std::string, std::string> indici;  // lower-case index name to its first column

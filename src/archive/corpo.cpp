@@ -13,7 +13,7 @@ void RichiediTipo(const InfoTabella& tabella, int colonna, const Campo& valore) 
   (void)testo->trimmed().toDouble(&numero);
   if (!numero) {
     throw ErroreEsecuzione(Errore::ConversioneTipo,
-                           QString::fromStdString(tabella.colonne.at(colonna)));
+                           QString::fromStdString(tabella.colonne[colonna]));
   }
 }
 
@@ -29,7 +29,7 @@ Recordset::Corpo::Corpo(std::shared_ptr<Connessione> connessione)
     : connessione_(std::move(connessione)) {}
 
 int Recordset::Corpo::Colonna(std::string_view nome) const {
-  const int colonna = Posizione(Colonne(), nome);
+  const int colonna = Colonne().Posizione(nome);
   if (colonna < 0) {
     throw ErroreEsecuzione(Errore::CampoNonTrovato,
                            QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
@@ -45,12 +45,12 @@ Campo Recordset::Corpo::Fields(int colonna) {
 }
 
 bool Recordset::Corpo::HaCampo(std::string_view nome) const {
-  return Posizione(Colonne(), nome) >= 0;
+  return Colonne().Posizione(nome) >= 0;
 }
 
 void Recordset::Corpo::Assegna(std::string_view nome, const Campo& valore) {
   const InfoTabella& tabella = TabellaDaScrivere();
-  const int colonna = Posizione(tabella.colonne, nome);
+  const int colonna = tabella.colonne.Posizione(nome);
   if (preparazione_ == Preparazione::Nessuna) {
     throw ErroreEsecuzione(Errore::AggiornamentoSenzaEdit);
   }

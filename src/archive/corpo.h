@@ -44,7 +44,7 @@ class Recordset::Corpo {
   void RichiediAperta() const { connessione_->RichiediAperta(); }
 
  protected:
-  [[nodiscard]] virtual const std::vector<std::string>& Colonne() const = 0;
+  [[nodiscard]] virtual const NomiColonne& Colonne() const = 0;
   // The table whose rows can be changed; error 3027 where there is none.
   [[nodiscard]] virtual const InfoTabella& TabellaDaScrivere() = 0;
   // A column of the current row; error 3021 without one.

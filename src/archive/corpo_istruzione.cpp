@@ -15,7 +15,7 @@ void CorpoIstruzione::Esegui() {
   aperta_.Restituisci();
   aperta_ = Motore().Prepara(istruzione_);
   tabella_ = aperta_->tabella;
-  if (colonne_.empty()) colonne_ = aperta_->colonne;
+  colonne_ = aperta_->colonne;
   Motore().LegaTutti(aperta_, parametri_);
   posizione_ = -1;
   Avanza();
@@ -29,10 +29,10 @@ void CorpoIstruzione::Avanza() {
 
 CorpoIstruzione::Riga CorpoIstruzione::LeggiRiga() const {
   Riga riga;
-  if (!tabella_.isEmpty()) riga.numero = Leggi(*aperta_->motore, 0).Intero();
+  if (!tabella_.isEmpty()) riga.numero = aperta_->motore->Leggi(0).Intero();
   const int inizio = aperta_->Spostamento();
-  for (std::size_t i = 0; i < colonne_.size(); ++i) {
-    riga.valori.push_back(Leggi(*aperta_->motore, inizio + static_cast<int>(i)));
+  for (std::size_t i = 0; i < colonne_->Quante(); ++i) {
+    riga.valori.push_back(aperta_->motore->Leggi(inizio + static_cast<int>(i)));
   }
   return riga;
 }
@@ -97,7 +97,7 @@ CorpoIstruzione::Riga& CorpoIstruzione::Corrente() {
 Campo CorpoIstruzione::Valore(int colonna) {
   if (tenute_.has_value()) return Corrente().valori.at(colonna);
   if (!aperta_) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
-  return Leggi(*aperta_->motore, aperta_->Spostamento() + colonna);
+  return aperta_->motore->Leggi(aperta_->Spostamento() + colonna);
 }
 
 const InfoTabella& CorpoIstruzione::TabellaDaScrivere() {
@@ -111,9 +111,9 @@ void CorpoIstruzione::RigaCambiata() {
       "SELECT * FROM [" + TabellaDaScrivere().nome.toStdString() + "] WHERE rowid=?");
   Motore().LegaTutti(rilettura, {Campo(riga.numero)});
   if (!Motore().Passo(rilettura)) return;
-  for (std::size_t i = 0; i < colonne_.size(); ++i) {
-    const int colonna = Posizione(TabellaDaScrivere().colonne, colonne_[i]);
-    if (colonna >= 0) riga.valori[i] = Leggi(*rilettura->motore, colonna);
+  for (std::size_t i = 0; i < colonne_->Quante(); ++i) {
+    const int colonna = TabellaDaScrivere().colonne.Posizione((*colonne_)[i]);
+    if (colonna >= 0) riga.valori[i] = rilettura->motore->Leggi(colonna);
   }
 }
 

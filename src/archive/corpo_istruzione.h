@@ -23,7 +23,7 @@ class CorpoIstruzione final : public Recordset::Corpo {
   void Bookmark(qint64 riga) override;
 
  protected:
-  [[nodiscard]] const std::vector<std::string>& Colonne() const override { return colonne_; }
+  [[nodiscard]] const NomiColonne& Colonne() const override { return *colonne_; }
   [[nodiscard]] const InfoTabella& TabellaDaScrivere() override;
   [[nodiscard]] Campo Valore(int colonna) override;
   void PrimaDiScrivere() override { TieniTutte(); }
@@ -46,7 +46,7 @@ class CorpoIstruzione final : public Recordset::Corpo {
   QString istruzione_;
   QList<Campo> parametri_;
   QString tabella_;
-  std::vector<std::string> colonne_;
+  std::shared_ptr<const NomiColonne> colonne_;
   Connessione::Prestito aperta_;  // while rows are read forward; none at the end
   bool vuota_ = false;
   std::optional<std::vector<Riga>> tenute_;  // all rows, once something asked to go back

@@ -14,12 +14,12 @@ bool CorpoTabella::Leggi1(const std::string& condizione, const QList<Campo>& par
                              condizione + ordine + " LIMIT 1");
   Motore().LegaTutti(riga, parametri);
   if (!Motore().Passo(riga)) return false;
-  numero_ = Leggi(*riga->motore, 0).Intero();
-  valori_.resize(tabella_.colonne.size());
+  numero_ = riga->motore->Leggi(0).Intero();
+  valori_.resize(tabella_.colonne.Quante());
   for (std::size_t i = 0; i < valori_.size(); ++i) {
-    valori_[i] = Leggi(*riga->motore, static_cast<int>(i) + 1);
+    valori_[i] = riga->motore->Leggi(static_cast<int>(i) + 1);
   }
-  const int colonna = Posizione(tabella_.colonne, colonnaIndice_);
+  const int colonna = tabella_.colonne.Posizione(colonnaIndice_);
   chiave_ = colonna < 0 ? Campo(numero_) : valori_[colonna];
   stato_ = Stato::SuRiga;
   return true;

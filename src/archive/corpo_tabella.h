@@ -23,9 +23,7 @@ class CorpoTabella final : public Recordset::Corpo {
   void Bookmark(qint64 riga) override;
 
  protected:
-  [[nodiscard]] const std::vector<std::string>& Colonne() const override {
-    return tabella_.colonne;
-  }
+  [[nodiscard]] const NomiColonne& Colonne() const override { return tabella_.colonne; }
   [[nodiscard]] const InfoTabella& TabellaDaScrivere() override { return tabella_; }
   [[nodiscard]] Campo Valore(int colonna) override;
   void RigaCambiata() override;

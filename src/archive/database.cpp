@@ -131,9 +131,8 @@ QStringList Database::Tabelle() const { return Connessa().Tabelle(); }
 
 QStringList Database::Colonne(const QString& tabella) const {
   QStringList nomi;
-  for (const std::string& nome : Connessa().Tabella(tabella).colonne) {
-    nomi += QString::fromStdString(nome);
-  }
+  const NomiColonne& colonne = Connessa().Tabella(tabella).colonne;
+  for (std::size_t i = 0; i < colonne.Quante(); ++i) nomi += QString::fromStdString(colonne[i]);
   return nomi;
 }
 

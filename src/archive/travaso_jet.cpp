@@ -36,11 +36,11 @@ int Contatore(const Tabella& tabella) {
 
 std::string Nome(const QString& nome) { return '[' + nome.toStdString() + ']'; }
 
-void LegaRiga(SQLite::Statement& istruzione, const std::vector<Campo>& riga) {
-  for (std::size_t i = 0; i < riga.size(); ++i) Lega(istruzione, static_cast<int>(i) + 1, riga[i]);
+void LegaRiga(IstruzioneMotore& istruzione, const std::vector<Campo>& riga) {
+  for (std::size_t i = 0; i < riga.size(); ++i) istruzione.Lega(static_cast<int>(i) + 1, riga[i]);
 }
 
-SQLite::Statement Inserimento(SQLite::Database& motore, const Tabella& tabella) {
+IstruzioneMotore Inserimento(SQLite::Database& motore, const Tabella& tabella) {
   std::string posti = "?";
   for (std::size_t i = 1; i < tabella.colonne.size(); ++i) posti += ",?";
   return {motore, "INSERT INTO " + Nome(tabella.nome) + " VALUES (" + posti + ")"};
@@ -49,29 +49,28 @@ SQLite::Statement Inserimento(SQLite::Database& motore, const Tabella& tabella) 
 // A number that the counter gave to a row deleted since is not given again.
 void PortaContatore(SQLite::Database& motore, const Tabella& tabella, qint64 ultimo) {
   if (Contatore(tabella) < 0) return;
-  SQLite::Statement massimo(motore, "SELECT max(?, ifnull(max(" +
-                                        Nome(tabella.colonne[Contatore(tabella)].nome) +
-                                        "), 0)) FROM " + Nome(tabella.nome));
-  massimo.bind(1, static_cast<int64_t>(ultimo));
-  massimo.executeStep();
-  SQLite::Statement togli(motore, "DELETE FROM sqlite_sequence WHERE name = ?");
-  togli.bind(1, tabella.nome.toStdString());
-  togli.exec();
-  SQLite::Statement metti(motore, "INSERT INTO sqlite_sequence (name, seq) VALUES (?, ?)");
-  metti.bind(1, tabella.nome.toStdString());
-  metti.bind(2, massimo.getColumn(0).getInt64());
-  metti.exec();
+  IstruzioneMotore massimo(motore, "SELECT max(?, ifnull(max(" +
+                                       Nome(tabella.colonne[Contatore(tabella)].nome) +
+                                       "), 0)) FROM " + Nome(tabella.nome));
+  massimo.Lega(1, ultimo);
+  massimo.Passo();
+  IstruzioneMotore togli(motore, "DELETE FROM sqlite_sequence WHERE name = ?");
+  togli.Lega(1, tabella.nome);
+  togli.Esegui();
+  IstruzioneMotore metti(motore, "INSERT INTO sqlite_sequence (name, seq) VALUES (?, ?)");
+  metti.Lega(1, tabella.nome);
+  metti.Lega(2, massimo.Leggi(0));
+  metti.Esegui();
 }
 
 void VersaTabella(const LettoreJet& lettore, SQLite::Database& motore, const Tabella& tabella,
                   Contarighe& conto) {
   const QStringList istruzioni = IstruzioniTabella(tabella);
   motore.exec(istruzioni.front().toStdString());
-  SQLite::Statement inserimento = Inserimento(motore, tabella);
+  IstruzioneMotore inserimento = Inserimento(motore, tabella);
   lettore.LeggiRighe(tabella.nome, [&](const std::vector<Campo>& riga) {
     LegaRiga(inserimento, riga);
-    inserimento.exec();
-    inserimento.reset();
+    inserimento.Esegui();
     conto.Riga();
   });
   // An index over rows that are there is made in one go.
@@ -79,27 +78,27 @@ void VersaTabella(const LettoreJet& lettore, SQLite::Database& motore, const Tab
   PortaContatore(motore, tabella, lettore.UltimoContatore(tabella.nome));
 }
 
-bool RigaUguale(const SQLite::Statement& istruzione, const std::vector<Campo>& riga) {
+bool RigaUguale(const IstruzioneMotore& istruzione, const std::vector<Campo>& riga) {
   for (std::size_t i = 0; i < riga.size(); ++i) {
-    if (Leggi(istruzione, static_cast<int>(i)) != riga[i]) return false;
+    if (istruzione.Leggi(static_cast<int>(i)) != riga[i]) return false;
   }
   return true;
 }
 
 bool StesseColonne(SQLite::Database& motore, const Tabella& tabella) {
-  const SQLite::Statement righe(motore, "SELECT * FROM " + Nome(tabella.nome));
-  if (righe.getColumnCount() != static_cast<int>(tabella.colonne.size())) return false;
-  for (int i = 0; i < righe.getColumnCount(); ++i) {
-    if (tabella.colonne[i].nome != QString::fromUtf8(righe.getColumnName(i))) return false;
+  const IstruzioneMotore righe(motore, "SELECT * FROM " + Nome(tabella.nome));
+  if (righe.NumeroColonne() != static_cast<int>(tabella.colonne.size())) return false;
+  for (int i = 0; i < righe.NumeroColonne(); ++i) {
+    if (tabella.colonne[i].nome != QString::fromUtf8(righe.NomeColonna(i))) return false;
   }
   return true;
 }
 
 bool StessoContatore(SQLite::Database& motore, const Tabella& tabella, qint64 ultimo) {
   if (Contatore(tabella) < 0) return true;
-  SQLite::Statement contatore(motore, "SELECT seq FROM sqlite_sequence WHERE name = ?");
-  contatore.bind(1, tabella.nome.toStdString());
-  return contatore.executeStep() && contatore.getColumn(0).getInt64() >= ultimo;
+  IstruzioneMotore contatore(motore, "SELECT seq FROM sqlite_sequence WHERE name = ?");
+  contatore.Lega(1, tabella.nome);
+  return contatore.Passo() && contatore.Leggi(0).Intero() >= ultimo;
 }
 
 // Rows stand in the order of the file, or under the number that their counter gave them.
@@ -109,20 +108,20 @@ bool StesseRighe(const LettoreJet& lettore, SQLite::Database& motore, const Tabe
   std::string sql = "SELECT * FROM " + Nome(tabella.nome);
   sql +=
       contatore < 0 ? " NOT INDEXED" : " WHERE " + Nome(tabella.colonne[contatore].nome) + " = ?";
-  SQLite::Statement righe(motore, sql);
+  IstruzioneMotore righe(motore, sql);
   bool uguali = true;
   qint64 lette = 0;
   lettore.LeggiRighe(tabella.nome, [&](const std::vector<Campo>& riga) {
     if (contatore >= 0) {
-      righe.reset();
-      Lega(righe, 1, riga[contatore]);
+      righe.Azzera();
+      righe.Lega(1, riga[contatore]);
     }
-    uguali = uguali && righe.executeStep() && RigaUguale(righe, riga);
+    uguali = uguali && righe.Passo() && RigaUguale(righe, riga);
     ++lette;
     conto.Riga();
   });
-  SQLite::Statement quante(motore, "SELECT count(*) FROM " + Nome(tabella.nome));
-  return uguali && quante.executeStep() && quante.getColumn(0).getInt64() == lette;
+  IstruzioneMotore quante(motore, "SELECT count(*) FROM " + Nome(tabella.nome));
+  return uguali && quante.Passo() && quante.Leggi(0).Intero() == lette;
 }
 
 }  // namespace

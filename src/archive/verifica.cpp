@@ -18,7 +18,7 @@ bool Contiene(const QStringList& nomi, const QString& nome) {
 QStringList Righe(Connessione& motore, const std::string& sql) {
   QStringList righe;
   const Connessione::Prestito elenco = motore.PreparaMotore(sql);
-  while (motore.Passo(elenco)) righe += Leggi(*elenco->motore, 0).TestoOVuoto();
+  while (motore.Passo(elenco)) righe += elenco->motore->Leggi(0).TestoOVuoto();
   return righe;
 }
 
@@ -42,7 +42,7 @@ bool HaIndice(const InfoTabella& presente, const Indice& indice) {
 QStringList DifettiTabella(const Tabella& attesa, const InfoTabella& presente) {
   QStringList difetti;
   for (const Colonna& colonna : attesa.colonne) {
-    if (Posizione(presente.colonne, colonna.nome.toStdString()) >= 0) continue;
+    if (presente.colonne.Posizione(colonna.nome.toStdString()) >= 0) continue;
     difetti +=
         QStringLiteral("Nella tabella %1 manca la colonna %2.").arg(attesa.nome, colonna.nome);
   }
