@@ -54,18 +54,18 @@ class Documento {
   TestiDocumento testi_;
   QString td_;
   QString tAbs_;
+  bool straniero_ = false;
   bool traduzione_ = false;
 };
 
 void Documento::Componi() {
   Identifica();
   Riferimento();
-  const bool straniero = riga_.Fields("LIN").Testo() != "00"_L1;
   ScriviResponsabili(contesto_, idDoc_, idRecord_);
   td_ = riga_.Fields("td").Testo();
   tAbs_ = riga_.Fields("TAbs").Testo();
   TitoloETraduzione();
-  if (straniero) {
+  if (straniero_) {
     Segnala(traduzione_ ? "Contributo in lingua straniera: "
                         : "Contributo in lingua straniera senza traduzione del titolo: ",
             idRecord_);
@@ -86,21 +86,20 @@ void Documento::Identifica() {
 }
 
 void Documento::Riferimento() {
-  bool completo = true;
-  for (const char* colonna : {"IDRifBibl", "pagine", "td", "TAbs", "Bib"}) {
-    completo = completo && riga_.Fields(colonna).Presente();
+  const DatiDocumento dati = {.IDRifBibl = riga_.Fields("IDRifBibl").Intero16(),
+                              .pagine = riga_.Fields("pagine").TestoOVuoto(),
+                              .td = riga_.Fields("td").TestoOVuoto(),
+                              .TAbs = riga_.Fields("TAbs").TestoOVuoto(),
+                              .Bib = riga_.Fields("Bib").TestoOVuoto(),
+                              .LIN = riga_.Fields("LIN").Testo(),
+                              .lo = riga_.Fields("lo").Testo(),
+                              .lr = riga_.Fields("lr").Testo(),
+                              .la = riga_.Fields("la").Testo()};
+  straniero_ = dati.LIN != "00"_L1;
+  ScriviRiferimento(contesto_, idDoc_, idRecord_, dati);
+  if (dati.pagine.isEmpty() || dati.td.isEmpty() || dati.TAbs.isEmpty() || dati.Bib.isEmpty()) {
+    Segnala("Errori sui dati bibliografici: ", idRecord_);
   }
-  ScriviRiferimento(contesto_, idDoc_, idRecord_,
-                    {.IDRifBibl = riga_.Fields("IDRifBibl").Intero16(),
-                     .pagine = riga_.Fields("pagine").TestoOVuoto(),
-                     .td = riga_.Fields("td").TestoOVuoto(),
-                     .TAbs = riga_.Fields("TAbs").TestoOVuoto(),
-                     .Bib = riga_.Fields("Bib").TestoOVuoto(),
-                     .LIN = riga_.Fields("LIN").Testo(),
-                     .lo = riga_.Fields("lo").Testo(),
-                     .lr = riga_.Fields("lr").Testo(),
-                     .la = riga_.Fields("la").Testo()});
-  if (!completo) Segnala("Errori sui dati bibliografici: ", idRecord_);
 }
 
 void Documento::TitoloETraduzione() {

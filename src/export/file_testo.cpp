@@ -74,7 +74,7 @@ void FileTesto::Print(const QString& riga) {
   ScriviBlocco(byte);
 }
 
-void FileTesto::ScriviBlocco(const QByteArray& byte) {
+void FileTesto::ScriviBlocco(QByteArrayView byte) {
   pendenti_ += byte;
   blocchi_.push_back(pendenti_.size());
   if (pendenti_.size() >= kMassimoPendenti) Svuota();

@@ -24,7 +24,7 @@ class FileTesto {
   // A line in Windows-1252, with its CR LF.
   void Print(const QString& riga);
   // Bytes as they stand, kept together: they reach the file whole or not at all.
-  void ScriviBlocco(const QByteArray& byte);
+  void ScriviBlocco(QByteArrayView byte);
   // The next line without its end (CR LF, LF or CR), or nothing at the end of the file.
   [[nodiscard]] std::optional<QString> LineInput();
   // Writes what is pending.

@@ -21,17 +21,17 @@ QStringView TogliPezzo(QStringView& resto, qsizetype massimo) {
   return pezzo;
 }
 
-void AggiungiRigheCampo(QByteArray& byte, const Record::Riga& riga) {
+void AggiungiRigheCampo(std::string& byte, const Record::Riga& riga) {
   const QByteArray tag = riga.tag.toLatin1();
+  const auto aggiungi = [&](QStringView contenuto, std::string_view fine) {
+    const QByteArray convertito = ConvertiOem(contenuto);
+    byte.append(tag.data(), tag.size()).append(convertito.data(), convertito.size()).append(fine);
+  };
   QStringView resto = riga.contenuto;
   while (resto.size() > kMassimoRiga) {
-    byte += tag;
-    byte += ConvertiOem(TogliPezzo(resto, kMassimoRiga));
-    byte += "\t\r\n";
+    aggiungi(TogliPezzo(resto, kMassimoRiga), "\t\r\n");
   }
-  byte += tag;
-  byte += ConvertiOem(resto);
-  byte += "\r\n";
+  aggiungi(resto, "\r\n");
 }
 
 }  // namespace
@@ -57,11 +57,8 @@ void Record::AggiungiTesto(const QString& tag, const QString& testo) {
 }
 
 void Record::ScriviRecord(FileTesto& uscita) const {
-  QByteArray byte;
-  byte += ConvertiAnsi(righe_.at(0).contenuto);
-  byte += "\r\n";
-  byte += QByteArray::number(NumRighe());
-  byte += "\r\n";
+  std::string byte = ConvertiAnsi(righe_.at(0).contenuto).toStdString() + "\r\n" +
+                     std::to_string(NumRighe()) + "\r\n";
   for (const Riga& riga : righe_) AggiungiRigheCampo(byte, riga);
   uscita.ScriviBlocco(byte);
 }
