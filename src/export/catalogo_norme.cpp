@@ -54,13 +54,14 @@ void CatalogoNorme::Apri() {
 bool CatalogoNorme::Contiene(const AttoCercato& atto) {
   constexpr qsizetype kRicordati = 4096;
   Apri();
-  const auto data = DataCatalogo(atto);
-  if (!data) return false;
-  const QString chiave = *data + QLatin1Char('|') + atto.FonteNorm + QLatin1Char('|') + atto.numero;
+  constexpr QLatin1Char kBarra('|');
+  const QString chiave = atto.anno + kBarra + atto.mese + kBarra + atto.giorno + kBarra +
+                         atto.FonteNorm + kBarra + atto.numero;
   const auto noto = cercati_.constFind(chiave);
   if (noto != cercati_.constEnd()) return *noto;
   if (cercati_.size() >= kRicordati) cercati_.clear();
-  return *cercati_.insert(chiave, Cerca(atto, *data));
+  const auto data = DataCatalogo(atto);
+  return *cercati_.insert(chiave, data && Cerca(atto, *data));
 }
 
 bool CatalogoNorme::Cerca(const AttoCercato& atto, const QString& data) const {
