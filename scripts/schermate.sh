@@ -63,7 +63,6 @@ finestra "Nuovo archivio"
 immagine nuovo_conferma
 tasti Return
 finestra "Informazione consegna"
-immagine informazione_vuota
 scrivi A
 tasti Tab Down Down Tab
 scrivi b01
@@ -80,9 +79,8 @@ scrivi A01.MDB
 tasti Return
 aperto="Torvi Editor ($cartella/mdb/A01.MDB)"
 finestra "$aperto"
-immagine aperto
 tasti alt+e f
-immagine menu_esporta
+immagine aperto
 
 tasti i
 finestra "Esportazione per ISIS"
