@@ -1,11 +1,11 @@
 #include "archive/jet.h"
 
 #include <QFile>
-#include <algorithm>
 
 #include "archive/errore.h"
 #include "archive/jet_catalogo.h"
 #include "archive/jet_valori.h"
+#include "archive/per_nome.h"
 
 namespace torvi {
 
@@ -31,12 +31,9 @@ struct LettoreJet::Stato {
   }
 
   [[nodiscard]] const jet::Definizione& Trova(const QString& tabella) const {
-    const auto trovata =
-        std::find_if(definizioni.begin(), definizioni.end(), [&](const jet::Definizione& una) {
-          return una.tabella.nome.compare(tabella, Qt::CaseInsensitive) == 0;
-        });
-    if (trovata == definizioni.end()) throw ErroreEsecuzione(Errore::TabellaNonTrovata, tabella);
-    return *trovata;
+    const Tabella* trovata = PerNome(tabelle, tabella);
+    if (trovata == nullptr) throw ErroreEsecuzione(Errore::TabellaNonTrovata, tabella);
+    return definizioni[trovata - tabelle.data()];
   }
 
   jet::Pagine pagine;

@@ -1,9 +1,9 @@
 #include "archive/jet_catalogo.h"
 
-#include <algorithm>
-
+#include "archive/errore.h"
 #include "archive/jet_proprieta.h"
 #include "archive/jet_valori.h"
+#include "archive/per_nome.h"
 
 namespace torvi::jet {
 namespace {
@@ -19,12 +19,9 @@ struct Colonne {
 };
 
 std::size_t Trova(const Pagine& pagine, const Definizione& definizione, const char* nome) {
-  const auto& colonne = definizione.tabella.colonne;
-  const auto colonna = std::find_if(colonne.begin(), colonne.end(), [&](const Colonna& candidata) {
-    return candidata.nome == QLatin1String(nome);
-  });
-  if (colonna == colonne.end()) pagine.Danno(QStringLiteral("l'elenco delle tabelle"));
-  return colonna - colonne.begin();
+  const Colonna* colonna = PerNome(definizione.tabella.colonne, QLatin1String(nome));
+  if (colonna == nullptr) pagine.Danno(QStringLiteral("l'elenco delle tabelle"));
+  return colonna - definizione.tabella.colonne.data();
 }
 
 class Lettore {
@@ -45,17 +42,22 @@ class Lettore {
   void Aggiungi(const RigaDiCampi& riga) {
     const bool tabella = (Numero(riga, colonne_.genere) & kGenere) == MDB_TABLE;
     if (!tabella || (Numero(riga, colonne_.contrassegni) & kDiSistema) != 0) return;
-    const Campo nome = Prendi(riga, colonne_.nome);
-    const QString testo = nome.TestoOVuoto();
-    const bool ripetuto = std::any_of(voci_.begin(), voci_.end(), [&](const VoceCatalogo& voce) {
-      return voce.nome.compare(testo, Qt::CaseInsensitive) == 0;
-    });
-    if (testo.isEmpty() || ripetuto) pagine_.Danno(QStringLiteral("l'elenco delle tabelle"));
-    const QByteArray proprieta = Lungo(pagine_, riga[colonne_.proprieta].ottetti);
-    voci_.push_back(
-        {testo, Numero(riga, colonne_.id) & kNumeroPagina,
-         Predefiniti(pagine_, {reinterpret_cast<const std::uint8_t*>(proprieta.constData()),
-                               static_cast<std::size_t>(proprieta.size())})});
+    const QString nome = Prendi(riga, colonne_.nome).TestoOVuoto();
+    if (PerNome(voci_, nome) != nullptr) pagine_.Danno(QStringLiteral("l'elenco delle tabelle"));
+    voci_.push_back({nome, Numero(riga, colonne_.id) & kNumeroPagina,
+                     LeggiPredefiniti(riga[colonne_.proprieta].ottetti)});
+  }
+
+  // A table is whole without its properties: what cannot be made out in them is no reason to refuse
+  // the file.
+  [[nodiscard]] std::map<QString, QString> LeggiPredefiniti(Ottetti campo) {
+    try {
+      const QByteArray proprieta = Lungo(pagine_, campo);
+      return Predefiniti(pagine_, {reinterpret_cast<const std::uint8_t*>(proprieta.constData()),
+                                   static_cast<std::size_t>(proprieta.size())});
+    } catch (const ErroreEsecuzione&) {
+      return {};
+    }
   }
 
   [[nodiscard]] Campo Prendi(const RigaDiCampi& riga, std::size_t quale) {

@@ -1,5 +1,7 @@
 #include "archive/jet_proprieta.h"
 
+#include <QRegularExpression>
+
 #include "archive/jet_valori.h"
 
 namespace torvi::jet {
@@ -8,8 +10,8 @@ namespace {
 enum Blocco : std::uint16_t { kNomi = 0x80, kDellaColonna = 1 };
 constexpr std::size_t kFirma = 4;
 constexpr std::size_t kTestaBlocco = 6;  // length, kind
-constexpr std::size_t kTestaVoce =
-    8;  // length, flag, type, number of the name, length of the value
+constexpr std::size_t kTestaNome = 4;
+constexpr std::size_t kTestaVoce = 8;  // length, flag, type, which name, length of the value
 
 // Takes pieces off the front of a run of bytes; a piece that is not there is damage.
 class Lettura {
@@ -38,14 +40,12 @@ class Lettura {
 QString Letterale(QString testo) {
   testo = testo.trimmed();
   if (testo.startsWith(QLatin1Char('='))) testo = testo.mid(1).trimmed();
-  bool numero = false;
-  testo.toDouble(&numero);
-  if (numero) return testo;
-  static const std::map<QString, QString> logici = {
-      {QStringLiteral("true"), QStringLiteral("1")},  {QStringLiteral("yes"), QStringLiteral("1")},
-      {QStringLiteral("vero"), QStringLiteral("1")},  {QStringLiteral("sì"), QStringLiteral("1")},
-      {QStringLiteral("false"), QStringLiteral("0")}, {QStringLiteral("no"), QStringLiteral("0")},
-      {QStringLiteral("falso"), QStringLiteral("0")}};
+  static const QRegularExpression numero(QStringLiteral("^[+-]?\\d+(\\.\\d+)?$"));
+  if (numero.match(testo).hasMatch()) return testo;
+  static const std::map<QString, QString> logici = {{QStringLiteral("true"), QStringLiteral("1")},
+                                                    {QStringLiteral("yes"), QStringLiteral("1")},
+                                                    {QStringLiteral("false"), QStringLiteral("0")},
+                                                    {QStringLiteral("no"), QStringLiteral("0")}};
   if (const auto voce = logici.find(testo.toLower()); voce != logici.end()) return voce->second;
   const bool tra =
       testo.size() >= 2 && (testo.front() == QLatin1Char('"')) && testo.back() == QLatin1Char('"');
@@ -65,8 +65,8 @@ QStringList LeggiNomi(Lettura blocco) {
 // A column's block: its name, then its properties.
 void LeggiColonna(const Pagine& pagine, Lettura blocco, const QStringList& nomi,
                   std::map<QString, QString>& predefiniti) {
-  (void)blocco.Prendi(4);
-  const QString colonna = blocco.PrendiTesto();
+  const std::size_t lunghezzaNome = Numero32(blocco.Prendi(kTestaNome), 0);
+  const QString colonna = Lettura(pagine, blocco.Coda(lunghezzaNome, kTestaNome)).PrendiTesto();
   while (!blocco.Finita()) {
     const std::size_t lunghezza = blocco.Prendi16();
     const Ottetti testa = blocco.Prendi(kTestaVoce - 2);

@@ -1,6 +1,7 @@
 #include "archive/jet_valori.h"
 
 #include <QDateTime>
+#include <QUuid>
 #include <QtEndian>
 #include <algorithm>
 #include <cmath>
@@ -54,10 +55,10 @@ Campo Decimale(const Pagine& pagine, const ColonnaJet& colonna, Ottetti ottetti)
 }
 
 Campo Identificatore(Ottetti ottetti) {
-  char* testo = mdb_uuid_to_string(ottetti.data(), 0);
-  Campo valore(QString::fromLatin1(testo));
-  g_free(testo);
-  return valore;
+  const auto u = ottetti.subspan(8);
+  const QUuid uuid(Numero32(ottetti, 0), Numero16(ottetti, 4), Numero16(ottetti, 6), u[0], u[1],
+                   u[2], u[3], u[4], u[5], u[6], u[7]);
+  return uuid.toString().toUpper();
 }
 
 Campo Reale(const Pagine& pagine, double numero) {
@@ -122,15 +123,15 @@ QByteArray Lungo(Pagine& pagine, Ottetti campo) {
   std::uint32_t puntatore = Numero32(campo, 4);
   if ((testa & kNellaRiga) != 0) return taglia(campo.subspan(kTesta));
   if ((testa & kUnPezzo) != 0) return taglia(pagine.RigaLontana(puntatore).ottetti);
+  // Pointers that go in a circle come to an end.
+  esigi(lunghezza <= pagine.QuantePagine() * kPagina);
   QByteArray tutto;
-  while (puntatore != 0) {
+  for (std::size_t manca = lunghezza; manca > 0; manca = lunghezza - tutto.size()) {
     const Ottetti pezzo = pagine.RigaLontana(puntatore).ottetti;
-    // Each piece adds something: pointers that go in a circle end here.
-    esigi(pezzo.size() > 4 && static_cast<std::size_t>(tutto.size()) < lunghezza);
-    tutto += Copia(pezzo.subspan(4));
+    esigi(pezzo.size() > 4);
+    tutto += Copia(pezzo.subspan(4, std::min(manca, pezzo.size() - 4)));
     puntatore = Numero32(pezzo, 0);
   }
-  esigi(static_cast<std::size_t>(tutto.size()) == lunghezza);
   return tutto;
 }
 

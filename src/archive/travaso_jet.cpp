@@ -6,24 +6,16 @@
 #include <limits>
 
 #include "archive/connessione.h"
+#include "archive/per_nome.h"
 
 namespace torvi {
 namespace {
 
 constexpr int kRigheFraAvvisi = 200;
 
-bool Uguali(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
-
-template <typename Elenco>
-auto Trova(Elenco& elenco, const QString& nome) {
-  const auto trovato = std::find_if(elenco.begin(), elenco.end(),
-                                    [&](const auto& uno) { return Uguali(uno.nome, nome); });
-  return trovato == elenco.end() ? nullptr : &*trovato;
-}
-
 const Tabella* NelloSchema(const QString& nome) {
-  const Tabella* tabella = Trova(SchemaArchivio(), nome);
-  return tabella != nullptr ? tabella : Trova(SchemaCatalogo(), nome);
+  const Tabella* tabella = PerNome(SchemaArchivio(), nome);
+  return tabella != nullptr ? tabella : PerNome(SchemaCatalogo(), nome);
 }
 
 int Contatore(const Tabella& tabella) {
@@ -130,14 +122,14 @@ Tabella Completata(Tabella tabella) {
   const Tabella* schema = NelloSchema(tabella.nome);
   if (schema == nullptr) return tabella;
   for (Colonna& colonna : tabella.colonne) {
-    const Colonna* sua = Trova(schema->colonne, colonna.nome);
+    const Colonna* sua = PerNome(schema->colonne, colonna.nome);
     if (sua != nullptr && colonna.predefinito.isEmpty()) colonna.predefinito = sua->predefinito;
   }
   for (Indice indice : schema->indici) {
     const bool possibile = std::all_of(
         indice.colonne.begin(), indice.colonne.end(),
-        [&](const QString& colonna) { return Trova(tabella.colonne, colonna) != nullptr; });
-    if (!possibile || Trova(tabella.indici, indice.nome) != nullptr) continue;
+        [&](const QString& colonna) { return PerNome(tabella.colonne, colonna) != nullptr; });
+    if (!possibile || PerNome(tabella.indici, indice.nome) != nullptr) continue;
     // Nothing kept the old file's rows apart: they must not be refused now.
     indice.unico = false;
     tabella.indici.push_back(indice);

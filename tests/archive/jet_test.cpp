@@ -2,6 +2,7 @@
 
 #include <QJsonArray>
 #include <QTemporaryDir>
+#include <limits>
 #include <random>
 #include <set>
 
@@ -113,6 +114,138 @@ TEST_F(Jet, EveryTableAndRowIsAsTheIndependentReaderSeesIt) {
       EXPECT_EQ(lette, RigheAttese(tabella, righe[tabella.nome].toArray()));
     }
   }
+}
+
+template <typename T>
+QByteArray Ottetti(T numero) {
+  return {reinterpret_cast<const char*>(&numero), sizeof numero};
+}
+
+TEST_F(Jet, DatesWithTimesAndFromBeforeTheFirst) {
+  struct Caso {
+    double giorni;
+    const char* testo;  // empty: no date
+  };
+  const double nessuno = std::numeric_limits<double>::quiet_NaN();
+  const QByteArray contenuto = Byte(CartellaJet().filePath(QStringLiteral("righe spostate.mdb")));
+  const QByteArray vera = Ottetti(-16278.0);
+  ASSERT_GT(contenuto.count(vera), 0);
+  const QTemporaryDir cartella;
+  const QString copia = cartella.filePath(QStringLiteral("date.mdb"));
+  for (const Caso& caso :
+       {Caso{0, "30/12/1899"}, Caso{0.5, "30/12/1899 12:00:00"}, Caso{-1.25, "29/12/1899 06:00:00"},
+        Caso{36526.99999, "01/01/2000 23:59:59"}, Caso{36526.999998, "02/01/2000"},
+        Caso{-16278.75, "06/06/1855 18:00:00"}, Caso{-657434, "01/01/0100"},
+        Caso{2958465.5, "31/12/9999 12:00:00"}, Caso{-657435, ""}, Caso{2958466, ""},
+        Caso{nessuno, ""}}) {
+    SCOPED_TRACE(caso.testo);
+    ScriviByte(copia, QByteArray(contenuto).replace(vera, Ottetti(caso.giorni)));
+    const LettoreJet lettore(copia);
+    QString letta;
+    const auto leggi = [&] {
+      lettore.LeggiRighe(QStringLiteral("Righe"), [&](const std::vector<Campo>& riga) {
+        if (riga[0] == Campo(5)) letta = riga[3].Testo();
+      });
+    };
+    EXPECT_EQ(NumeroErrore(leggi), *caso.testo == '\0' ? 3343 : 0);
+    EXPECT_EQ(letta.toStdString(), caso.testo);
+  }
+}
+
+// Where the type of a column stands: the description of the only table that has so many columns.
+qsizetype PostoDelTipo(const QByteArray& contenuto, int colonne, int quale) {
+  for (qsizetype pagina = 20 * 4096; pagina < contenuto.size(); pagina += 4096) {
+    if (contenuto[pagina] == 2 && contenuto[pagina + 45] == colonne) {
+      return pagina + 63 + 12 * contenuto[pagina + 51] + 25 * quale;
+    }
+  }
+  return -1;
+}
+
+// No genuine file at hand has these types: columns of other types are read as if they had them.
+TEST_F(Jet, EveryTypeOfColumnIsRead) {
+  struct Caso {
+    const char* file;
+    const char* tabella;
+    int colonne, colonna, tipo;
+    std::size_t riga;
+    const char* valore;
+  };
+  const QTemporaryDir cartella;
+  const QString copia = cartella.filePath(QStringLiteral("tipi.mdb"));
+  for (const Caso& caso : {
+           Caso{"chiavi testo.mdb", "Chiavi", 3, 2, 2, 3, "255"},
+           Caso{"chiavi testo.mdb", "Chiavi", 3, 2, 3, 5, "-1"},
+           Caso{"chiavi testo.mdb", "Chiavi", 3, 0, 6, 3, "5.60519385729927e-45"},
+           Caso{"righe spostate.mdb", "Righe", 5, 3, 5, 3, "-455319749738784"},
+           Caso{"righe spostate.mdb", "Righe", 5, 3, 7, 3, "-16278"},
+           Caso{"righe spostate.mdb", "Righe", 5, 1, 9, 0, "\"fffe726967612031"},
+           Caso{"catalogo norme.mdb", "tabCatalogoRidotta", 7, 0, 11, 0,
+                "\"fffe5374617475746f20646569206c61766f7261746f7269"},
+           Caso{"catalogo norme.mdb", "tabCatalogoRidotta", 7, 5, 15, 0,
+                "\"{2E6CFEFF-3220-2030-6D61-6767696F2031}"},
+           Caso{"catalogo norme.mdb", "tabCatalogoRidotta", 7, 5, 16, 0,
+                "\"-4277635217857316230765957884030963.7231"},
+       }) {
+    SCOPED_TRACE(testing::Message() << caso.file << ' ' << caso.tipo);
+    QByteArray contenuto = Byte(CartellaJet().filePath(QLatin1String(caso.file)));
+    contenuto[PostoDelTipo(contenuto, caso.colonne, caso.colonna)] = static_cast<char>(caso.tipo);
+    ScriviByte(copia, contenuto);
+    const LettoreJet lettore(copia);
+    Righe valori;
+    lettore.LeggiRighe(QLatin1String(caso.tabella), [&](const std::vector<Campo>& riga) {
+      valori.push_back(Mostra(riga[caso.colonna]).toStdString());
+    });
+    ASSERT_GT(valori.size(), caso.riga);
+    EXPECT_EQ(valori[caso.riga], caso.valore);
+  }
+}
+
+QByteArray Breve(qsizetype numero) { return Ottetti(static_cast<quint16>(numero)); }
+
+QByteArray Unicode(const QString& testo) {
+  return {reinterpret_cast<const char*>(testo.utf16()), testo.size() * 2};
+}
+
+// The default of a column among the table's properties; `valore` at the end.
+QByteArray Proprieta(const QString& colonna, const QString& valore) {
+  const QByteArray nome = Unicode(colonna);
+  const QByteArray testo = Unicode(valore);
+  return Breve(nome.size() + 6) + Breve(0) + Breve(nome.size()) + nome + Breve(testo.size() + 8) +
+         QByteArray("\x01\x0c\0\0", 4) + Breve(testo.size()) + testo;
+}
+
+TEST_F(Jet, DefaultsAreKeptAsLiterals) {
+  struct Caso {
+    const char* valore;
+    const char* letterale;
+  };
+  const QByteArray contenuto = Byte(CartellaJet().filePath(QStringLiteral("consegna.mdb")));
+  const QByteArray vera = Proprieta(QStringLiteral("IDClasse2000-D"), QStringLiteral("0"));
+  ASSERT_EQ(contenuto.count(vera), 1);
+  const QTemporaryDir cartella;
+  const QString copia = cartella.filePath(QStringLiteral("predefiniti.mdb"));
+  for (const Caso& caso :
+       {Caso{"\"it's\"", "'it''s'"}, Caso{"=\"a\"\"b\"", "'a\"b'"}, Caso{"\"\"", "''"},
+        Caso{"\"", ""}, Caso{"-3.5", "-3.5"}, Caso{"= 12", "12"}, Caso{"1e5", ""},
+        Caso{"True", "1"}, Caso{"=yes", "1"}, Caso{"False", "0"}, Caso{"No", "0"},
+        Caso{"Date()", ""}}) {
+    SCOPED_TRACE(caso.valore);
+    const QString valore = QString::fromUtf8(caso.valore).leftJustified(10);
+    const QByteArray altra = Proprieta(QStringLiteral("Check"), valore);
+    ASSERT_EQ(altra.size(), vera.size());
+    ScriviByte(copia, QByteArray(contenuto).replace(vera, altra));
+    const LettoreJet lettore(copia);
+    for (const Tabella& tabella : lettore.Tabelle()) {
+      for (const Colonna& colonna : tabella.colonne) {
+        const bool questa = colonna.nome == QLatin1String("Check");
+        EXPECT_EQ(colonna.predefinito.toStdString(), questa ? caso.letterale : "");
+      }
+    }
+  }
+  // What cannot be made out is no reason to refuse a file whose rows are whole.
+  ScriviByte(copia, QByteArray(contenuto).replace(vera, QByteArray(vera.size(), '\xff')));
+  EXPECT_EQ(LeggiTutto(copia), LeggiTutto(CartellaJet().filePath(QStringLiteral("consegna.mdb"))));
 }
 
 // Reads a damaged file. Either it reads, or error 3343 names it; the rows read, none after an
