@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 
 #include "archive/traduttore.h"
 
@@ -20,12 +19,6 @@ std::string InMinuscolo(std::string_view testo) {
   std::string minuscolo(testo);
   std::transform(minuscolo.begin(), minuscolo.end(), minuscolo.begin(), Minuscolo);
   return minuscolo;
-}
-
-bool Uguali(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return Minuscolo(x) == Minuscolo(y);
-         });
 }
 
 struct VoceGuasto {
@@ -59,21 +52,6 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
 }
 
 }  // namespace
-
-int NomiColonne::Posizione(std::string_view nome) const {
-  const auto posto = (std::bit_cast<std::uintptr_t>(nome.data()) >> 1) % ricordate_.size();
-  // The memory is only a hint: at the same address there may be another text by now.
-  const auto ricordata = static_cast<std::size_t>(ricordate_[posto]);
-  if (ricordata < nomi_.size() && Uguali(nomi_[ricordata], nome)) {
-    return static_cast<int>(ricordata);
-  }
-  for (std::size_t i = 0; i < nomi_.size(); ++i) {
-    if (!Uguali(nomi_[i], nome)) continue;
-    ricordate_[posto] = static_cast<qint16>(i);
-    return static_cast<int>(i);
-  }
-  return -1;
-}
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
   return ErroreEsecuzione(

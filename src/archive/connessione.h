@@ -6,7 +6,6 @@
 
 #include <QList>
 #include <QString>
-#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,23 +15,9 @@
 #include "archive/campo.h"
 #include "archive/errore.h"
 #include "archive/istruzione_motore.h"
+#include "archive/nomi_colonne.h"
 
 namespace torvi {
-
-// The names of a statement's columns. A name is sought again and again by the same literal of the
-// program: its address leads straight to the column where it was found the time before.
-class NomiColonne {
- public:
-  void Aggiungi(std::string_view nome) { nomi_.emplace_back(nome); }
-  // Without regard to case; -1 where there is none.
-  [[nodiscard]] int Posizione(std::string_view nome) const;
-  [[nodiscard]] std::size_t Quante() const { return nomi_.size(); }
-  [[nodiscard]] const std::string& operator[](std::size_t posto) const { return nomi_[posto]; }
-
- private:
-  std::vector<std::string> nomi_;
-  mutable std::array<qint16, 64> ricordate_{};
-};
 
 // A statement that the engine has prepared, with the names of its columns.
 struct Preparata {

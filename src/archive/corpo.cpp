@@ -28,14 +28,7 @@ QList<Campo> Valori(const std::vector<std::pair<std::string, Campo>>& preparati)
 Recordset::Corpo::Corpo(std::shared_ptr<Connessione> connessione)
     : connessione_(std::move(connessione)) {}
 
-int Recordset::Corpo::Colonna(std::string_view nome) const {
-  const int colonna = Colonne().Posizione(nome);
-  if (colonna < 0) {
-    throw ErroreEsecuzione(Errore::CampoNonTrovato,
-                           QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
-  }
-  return colonna;
-}
+int Recordset::Corpo::Colonna(std::string_view nome) const { return Colonne().Richiedi(nome); }
 
 Campo Recordset::Corpo::Fields(int colonna) {
   for (const auto& [assegnato, valore] : preparati_) {
@@ -50,13 +43,9 @@ bool Recordset::Corpo::HaCampo(std::string_view nome) const {
 
 void Recordset::Corpo::Assegna(std::string_view nome, const Campo& valore) {
   const InfoTabella& tabella = TabellaDaScrivere();
-  const int colonna = tabella.colonne.Posizione(nome);
+  const int colonna = tabella.colonne.Richiedi(nome);
   if (preparazione_ == Preparazione::Nessuna) {
     throw ErroreEsecuzione(Errore::AggiornamentoSenzaEdit);
-  }
-  if (colonna < 0) {
-    throw ErroreEsecuzione(Errore::CampoNonTrovato,
-                           QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
   }
   RichiediTipo(tabella, colonna, valore);
   const std::string& spelta = tabella.colonne[colonna];

@@ -114,6 +114,23 @@ Recordset Database::OpenRecordset(const QString& origine, const QList<Campo>& pa
   return Recordset(std::make_unique<CorpoTabella>(connessione.shared_from_this(), origine));
 }
 
+std::vector<Riga> Database::LeggiRighe(const QString& istruzione,
+                                       const QList<Campo>& parametri) const {
+  Connessione& connessione = Connessa();
+  const Connessione::Prestito righe = connessione.Prepara(istruzione);
+  connessione.LegaTutti(righe, parametri);
+  std::vector<Riga> lette;
+  while (connessione.Passo(righe)) {
+    std::vector<Campo> valori;
+    valori.reserve(righe->colonne->Quante());
+    for (std::size_t i = 0; i < righe->colonne->Quante(); ++i) {
+      valori.push_back(righe->motore->Leggi(righe->Spostamento() + static_cast<int>(i)));
+    }
+    lette.emplace_back(righe->colonne, std::move(valori));
+  }
+  return lette;
+}
+
 qint64 Database::Execute(const QString& istruzione, const QList<Campo>& parametri) const {
   Connessione& connessione = Connessa();
   return connessione.Esegui(connessione.Prepara(istruzione), parametri);

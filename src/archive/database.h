@@ -17,6 +17,7 @@
 
 #include "archive/campo.h"
 #include "archive/recordset.h"
+#include "archive/riga.h"
 
 namespace torvi {
 
@@ -34,6 +35,9 @@ class Database {
   // The bare name of a table, or a statement that gives rows.
   [[nodiscard]] Recordset OpenRecordset(const QString& origine,
                                         const QList<Campo>& parametri = {}) const;
+  // All rows of a statement at once, where they are few and read more than once.
+  [[nodiscard]] std::vector<Riga> LeggiRighe(const QString& istruzione,
+                                             const QList<Campo>& parametri = {}) const;
   // A statement that gives none. Result: how many rows it changed.
   qint64 Execute(const QString& istruzione, const QList<Campo>& parametri = {}) const;
   void Close();

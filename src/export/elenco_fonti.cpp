@@ -1,6 +1,5 @@
 #include "export/elenco_fonti.h"
 
-#include "export/fonti_documento.h"
 #include "export/verifica_catalogo.h"
 #include "shell/valori.h"
 
@@ -10,7 +9,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 struct Citazione {
-  const Recordset& fonte;
+  const Riga& fonte;
   QString tp;
   QString testo;
 };
@@ -68,17 +67,18 @@ QString Elemento(const Citazione& citazione) {
 
 }  // namespace
 
-void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
-  Recordset fonti = FontiDocumento(contesto.stato.DbArchivio, idDoc);
-  if (fonti.Eof()) {
+void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<Riga>& fonti,
+                       const QString& idRecord) {
+  if (fonti.empty()) {
     if (contesto.stato.ControlloFonti) {
       contesto.fileErrori.Print("Manca fonte: "_L1 + idRecord);
     }
     return;
   }
   QString elenco;
-  for (bool prima = true; !fonti.Eof(); fonti.MoveNext(), prima = false) {
-    const Citazione citazione = {fonti, fonti.Fields("tp").Testo(), fonti.Fields("testo").Testo()};
+  for (const Riga& fonte : fonti) {
+    const bool prima = &fonte == &fonti.front();
+    const Citazione citazione = {fonte, fonte.Fields("tp").Testo(), fonte.Fields("testo").Testo()};
     if (!prima) elenco += QLatin1Char('\\');
     elenco += Elemento(citazione);
     for (const Controllo& controllo : kControlli) {

@@ -5,9 +5,11 @@
 
 namespace torvi {
 
-// Appends the field if the document has sources. A source that fails a check goes to the source
-// error file and stays in the list; a document without sources, where they are required, goes to
-// the generic one. A later source without `numero` (Null): error 94; see also VerificaCatalogo.
-void ScriviElencoFonti(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord);
+// `fonti` are the sources of the document. Appends the field if there are any. A source that fails
+// a check goes to the source error file and stays in the list; a document without sources, where
+// they are required, goes to the generic one. A later source without `numero` (Null): error 94; see
+// also VerificaCatalogo.
+void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<Riga>& fonti,
+                       const QString& idRecord);
 
 }  // namespace torvi

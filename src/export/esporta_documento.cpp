@@ -4,6 +4,7 @@
 
 #include "export/classi.h"
 #include "export/elenco_fonti.h"
+#include "export/fonti_documento.h"
 #include "export/fonti_etichettate.h"
 #include "export/riferimento.h"
 #include "export/testi.h"
@@ -132,8 +133,9 @@ void Documento::Testi() {
 }
 
 void Documento::Fonti() {
-  ScriviElencoFonti(contesto_, idDoc_, idRecord_);
-  if (flag_.flagIsis) ScriviFontiEtichettate(contesto_, idDoc_);
+  const std::vector<Riga> fonti = FontiDocumento(contesto_.stato.DbArchivio, idDoc_);
+  ScriviElencoFonti(contesto_, fonti, idRecord_);
+  if (flag_.flagIsis) ScriviFontiEtichettate(contesto_, fonti);
 }
 
 void Documento::Classificazione() {

@@ -2,8 +2,8 @@
 
 namespace torvi {
 
-Recordset FontiDocumento(const Database& archivio, qint64 idDoc) {
-  return archivio.OpenRecordset(
+std::vector<Riga> FontiDocumento(const Database& archivio, qint64 idDoc) {
+  return archivio.LeggiRighe(
       QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDDoc = ? and "
                      "legameDocFonte.IDFnt = tabFonte.IDFonte"),
       {idDoc});

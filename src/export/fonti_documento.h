@@ -6,6 +6,6 @@
 namespace torvi {
 
 // The sources of a document, in the order of its links.
-[[nodiscard]] Recordset FontiDocumento(const Database& archivio, qint64 idDoc);
+[[nodiscard]] std::vector<Riga> FontiDocumento(const Database& archivio, qint64 idDoc);
 
 }  // namespace torvi

@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "export/celex.h"
-#include "export/fonti_documento.h"
 #include "export/urn.h"
 
 namespace torvi {
@@ -86,7 +85,7 @@ class CampoEtichettato {
  public:
   explicit CampoEtichettato(ContestoEsportazione& contesto) : contesto_(contesto) {}
 
-  void AggiungiFonte(const Recordset& fonte);
+  void AggiungiFonte(const Riga& fonte);
   [[nodiscard]] const QString& Testo() const { return testo_; }
 
  private:
@@ -94,12 +93,11 @@ class CampoEtichettato {
     testo_ += QLatin1StringView(marca) + valore;
   }
   void SottocampoVuoto(const char* marca) { Sottocampo(marca, QStringLiteral(" ")); }
-  void TipoDiFonte(const Recordset& fonte, const QString& tp);
-  void Parte(const Recordset& fonte, const SottocampoTesto& parte);
-  const Recordset* Nome(const Recordset& fonte, const SottocampoChiave& nome,
-                        bool vuotoSeManca = true);
-  void Ente(const Recordset& fonte);
-  void Territorio(const Recordset& fonte);
+  void TipoDiFonte(const Riga& fonte, const QString& tp);
+  void Parte(const Riga& fonte, const SottocampoTesto& parte);
+  const Recordset* Nome(const Riga& fonte, const SottocampoChiave& nome, bool vuotoSeManca = true);
+  void Ente(const Riga& fonte);
+  void Territorio(const Riga& fonte);
 
   ContestoEsportazione& contesto_;
   QString testo_;
@@ -107,7 +105,7 @@ class CampoEtichettato {
   bool prima_ = true;
 };
 
-void CampoEtichettato::TipoDiFonte(const Recordset& fonte, const QString& tp) {
+void CampoEtichettato::TipoDiFonte(const Riga& fonte, const QString& tp) {
   const Famiglia* famiglia = FamigliaDi(tp, prima_);
   if (famiglia == nullptr) {
     SottocampoVuoto("^f");
@@ -124,7 +122,7 @@ void CampoEtichettato::TipoDiFonte(const Recordset& fonte, const QString& tp) {
   if (famiglia == &kInterna) urnCorrente_ = tipo.Fields("URN").TestoOVuoto();
 }
 
-void CampoEtichettato::Parte(const Recordset& fonte, const SottocampoTesto& parte) {
+void CampoEtichettato::Parte(const Riga& fonte, const SottocampoTesto& parte) {
   const Campo campo = fonte.Fields(parte.colonna);
   if (!campo.Presente()) {
     SottocampoVuoto(parte.marca);
@@ -136,7 +134,7 @@ void CampoEtichettato::Parte(const Recordset& fonte, const SottocampoTesto& part
 }
 
 // The row that the key names, if the source has one.
-const Recordset* CampoEtichettato::Nome(const Recordset& fonte, const SottocampoChiave& nome,
+const Recordset* CampoEtichettato::Nome(const Riga& fonte, const SottocampoChiave& nome,
                                         bool vuotoSeManca) {
   const Campo chiave = fonte.Fields(nome.chiave);
   if (chiave.Nullo() || chiave.Intero() == 0) {
@@ -149,12 +147,12 @@ const Recordset* CampoEtichettato::Nome(const Recordset& fonte, const Sottocampo
 }
 
 // The issuing body: an administration, an authority, or both under the same mark.
-void CampoEtichettato::Ente(const Recordset& fonte) {
+void CampoEtichettato::Ente(const Riga& fonte) {
   const bool amministrazione = Nome(fonte, kAmministrazione, false) != nullptr;
   Nome(fonte, kAutorita, !amministrazione);
 }
 
-void CampoEtichettato::Territorio(const Recordset& fonte) {
+void CampoEtichettato::Territorio(const Riga& fonte) {
   const Recordset* regione = Nome(fonte, kRegione);
   if (regione != nullptr && !urnCorrente_.isEmpty()) {
     CompletaUrn(urnCorrente_, regione->Fields("codRegioneURN").Testo());
@@ -165,7 +163,7 @@ void CampoEtichettato::Territorio(const Recordset& fonte) {
   }
 }
 
-void CampoEtichettato::AggiungiFonte(const Recordset& fonte) {
+void CampoEtichettato::AggiungiFonte(const Riga& fonte) {
   urnCorrente_.clear();
   if (!prima_) testo_ += QLatin1Char('\\');
   const QString tp = fonte.Fields("tp").Testo();
@@ -184,11 +182,10 @@ void CampoEtichettato::AggiungiFonte(const Recordset& fonte) {
 
 }  // namespace
 
-void ScriviFontiEtichettate(ContestoEsportazione& contesto, qint64 idDoc) {
-  Recordset fonti = FontiDocumento(contesto.stato.DbArchivio, idDoc);
-  if (fonti.Eof()) return;
+void ScriviFontiEtichettate(ContestoEsportazione& contesto, const std::vector<Riga>& fonti) {
+  if (fonti.empty()) return;
   CampoEtichettato campo(contesto);
-  for (; !fonti.Eof(); fonti.MoveNext()) campo.AggiungiFonte(fonti);
+  for (const Riga& fonte : fonti) campo.AggiungiFonte(fonte);
   contesto.record.AggiungiTesto(tag::kFontiEtichettate, campo.Testo());
 }
 

@@ -17,7 +17,7 @@ constexpr QLatin1StringView kAttiCoperti[] = {
 
 }  // namespace
 
-EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const Recordset& fonte) {
+EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const Riga& fonte) {
   const QString fonteNorm =
       contesto.codici.Cerca("TabFonteInterna", fonte.Fields("fonte")).Fields("FonteNorm").Testo();
   if (std::ranges::find(kAttiCoperti, fonteNorm) == std::end(kAttiCoperti)) {

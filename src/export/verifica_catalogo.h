@@ -13,7 +13,6 @@ enum class EsitoCatalogo {
 
 // `fonte` is a row of TabFonte. A `fonte` without its row in TabFonteInterna: error 3021; a
 // catalogue that is needed and not there: error 3024.
-[[nodiscard]] EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto,
-                                             const Recordset& fonte);
+[[nodiscard]] EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const Riga& fonte);
 
 }  // namespace torvi

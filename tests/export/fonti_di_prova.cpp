@@ -5,6 +5,7 @@
 #include "archive/schema.h"
 #include "export/catalogo_norme.h"
 #include "export/elenco_fonti.h"
+#include "export/fonti_documento.h"
 #include "export/fonti_etichettate.h"
 #include "shell/consegna.h"
 
@@ -68,13 +69,15 @@ EsitoScrittura FontiDiProva::Scrivi(const std::function<void(ContestoEsportazion
 
 EsitoScrittura FontiDiProva::Elenco() {
   return Scrivi([](ContestoEsportazione& contesto) {
-    ScriviElencoFonti(contesto, kDocumento, QStringLiteral("2001A0012"));
+    ScriviElencoFonti(contesto, FontiDocumento(contesto.stato.DbArchivio, kDocumento),
+                      QStringLiteral("2001A0012"));
   });
 }
 
 EsitoScrittura FontiDiProva::Etichettate() {
-  return Scrivi(
-      [](ContestoEsportazione& contesto) { ScriviFontiEtichettate(contesto, kDocumento); });
+  return Scrivi([](ContestoEsportazione& contesto) {
+    ScriviFontiEtichettate(contesto, FontiDocumento(contesto.stato.DbArchivio, kDocumento));
+  });
 }
 
 }  // namespace torvi

@@ -31,8 +31,10 @@ class VerificaCatalogoTest : public testing::Test {
     return Esito();
   }
   int Esito() {
-    const Recordset fonte = prova.stato.DbArchivio.OpenRecordset(
-        QStringLiteral("select * from TabFonte order by IDFonte desc"));
+    const Riga fonte =
+        prova.stato.DbArchivio
+            .LeggiRighe(QStringLiteral("select * from TabFonte order by IDFonte desc"))
+            .at(0);
     auto esito = EsitoCatalogo::Trovato;
     const EsitoScrittura scritto = prova.Scrivi(
         [&](ContestoEsportazione& contesto) { esito = VerificaCatalogo(contesto, fonte); });

@@ -1,0 +1,43 @@
+#include "archive/nomi_colonne.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "archive/errore.h"
+
+namespace torvi {
+namespace {
+
+char Minuscolo(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool Uguali(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return Minuscolo(x) == Minuscolo(y);
+         });
+}
+
+}  // namespace
+
+int NomiColonne::Posizione(std::string_view nome) const {
+  const auto posto = (std::bit_cast<std::uintptr_t>(nome.data()) >> 1) % ricordate_.size();
+  // The memory is only a hint: at the same address there may be another text by now.
+  const auto ricordata = static_cast<std::size_t>(ricordate_[posto]);
+  if (ricordata < nomi_.size() && Uguali(nomi_[ricordata], nome)) {
+    return static_cast<int>(ricordata);
+  }
+  for (std::size_t i = 0; i < nomi_.size(); ++i) {
+    if (!Uguali(nomi_[i], nome)) continue;
+    ricordate_[posto] = static_cast<qint16>(i);
+    return static_cast<int>(i);
+  }
+  return -1;
+}
+
+int NomiColonne::Richiedi(std::string_view nome) const {
+  const int posizione = Posizione(nome);
+  if (posizione >= 0) return posizione;
+  throw ErroreEsecuzione(Errore::CampoNonTrovato,
+                         QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
+}
+
+}  // namespace torvi

@@ -1,0 +1,29 @@
+// The names of a table's or a statement's columns.
+#pragma once
+
+#include <QtGlobal>
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace torvi {
+
+// A name is sought again and again by the same literal of the program: its address leads straight
+// to the column where it was found the time before.
+class NomiColonne {
+ public:
+  void Aggiungi(std::string_view nome) { nomi_.emplace_back(nome); }
+  // Without regard to case, the first of equal ones; -1 where there is none.
+  [[nodiscard]] int Posizione(std::string_view nome) const;
+  // The same; error 3265 where there is none.
+  [[nodiscard]] int Richiedi(std::string_view nome) const;
+  [[nodiscard]] std::size_t Quante() const { return nomi_.size(); }
+  [[nodiscard]] const std::string& operator[](std::size_t posto) const { return nomi_[posto]; }
+
+ private:
+  std::vector<std::string> nomi_;
+  mutable std::array<qint16, 64> ricordate_{};
+};
+
+}  // namespace torvi
