@@ -3,7 +3,7 @@
 namespace torvi {
 namespace {
 
-// `fonte` of TabFonte points to one of four tables by the kind of the source, and is not here.
+// By the kind of a source `fonte` points to one of four tables, or to none.
 constexpr Legame kLegami[] = {
     {"TabDocumento", "IDRifBibl", "TabRifBibl", "IDRifBibl", true},
     {"TabRifBibl", "IDRivista", "TabRivista", "IDRivista", false},
@@ -20,6 +20,11 @@ constexpr Legame kLegami[] = {
     {"TabClasse2000", "IDClasse2000-S", "TabClasse2000-S", "IDClasseS", false},
     {"TabClasse2000", "IDClasse2000-D", "TabClasse2000-D", "IDClasseD", true},
     {"TabClasse1999", "ID_PADRE", "TabClasse1999", "IDClasse1999", true},
+    {"TabFonte", "fonte", "TabFonteInterna", "IDFonteInterna", true,
+     "substr(a.[TP], 1, 2) IN ('LI', 'GI') OR a.[TP] = 'AC'"},
+    {"TabFonte", "fonte", "TabFonteInt", "IDFonteInt", true, "a.[TP] IN ('NIT', 'NIA', 'GEI')"},
+    {"TabFonte", "fonte", "TabFonteCom", "IDFonteCom", true, "a.[TP] IN ('NIC', 'GEC')"},
+    {"TabFonte", "fonte", "TabFonteCan", "IDFonteCan", true, "a.[TP] IN ('FCC', 'FCG')"},
     {"TabFonte", "IDRegione", "TabRegione", "IDRegione", true},
     {"TabFonte", "IDProvincia", "TabProvincia", "IDProvincia", true},
     {"TabFonte", "IDCitta", "TabCitta", "IDCitta", true},

@@ -1,7 +1,5 @@
 #include "archive/verifica.h"
 
-#include <QRegularExpression>
-
 #include "archive/connessione.h"
 #include "archive/legami.h"
 #include "archive/schema.h"
@@ -72,22 +70,33 @@ QStringList DifettiInfo(Connessione& motore) {
   return {QStringLiteral("La tabella TabInfo ha %1 righe invece di una.").arg(quante)};
 }
 
+bool HaColonna(Connessione& motore, const QStringList& presenti, const char* tabella,
+               const char* colonna) {
+  return Contiene(presenti, QLatin1String(tabella)) &&
+         motore.Tabella(QLatin1String(tabella)).colonne.Posizione(colonna) >= 0;
+}
+
 QStringList LegamiSospesi(Connessione& motore, const Legame& legame) {
   const std::string colonna = std::string("a.[") + legame.colonna + "]";
   const std::string condizione =
       legame.ammetteZero ? "coalesce(" + colonna + ", 0) <> 0 AND " : std::string();
-  const QStringList sospesi =
-      Righe(motore, "SELECT " + colonna + " FROM [" + legame.tabella + "] a WHERE " + condizione +
-                        "NOT EXISTS (SELECT 1 FROM [" + legame.destinazione + "] b WHERE b.[" +
-                        legame.chiave + "] = " + colonna + ") ORDER BY a.rowid");
-  if (sospesi.isEmpty()) return {};
-  QStringList primi = sospesi.mid(0, kNumeriMostrati);
-  primi.replaceInStrings(QRegularExpression(QStringLiteral("^$")), QStringLiteral("Null"));
-  if (sospesi.size() > kNumeriMostrati) primi += QStringLiteral("...");
-  return {QStringLiteral("%1.%2: %3 righe senza riscontro in %4 (%5).")
+  const Connessione::Prestito sospesi = motore.PreparaMotore(
+      "SELECT " + colonna + " FROM [" + legame.tabella + "] a WHERE (" + legame.quando + ") AND " +
+      condizione + "NOT EXISTS (SELECT 1 FROM [" + legame.destinazione + "] b WHERE b.[" +
+      legame.chiave + "] = " + colonna + ") ORDER BY a.rowid");
+  int quanti = 0;
+  QStringList primi;
+  for (; motore.Passo(sospesi); ++quanti) {
+    if (quanti > kNumeriMostrati) continue;
+    const Campo numero = sospesi->motore->Leggi(0);
+    primi += numero.Nullo() ? QStringLiteral("Null") : numero.Testo();
+  }
+  if (quanti == 0) return {};
+  if (quanti > kNumeriMostrati) primi.back() = QStringLiteral("...");
+  return {QStringLiteral("%1.%2: %3 senza riscontro in %4 (%5).")
               .arg(QLatin1String(legame.tabella), QLatin1String(legame.colonna),
-                   QString::number(sospesi.size()), QLatin1String(legame.destinazione),
-                   primi.join(QLatin1String(", ")))};
+                   quanti == 1 ? QStringLiteral("1 riga") : QStringLiteral("%1 righe").arg(quanti),
+                   QLatin1String(legame.destinazione), primi.join(QLatin1String(", ")))};
 }
 
 }  // namespace
@@ -112,8 +121,10 @@ QStringList VerificaArchivio(const Database& database) {
   const QStringList presenti = motore.Tabelle();
   if (Contiene(presenti, QStringLiteral("TabInfo"))) difetti += DifettiInfo(motore);
   for (const Legame& legame : LegamiArchivio()) {
-    if (!Contiene(presenti, legame.tabella) || !Contiene(presenti, legame.destinazione)) continue;
-    difetti += LegamiSospesi(motore, legame);
+    if (HaColonna(motore, presenti, legame.tabella, legame.colonna) &&
+        HaColonna(motore, presenti, legame.destinazione, legame.chiave)) {
+      difetti += LegamiSospesi(motore, legame);
+    }
   }
   return difetti;
 }
