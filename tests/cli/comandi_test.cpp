@@ -156,6 +156,34 @@ TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
   EXPECT_TRUE(Byte(Archivio()).startsWith("SQLite format 3"));
 }
 
+// As it came it cites a reference, a source text and numbers that are not there; mended, it goes
+// through.
+TEST_F(Genuini, AJetDeliveryIsExportedInThreeFlavours) {
+  const QStringList isis{QStringLiteral("esporta"), QStringLiteral("isis"), Archivio()};
+  const EsitoProgramma guasto = Esegui(isis);
+  EXPECT_EQ(guasto.codice, 1);
+  EXPECT_TRUE(guasto.errori.contains(QStringLiteral("\nErrore di run-time '3021': ")))
+      << guasto.errori.toStdString();
+  EXPECT_EQ(Uscita("lexxdump isis.A01").count(" 2AP=2001 NP=A"), 6);
+  {
+    const Database archivio = OpenDatabase(Archivio());
+    archivio.Execute(
+        QStringLiteral("delete * from TabDocumento where IDDocumento = 8 or IDDocumento = 11"));
+    archivio.Execute(QStringLiteral("update TabFonte set numero = \"\" where numero is null"));
+  }
+  for (const char* formato : {"isis", "cassazione", "storico"}) {
+    Riesce({QStringLiteral("esporta"), QString::fromLatin1(formato), Archivio()}, kFine);
+    const QByteArray file = Uscita(("lexxdump " + std::string(formato) + ".A01").c_str());
+    EXPECT_EQ(file.count(" 2AP=2001 NP=A"), 21) << formato;
+  }
+  EXPECT_EQ(Esegui({QStringLiteral("errori"), QStringLiteral("fonti"), Archivio()}).uscita,
+            QStringLiteral(
+                "Errori nelle fonti\r\n\r\n"
+                "Fonte TAR senza regione: Tribunale amministrativo regionale 2000 (2001A0013)\r\n"
+                "Fonte GICO con numero > 1000: C. Cost. 12 marzo 2001, n. 1005 (2001A0014)\r\n"
+                "Fonte GICO/GICA senza numero: ord. C. Cost. 2000 (2001A0014)\r\n\r\n"));
+}
+
 TEST_F(Genuini, AJetMasterMakesDeliveries) {
   const QString master = cartella_.Mdb(QStringLiteral("master.mdb"));
   Riesce({QStringLiteral("master"), master, QStringLiteral("--da"),
