@@ -18,5 +18,5 @@ sed -E '1!{/^[0-9]{4}[1-9A-Z][0-9]{4,}\r$/Q}' "$uscita" |
 echo
 echo "Righe nei file degli errori:"
 for file in errori errClasse errFonte; do
-  printf '  dump/%-14s %4d\n' "$file.A01" "$(grep -c . "$cartella/dump/$file.A01" || true)"
+  printf '  dump/%-14s %4d\n' "$file.A01" "$(grep -c $'[^\r]' "$cartella/dump/$file.A01" || true)"
 done
