@@ -39,7 +39,8 @@ std::unique_ptr<SQLite::Database> ApriMotore(const QString& percorso, Accesso ac
   auto motore = std::make_unique<SQLite::Database>(percorso.toStdString(), modo, kAttesaBloccoMs);
   RegistraFunzioni(motore->getHandle());
   // An archive is always one file, and what is written is on the disk.
-  motore->exec("PRAGMA synchronous = FULL; PRAGMA cache_size = -16000");
+  // Pages beyond 2 MB are as soon read again from the system's cache as they are made room for.
+  motore->exec("PRAGMA synchronous = FULL; PRAGMA cache_size = -2000");
   motore->exec("SELECT count(*) FROM sqlite_master");
   motore->exec("PRAGMA journal_mode = DELETE");
   return motore;
