@@ -9,5 +9,5 @@ cmake --build --preset dev
 registro=build/dev/prove.txt
 esito=0
 ctest --preset dev -j "$(nproc)" >"$registro" 2>&1 || esito=$?
-if [ "$esito" -ne 0 ]; then cat "$registro"; else tail -n 6 "$registro"; fi
+if [ "$esito" -ne 0 ]; then cat "$registro"; else sed -n '/tests passed/,$p' "$registro"; fi
 exit "$esito"
