@@ -28,11 +28,26 @@ class Tavola {
   }
   [[nodiscard]] char Byte(char16_t carattere) const { return byte_[carattere]; }
   [[nodiscard]] bool Manca(char16_t carattere) const { return byte_[carattere] == kMancante; }
+  // Most text is ASCII, which the table maps to itself: blocks of it are copied without a look-up.
+  void Converti(QStringView testo, char* byte) const {
+    constexpr qsizetype kBlocco = 32;
+    const char16_t* c = testo.utf16();
+    qsizetype restano = testo.size();
+    for (; restano >= kBlocco; restano -= kBlocco, c += kBlocco, byte += kBlocco) {
+      char16_t tutti = 0;
+      for (qsizetype i = 0; i < kBlocco; ++i) tutti |= c[i];
+      if (tutti < kFineAscii) {
+        for (qsizetype i = 0; i < kBlocco; ++i) byte[i] = static_cast<char>(c[i]);
+      } else {
+        for (qsizetype i = 0; i < kBlocco; ++i) byte[i] = byte_[c[i]];
+      }
+    }
+    for (; restano > 0; --restano) *byte++ = byte_[*c++];
+  }
   [[nodiscard]] QByteArray Converti(QStringView testo) const {
-    QByteArray risultato(testo.size(), Qt::Uninitialized);
-    char* byte = risultato.data();
-    for (const QChar c : testo) *byte++ = byte_[c.unicode()];
-    return risultato;
+    QByteArray byte(testo.size(), Qt::Uninitialized);
+    Converti(testo, byte.data());
+    return byte;
   }
 
  private:
@@ -51,12 +66,17 @@ void TogliAccenti(Tavola& tavola, char16_t primo, char16_t ultimo) {
   }
 }
 
-Tavola TavolaOem() {
+Tavola CostruisciOem() {
   Tavola tavola;
   tavola.MettiDa(kCp850);
   for (const auto& [carattere, byte] : kVicini) tavola.Metti(carattere, byte);
   TogliAccenti(tavola, 0x0100, 0x024F);
   TogliAccenti(tavola, 0x1E00, 0x1EFF);
+  return tavola;
+}
+
+const Tavola& TavolaOem() {
+  static const Tavola tavola = CostruisciOem();
   return tavola;
 }
 
@@ -69,9 +89,12 @@ Tavola TavolaAnsi() {
 
 }  // namespace
 
-QByteArray ConvertiOem(QStringView testo) {
-  static const Tavola tavola = TavolaOem();
-  return tavola.Converti(testo);
+QByteArray ConvertiOem(QStringView testo) { return TavolaOem().Converti(testo); }
+
+void AccodaOem(std::string& byte, QStringView testo) {
+  const std::size_t inizio = byte.size();
+  byte.resize(inizio + testo.size());
+  TavolaOem().Converti(testo, byte.data() + inizio);
 }
 
 QByteArray ConvertiAnsi(QStringView testo) {

@@ -3,12 +3,15 @@
 
 #include <QByteArray>
 #include <QString>
+#include <string>
 
 namespace torvi {
 
 // CP850, with the nearest character where there is one (curly quotes, dashes, ellipsis...) and '?'
 // otherwise. Control characters pass through unchanged.
 [[nodiscard]] QByteArray ConvertiOem(QStringView testo);
+// The same behind what is there.
+void AccodaOem(std::string& byte, QStringView testo);
 // Windows-1252, '?' for what it lacks.
 [[nodiscard]] QByteArray ConvertiAnsi(QStringView testo);
 [[nodiscard]] QString DaAnsi(QByteArrayView byte);

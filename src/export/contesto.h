@@ -3,8 +3,10 @@
 
 #include <QString>
 
+#include "export/coppie_decodificate.h"
 #include "export/file_testo.h"
 #include "export/record.h"
+#include "export/riga_riferimento.h"
 #include "export/tabelle_di_codici.h"
 #include "shell/stato_globale.h"
 
@@ -21,6 +23,8 @@ struct ContestoEsportazione {
   CatalogoNorme& catalogo;
   QString CodiciClasse = {};  // classification of the current document
   TabelleDiCodici codici{stato.DbArchivio};
+  CoppieDecodificate coppie = {};
+  LettoreRiferimenti riferimenti = {};
 };
 
 }  // namespace torvi

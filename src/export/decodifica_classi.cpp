@@ -6,20 +6,6 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 const QLatin1Char kSeparatore('\\');
-constexpr qsizetype kCodice = 5;  // characters of a systematic code and of a descriptor's
-
-QString Sistematico(TabelleDiCodici& codici, const QString& codice, QLatin1String separatore) {
-  const Recordset& riga = codici.Cerca("tabClasse2000-S", codice, "CodiceS");
-  return riga.Fields("sigla").Testo() + separatore + riga.Fields("descrizione").Testo();
-}
-
-// Empty for a piece without descriptor. What is no code of a descriptor is free text.
-QString Descrittore(TabelleDiCodici& codici, const QString& pezzo) {
-  if (pezzo.mid(kCodice, 1) != ";"_L1) return {};
-  const Recordset& riga =
-      codici.Cerca("tabClasse2000-D", pezzo.mid(kCodice + 1, kCodice), "CodiceD");
-  return "; "_L1 + (riga.NoMatch() ? pezzo.mid(kCodice + 1) : riga.Fields("descrizione").Testo());
-}
 
 // One code of the scheme before 2000: its own row, with that of its parent unless it stands at the
 // top.
@@ -73,8 +59,8 @@ void ScriviClassiStorico(ContestoEsportazione& contesto) {
   }
   QStringList classi;
   for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
-    classi += Sistematico(contesto.codici, pezzo.left(kCodice), "|"_L1) +
-              Descrittore(contesto.codici, pezzo);
+    const CoppiaDecodificata& coppia = contesto.coppie.Cerca(contesto.codici, pezzo);
+    classi += coppia.sigla + QLatin1Char('|') + coppia.descrizione + coppia.descrittore;
   }
   contesto.record.AggiungiTesto(tag::kClassiStorico, classi.join(kSeparatore));
 }
@@ -87,13 +73,13 @@ void ScriviClassiCassazione(ContestoEsportazione& contesto) {
   QString classi;
   QString ultimo;
   for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
-    const QString codice = pezzo.left(kCodice);
-    if (codice != ultimo) {
+    const CoppiaDecodificata& coppia = contesto.coppie.Cerca(contesto.codici, pezzo);
+    if (coppia.codice != ultimo) {
       if (!classi.isEmpty()) classi += kSeparatore;
-      classi += Sistematico(contesto.codici, codice, " "_L1);
+      classi += coppia.sigla + QLatin1Char(' ') + coppia.descrizione;
     }
-    classi += Descrittore(contesto.codici, pezzo);
-    ultimo = codice;
+    classi += coppia.descrittore;
+    ultimo = coppia.codice;
   }
   contesto.record.AggiungiTesto(tag::kClassiCassazione, classi);
 }

@@ -21,17 +21,19 @@ QStringView TogliPezzo(QStringView& resto, qsizetype massimo) {
   return pezzo;
 }
 
+void AggiungiRigaFile(std::string& byte, QStringView tag, QStringView contenuto,
+                      std::string_view fine) {
+  for (const QChar c : tag) byte += c.toLatin1();
+  AccodaOem(byte, contenuto);
+  byte += fine;
+}
+
 void AggiungiRigheCampo(std::string& byte, const Record::Riga& riga) {
-  const QByteArray tag = riga.tag.toLatin1();
-  const auto aggiungi = [&](QStringView contenuto, std::string_view fine) {
-    const QByteArray convertito = ConvertiOem(contenuto);
-    byte.append(tag.data(), tag.size()).append(convertito.data(), convertito.size()).append(fine);
-  };
   QStringView resto = riga.contenuto;
   while (resto.size() > kMassimoRiga) {
-    aggiungi(TogliPezzo(resto, kMassimoRiga), "\t\r\n");
+    AggiungiRigaFile(byte, riga.tag, TogliPezzo(resto, kMassimoRiga), "\t\r\n");
   }
-  aggiungi(resto, "\r\n");
+  AggiungiRigaFile(byte, riga.tag, resto, "\r\n");
 }
 
 }  // namespace

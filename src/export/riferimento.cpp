@@ -16,12 +16,12 @@ class Riferimento {
   Riferimento(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord)
       : contesto_(contesto), idDoc_(idDoc), idRecord_(idRecord) {}
 
-  void Primo(const Recordset& riga);
-  void Secondo(const Recordset& riga, const DatiDocumento& documento);
+  void Primo(const RigaRiferimento& riga);
+  void Secondo(const RigaRiferimento& riga, const DatiDocumento& documento);
 
  private:
-  void Data(const Recordset& riga, const CifreData& data);
-  void Fascicolo(const Recordset& riga, const CifreData& data);
+  void Data(const RigaRiferimento& riga, const CifreData& data);
+  void Fascicolo(const RigaRiferimento& riga, const CifreData& data);
   void Pagine(const QString& pagine);
   void TipoAbstract(const QString& tAbs);
   void Bibliografia(const QString& bib);
@@ -64,44 +64,41 @@ void Riferimento::Chiudi(const QString& tag) {
   RefCodificato_.clear();
 }
 
-void Riferimento::Primo(const Recordset& riga) {
-  Codifica("PER", riga.Fields("CPER").Testo());
-  Codifica("FR", riga.Fields("IDPeriodicita").Testo());
-  CodificaSePresente("SR", riga.Fields("Serie"), 2);
-  CodificaSePresente("ANN", riga.Fields("Annata"), 6);
-  RefEsteso_ = riga.Fields("TitoloRivista").Testo();
-  const CifreData data(riga.Fields("Data").TestoOVuoto());
+void Riferimento::Primo(const RigaRiferimento& riga) {
+  Codifica("PER", riga.CPER.Testo());
+  Codifica("FR", riga.IDPeriodicita.Testo());
+  CodificaSePresente("SR", riga.Serie, 2);
+  CodificaSePresente("ANN", riga.Annata, 6);
+  RefEsteso_ = riga.TitoloRivista.Testo();
+  const CifreData data(riga.Data.TestoOVuoto());
   Data(riga, data);
   Fascicolo(riga, data);
-  CodificaSePresente("SUPP", riga.Fields("Supplemento"), 3);
+  CodificaSePresente("SUPP", riga.Supplemento, 3);
   Chiudi(tag::kRiferimento);
   RefEsteso_ += QLatin1Char(',');
 }
 
-void Riferimento::Data(const Recordset& riga, const CifreData& data) {
-  if (!riga.Fields("Data").Presente()) return;
+void Riferimento::Data(const RigaRiferimento& riga, const CifreData& data) {
+  if (!riga.Data.Presente()) return;
   contesto_.stato.Dopo2000 = data.Anno() >= "2000"_L1;
   Aggiungi("DATA", ParteData(data, idRecord_.left(4)));
 }
 
-void Riferimento::Fascicolo(const Recordset& riga, const CifreData& data) {
+void Riferimento::Fascicolo(const RigaRiferimento& riga, const CifreData& data) {
   constexpr int kSenzaFascicoli = 9;
-  const Campo fascicolo = riga.Fields("Fascicolo");
-  if (fascicolo.Presente()) {
-    Aggiungi("FASC", ParteFascicolo(fascicolo.Testo(), data));
-  } else if (riga.Fields("IDPeriodicita").Intero() != kSenzaFascicoli) {
+  if (riga.Fascicolo.Presente()) {
+    Aggiungi("FASC", ParteFascicolo(riga.Fascicolo.Testo(), data));
+  } else if (riga.IDPeriodicita.Intero() != kSenzaFascicoli) {
     Segnala(QStringLiteral("Errore fascicolo mancante: "));
   }
 }
 
-void Riferimento::Secondo(const Recordset& riga, const DatiDocumento& documento) {
-  const Campo parte = riga.Fields("Parte");
-  if (parte.Presente()) {
-    Codifica("PT", parte.Testo());
-    RefEsteso_ += " pt"_L1 + kSegno + ". "_L1 + parte.Testo() + QLatin1Char(',');
+void Riferimento::Secondo(const RigaRiferimento& riga, const DatiDocumento& documento) {
+  if (riga.Parte.Presente()) {
+    Codifica("PT", riga.Parte.Testo());
+    RefEsteso_ += " pt"_L1 + kSegno + ". "_L1 + riga.Parte.Testo() + QLatin1Char(',');
   }
-  const Campo sezione = riga.Fields("Sezione");
-  if (sezione.Presente()) Codifica("SEZ", sezione.Testo() + QLatin1Char(','));
+  if (riga.Sezione.Presente()) Codifica("SEZ", riga.Sezione.Testo() + QLatin1Char(','));
   Pagine(documento.pagine);
   if (documento.td.isEmpty()) {
     Segnala(QStringLiteral("Errore TD mancante: "));
@@ -114,7 +111,7 @@ void Riferimento::Secondo(const Recordset& riga, const DatiDocumento& documento)
   CodificaLingua("LO", documento.lo);
   CodificaLingua("LR", documento.lr);
   CodificaLingua("LA", documento.la);
-  CodificaSePresente("VOL", riga.Fields("Volume"), 6);
+  CodificaSePresente("VOL", riga.Volume, 6);
   Chiudi(tag::kSecondoRiferimento);
   contesto_.record.AggiungiRiga(tag::kCitazione, Trim(RefEsteso_));
 }
@@ -155,10 +152,8 @@ void Riferimento::Bibliografia(const QString& bib) {
 
 void ScriviRiferimento(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
                        const DatiDocumento& documento) {
-  const Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
-      QStringLiteral("select * from tabRifBibl, tabRivista where tabRifBibl.IDRifBibl = ? and "
-                     "tabRifBibl.IDRivista = tabRivista.IDRivista"),
-      {static_cast<qint64>(documento.IDRifBibl)});
+  const RigaRiferimento& riga =
+      contesto.riferimenti.Leggi(contesto.stato.DbArchivio, documento.IDRifBibl);
   Riferimento riferimento(contesto, idDoc, idRecord);
   riferimento.Primo(riga);
   riferimento.Secondo(riga, documento);

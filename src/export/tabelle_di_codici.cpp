@@ -16,6 +16,12 @@ Recordset CercaPerChiave(const Database& archivio, const std::string& tabella,
 
 }  // namespace
 
+std::size_t TabelleDiCodici::Impronta::operator()(const Campo::Valore& chiave) const {
+  if (const auto* testo = std::get_if<QString>(&chiave)) return qHash(*testo);
+  const auto* numero = std::get_if<qint64>(&chiave);
+  return numero == nullptr ? 0 : static_cast<std::size_t>(*numero);
+}
+
 TabelleDiCodici::Tabella& TabelleDiCodici::Trova(std::string_view nome, std::string_view indice) {
   for (Tabella& tabella : tabelle_) {
     if (tabella.nome == nome && tabella.indice == indice) return tabella;

@@ -2,8 +2,8 @@
 // over and over, so each is sought once and remembered.
 #pragma once
 
-#include <map>
 #include <string>
+#include <unordered_map>
 
 #include "archive/database.h"
 
@@ -19,7 +19,10 @@ class TabelleDiCodici {
                                        std::string_view indice = "PrimaryKey");
 
  private:
-  using Righe = std::map<Campo::Valore, Recordset>;
+  struct Impronta {
+    std::size_t operator()(const Campo::Valore& chiave) const;
+  };
+  using Righe = std::unordered_map<Campo::Valore, Recordset, Impronta>;
   struct Tabella {
     std::string nome;
     std::string indice;

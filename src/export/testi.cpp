@@ -1,6 +1,5 @@
 #include "export/testi.h"
 
-#include <algorithm>
 #include <array>
 
 #include "shell/valori.h"
@@ -16,22 +15,22 @@ QString Nome(const Recordset& riga) {
   return primo + QLatin1Char('+') + Trim(riga.Fields("SecondoElemento").Testo());
 }
 
+// Looks at every place, without a branch: faster than stopping at the first on texts that are long
+// and seldom have any.
+bool HaCoppieDiSpazi(const QString& testo) {
+  const char16_t* c = QStringView(testo).utf16();
+  int coppie = 0;
+  for (qsizetype i = 0; i + 1 < testo.size(); ++i) {
+    coppie |= static_cast<int>(c[i] == u' ') & static_cast<int>(c[i + 1] == u' ');
+  }
+  return coppie != 0;
+}
+
 // Blanks around every backslash, and every pair of blanks closed up in one pass.
 QString Normalizza(QString testo) {
   if (testo.contains(QLatin1Char('\\'))) testo.replace("\\"_L1, " \\ "_L1);
-  const auto sonoSpazi = [](QChar a, QChar b) { return a == b && a == QLatin1Char(' '); };
-  if (std::adjacent_find(testo.cbegin(), testo.cend(), sonoSpazi) == testo.cend()) return testo;
-  const QChar* letto = testo.cbegin();
-  const QChar* const fine = testo.cend();
-  QString normale(testo.size(), Qt::Uninitialized);
-  QChar* scritto = normale.data();
-  while (letto != fine) {
-    const bool spazio = *letto == QLatin1Char(' ');
-    *scritto++ = *letto++;
-    if (spazio && letto != fine && *letto == QLatin1Char(' ')) ++letto;
-  }
-  normale.truncate(scritto - normale.constData());
-  return normale;
+  if (HaCoppieDiSpazi(testo)) testo.replace("  "_L1, " "_L1);
+  return testo;
 }
 
 struct Mancanza {

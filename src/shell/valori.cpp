@@ -1,6 +1,8 @@
 #include "shell/valori.h"
 
 #include <QStringList>
+#include <QVarLengthArray>
+#include <charconv>
 
 namespace torvi {
 namespace {
@@ -17,17 +19,26 @@ const QStringList& Mesi() {
 }  // namespace
 
 double Val(QStringView testo) {
-  QString numero;
+  QVarLengthArray<char, 32> cifre;
   bool punto = false;
+  bool segno = true;  // only in front
+  bool negativo = false;
   for (const QChar c : testo) {
     if (c.isSpace()) continue;
-    const bool segno = numero.isEmpty() && (c == u'-' || c == u'+');
     const bool separatore = c == u'.' && !punto;
-    if (!segno && !separatore && !(c >= u'0' && c <= u'9')) break;
+    if (segno && (c == u'-' || c == u'+')) {
+      negativo = c == u'-';
+    } else if (separatore || (c >= u'0' && c <= u'9')) {
+      cifre.append(c.toLatin1());
+    } else {
+      break;
+    }
     punto = punto || separatore;
-    numero += c;
+    segno = false;
   }
-  return numero.toDouble();
+  double valore = 0;
+  std::from_chars(cifre.cbegin(), cifre.cend(), valore);
+  return negativo ? -valore : valore;
 }
 
 QString RiempiZeri(const QString& testo, int larghezza) {

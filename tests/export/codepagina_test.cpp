@@ -30,6 +30,17 @@ TEST(CodePagina, OemTakesTheNearestCharacterOrAQuestionMark) {
   }
 }
 
+TEST(CodePagina, OemTreatsEveryPlaceOfALongTextAlike) {
+  const QString ascii = QString(70, u'a');
+  for (int i = 0; i < ascii.size(); ++i) {
+    QString testo = ascii;
+    testo[i] = u'è';
+    std::string byte = "prima";
+    AccodaOem(byte, testo);
+    EXPECT_EQ(byte, "prima" + std::string(i, 'a') + "\x8a" + std::string(69 - i, 'a'));
+  }
+}
+
 TEST(CodePagina, OemHoldsEveryLetterOfLatin1InItsOwnByte) {
   QString latin1;
   for (char16_t c = 0xA0; c <= 0xFF; ++c) latin1 += QChar(c);

@@ -1,10 +1,9 @@
-#include "documento_di_prova.h"
+#include "export/documento_di_prova.h"
 
 #include <QFile>
 #include <map>
 
 #include "archive/schema.h"
-#include "export/catalogo_norme.h"
 #include "shell/consegna.h"
 
 namespace torvi {
@@ -37,7 +36,6 @@ void CatalogoConUnaLegge(const CartellaDiProva& cartella) {
 DocumentiDiProva::DocumentiDiProva(const DatiConsegna& dati)
     : stato(cartella.StatoConConsegna(dati)) {
   LeggiInfoConsegna(stato);
-  UnitaDiScrittura unita(stato.DbArchivio);
   Riga("TabRivista",
        {{"CPER", "RGI"}, {"TitoloRivista", "Rivista giuridica"}, {"IDPeriodicita", 3}});
   Riga("TabBib", {{"IDBib", "0"}, {"TipoBibliografia", "senza note"}});
@@ -48,7 +46,6 @@ DocumentiDiProva::DocumentiDiProva(const DatiConsegna& dati)
   Riga("TabClasse1999", {{"Codice", "A1"}, {"descrizione", "Padre"}});
   Riga("TabClasse1999", {{"Codice", "A12"}, {"descrizione", "Figlio"}, {"ID_PADRE", 1}});
   Riga("TabFonteInterna", {{"FonteNorm", "l."}, {"URN", "urn:nir:stato:legge"}});
-  unita.Concludi();
 }
 
 qint64 DocumentiDiProva::Riga(const char* tabella, Valori valori) const {
@@ -99,7 +96,6 @@ void DocumentiDiProva::Codice1999(qint64 idDoc, qint64 idClasse) const {
 
 qint64 DocumentiDiProva::Esempio() const {
   CatalogoConUnaLegge(cartella);
-  UnitaDiScrittura unita(stato.DbArchivio);
   const qint64 riferimento = Riferimento({{"Annata", "47"}, {"Parte", "I"}});
   const qint64 idDoc = Documento({{"IDRifBibl", riferimento}, {"td", "02"}, {"TAbs", "600"}});
   Responsabile(idDoc, "Rossi", "Mario");
@@ -117,28 +113,11 @@ qint64 DocumentiDiProva::Esempio() const {
                                          {"articolo", "3"}});
   Riga("LegameDocFonte", {{"IDDoc", idDoc}, {"IDFnt", fonte}});
   Coppia(idDoc, {{"IDClasse2000-D", 1}});
-  unita.Concludi();
   return idDoc;
 }
 
 Scritto DocumentiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
-  Scritto scritto;
-  Record record;
-  {
-    CatalogoNorme catalogo(stato.CartellaApplicazione);
-    FileTesto errori(cartella.Dump(QStringLiteral("errori.A01")), Apertura::Scrittura);
-    FileTesto errClasse(cartella.Dump(QStringLiteral("errClasse.A01")), Apertura::Scrittura);
-    FileTesto errFonte(cartella.Dump(QStringLiteral("errFonte.A01")), Apertura::Scrittura);
-    ContestoEsportazione contesto = {stato, record, errori, errClasse, errFonte, catalogo};
-    scritto.errore = NumeroErrore([&] { scrittore(contesto); });
-  }
-  for (const Record::Riga& riga : record.RigheRecord()) {
-    scritto.campi += QString(riga.tag + riga.contenuto + "\n").toStdString();
-  }
-  scritto.errori = Dump("errori.A01");
-  scritto.errClasse = Dump("errClasse.A01");
-  scritto.errFonte = Dump("errFonte.A01");
-  return scritto;
+  return torvi::Scrivi(cartella, stato, scrittore);
 }
 
 std::string DocumentiDiProva::Dump(const char* nome) const {

@@ -1,22 +1,9 @@
 // A delivery with the code tables that the export reads, and documents made row by row.
 #pragma once
 
-#include <functional>
-#include <string>
-
-#include "comune/cartella_di_prova.h"
-#include "export/contesto.h"
+#include "export/scritto.h"
 
 namespace torvi {
-
-// What a field writer left: each field as tag and content, each message, one a line.
-struct Scritto {
-  std::string campi;
-  std::string errori;
-  std::string errClasse;
-  std::string errFonte;
-  int errore = 0;  // the run-time error that ended it
-};
 
 using Valori = std::initializer_list<std::pair<const char*, Campo>>;
 
@@ -48,6 +35,9 @@ class DocumentiDiProva {
   [[nodiscard]] Scritto Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
   // A file of dump/, or nothing where it is not there.
   [[nodiscard]] std::string Dump(const char* nome) const;
+
+ private:
+  UnitaDiScrittura unita_{stato.DbArchivio};  // one write for all rows of a test
 };
 
 }  // namespace torvi

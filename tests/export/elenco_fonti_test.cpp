@@ -43,10 +43,10 @@ TEST(ElencoFonti, TheMarkedKindsBearTheirCode) {
     prova.Fonte({{"TP", caso.tp}, {"testo", caso.testo}, {"numero", "1"}});
     atteso += (atteso == "10" ? "" : "\\") + std::string(caso.elemento);
   }
-  const EsitoScrittura esito = prova.Elenco();
+  const Scritto esito = prova.Elenco();
   EXPECT_EQ(esito.campi, atteso + "\n");
   EXPECT_EQ(esito.errori, "");
-  EXPECT_EQ(esito.erroriFonti, "");
+  EXPECT_EQ(esito.errFonte, "");
 }
 
 TEST(ElencoFonti, SourcesStandInTheOrderOfTheirLinks) {
@@ -71,11 +71,11 @@ TEST(ElencoFonti, ALongListBecomesSeveralFields) {
 
 TEST(ElencoFonti, ADocumentWithoutSourcesIsToldOnlyWhereTheyAreRequired) {
   FontiDiProva prova;
-  EsitoScrittura esito = prova.Elenco();
-  EXPECT_EQ(esito.campi + esito.errori + esito.erroriFonti, "");
+  Scritto esito = prova.Elenco();
+  EXPECT_EQ(esito.campi + esito.errori + esito.errFonte, "");
   prova.stato.ControlloFonti = true;
   esito = prova.Elenco();
-  EXPECT_EQ(esito.campi + esito.erroriFonti, "");
+  EXPECT_EQ(esito.campi + esito.errFonte, "");
   EXPECT_EQ(esito.errori, "Manca fonte: 2001A0012\r\n");
 }
 
@@ -133,11 +133,11 @@ TEST(ElencoFonti, EachCheckRunsOnItsPositions) {
     };
     prova.TogliFonti();
     aggiungi();
-    EXPECT_EQ(prova.Elenco().erroriFonti, messaggio(caso.prima)) << caso.tp << caso.numero;
+    EXPECT_EQ(prova.Elenco().errFonte, messaggio(caso.prima)) << caso.tp << caso.numero;
     prova.TogliFonti();
     prova.Fonte({{"TP", "GICO"}, {"testo", "prima"}});
     aggiungi();
-    EXPECT_EQ(prova.Elenco().erroriFonti, messaggio(caso.seguente)) << caso.tp << caso.numero;
+    EXPECT_EQ(prova.Elenco().errFonte, messaggio(caso.seguente)) << caso.tp << caso.numero;
   }
 }
 
@@ -170,7 +170,7 @@ TEST(ElencoFonti, EachActOfARunIsJudgedByItself) {
                  {"numero", caso.numero}});
     if (caso.errata) attesi += "Fonte errata: " + testo.toStdString() + " (2001A0012)\r\n";
   }
-  EXPECT_EQ(prova.Elenco().erroriFonti, attesi);
+  EXPECT_EQ(prova.Elenco().errFonte, attesi);
 }
 
 TEST(ElencoFonti, ANullNumberEndsTheRunOnALaterSourceOnly) {
@@ -178,10 +178,10 @@ TEST(ElencoFonti, ANullNumberEndsTheRunOnALaterSourceOnly) {
   prova.Fonte({{"TP", "GICO"}, {"testo", "prima"}});
   EXPECT_EQ(prova.Elenco().errore, 0);
   prova.Fonte({{"TP", "GIA"}, {"testo", "seconda"}, {"fonte", 117}, {"IDRegione", 0}});
-  const EsitoScrittura esito = prova.Elenco();
+  const Scritto esito = prova.Elenco();
   EXPECT_EQ(esito.errore, 94);
   EXPECT_EQ(esito.campi, "");
-  EXPECT_EQ(esito.erroriFonti, "Fonte TAR senza regione: seconda (2001A0012)\r\n");
+  EXPECT_EQ(esito.errFonte, "Fonte TAR senza regione: seconda (2001A0012)\r\n");
 }
 
 }  // namespace

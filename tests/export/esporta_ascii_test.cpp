@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "comune/dialoghi_scritti.h"
-#include "documento_di_prova.h"
+#include "export/documento_di_prova.h"
 
 namespace torvi {
 namespace {

@@ -3,7 +3,6 @@
 #include <QFile>
 
 #include "archive/schema.h"
-#include "export/catalogo_norme.h"
 #include "export/elenco_fonti.h"
 #include "export/fonti_documento.h"
 #include "export/fonti_etichettate.h"
@@ -45,36 +44,18 @@ void FontiDiProva::NuovoCatalogo(const char* abbreviazione) const {
             {"promulgazione", "07/08/1990"}});
 }
 
-EsitoScrittura FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
-  const QString nomi[] = {cartella.Dump(QStringLiteral("errori.A01")),
-                          cartella.Dump(QStringLiteral("errClasse.A01")),
-                          cartella.Dump(QStringLiteral("errFonte.A01"))};
-  EsitoScrittura esito;
-  Record record;
-  {
-    CatalogoNorme catalogo(stato.CartellaApplicazione);
-    FileTesto errori(nomi[0], Apertura::Scrittura);
-    FileTesto errClasse(nomi[1], Apertura::Scrittura);
-    FileTesto errFonte(nomi[2], Apertura::Scrittura);
-    ContestoEsportazione contesto = {stato, record, errori, errClasse, errFonte, catalogo};
-    esito.errore = NumeroErrore([&] { scrittore(contesto); });
-  }
-  for (const Record::Riga& riga : record.RigheRecord()) {
-    esito.campi += riga.tag.toStdString() + riga.contenuto.toStdString() + "\n";
-  }
-  esito.errori = Byte(nomi[0]).toStdString();
-  esito.erroriFonti = Byte(nomi[2]).toStdString();
-  return esito;
+Scritto FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
+  return torvi::Scrivi(cartella, stato, scrittore);
 }
 
-EsitoScrittura FontiDiProva::Elenco() {
+Scritto FontiDiProva::Elenco() {
   return Scrivi([](ContestoEsportazione& contesto) {
     ScriviElencoFonti(contesto, FontiDocumento(contesto.stato.DbArchivio, kDocumento),
                       QStringLiteral("2001A0012"));
   });
 }
 
-EsitoScrittura FontiDiProva::Etichettate() {
+Scritto FontiDiProva::Etichettate() {
   return Scrivi([](ContestoEsportazione& contesto) {
     ScriviFontiEtichettate(contesto, FontiDocumento(contesto.stato.DbArchivio, kDocumento));
   });

@@ -2,20 +2,10 @@
 #pragma once
 
 #include <functional>
-#include <string>
 
-#include "comune/cartella_di_prova.h"
-#include "export/contesto.h"
+#include "export/scritto.h"
 
 namespace torvi {
-
-// What a writer left: each field as tag and content, each message as a line, one after the other.
-struct EsitoScrittura {
-  std::string campi;
-  std::string errori;
-  std::string erroriFonti;
-  int errore = 0;  // the run-time error that ended it
-};
 
 using Valori = std::initializer_list<std::pair<const char*, Campo>>;
 
@@ -34,9 +24,9 @@ class FontiDiProva {
   void NuovoCatalogo(const char* abbreviazione) const;
 
   // A fresh run with its own files; errors of `scrittore` are caught.
-  EsitoScrittura Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
-  [[nodiscard]] EsitoScrittura Elenco();
-  [[nodiscard]] EsitoScrittura Etichettate();
+  Scritto Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
+  [[nodiscard]] Scritto Elenco();
+  [[nodiscard]] Scritto Etichettate();
 
  private:
   UnitaDiScrittura unita_{stato.DbArchivio};  // one write for all rows of a test

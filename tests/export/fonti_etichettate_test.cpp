@@ -20,8 +20,8 @@ class FontiEtichettateTest : public testing::Test {
 
   // Field 22 without its tag and end of line, or the number of the run-time error.
   std::string Campo22() {
-    const EsitoScrittura esito = prova.Etichettate();
-    EXPECT_EQ(esito.errori + esito.erroriFonti, "");
+    const Scritto esito = prova.Etichettate();
+    EXPECT_EQ(esito.errori + esito.errFonte, "");
     if (esito.errore != 0) return std::to_string(esito.errore);
     EXPECT_EQ(esito.campi.substr(0, 2), "22");
     return esito.campi.substr(2, esito.campi.size() - 3);

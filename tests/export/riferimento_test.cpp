@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "documento_di_prova.h"
+#include "export/documento_di_prova.h"
 
 namespace torvi {
 namespace {

@@ -36,7 +36,7 @@ class VerificaCatalogoTest : public testing::Test {
             .LeggiRighe(QStringLiteral("select * from TabFonte order by IDFonte desc"))
             .at(0);
     auto esito = EsitoCatalogo::Trovato;
-    const EsitoScrittura scritto = prova.Scrivi(
+    const Scritto scritto = prova.Scrivi(
         [&](ContestoEsportazione& contesto) { esito = VerificaCatalogo(contesto, fonte); });
     return scritto.errore != 0 ? scritto.errore : static_cast<int>(esito);
   }

@@ -1,0 +1,32 @@
+#include "export/scritto.h"
+
+#include "export/catalogo_norme.h"
+
+namespace torvi {
+
+Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
+               const std::function<void(ContestoEsportazione&)>& scrittore) {
+  const QString errori = cartella.Dump(QStringLiteral("errori.A01"));
+  const QString errClasse = cartella.Dump(QStringLiteral("errClasse.A01"));
+  const QString errFonte = cartella.Dump(QStringLiteral("errFonte.A01"));
+  Scritto scritto;
+  Record record;
+  {
+    CatalogoNorme catalogo(stato.CartellaApplicazione);
+    FileTesto fileErrori(errori, Apertura::Scrittura);
+    FileTesto fileErrClasse(errClasse, Apertura::Scrittura);
+    FileTesto fileErrFonte(errFonte, Apertura::Scrittura);
+    ContestoEsportazione contesto = {stato,         record,       fileErrori,
+                                     fileErrClasse, fileErrFonte, catalogo};
+    scritto.errore = NumeroErrore([&] { scrittore(contesto); });
+  }
+  for (const Record::Riga& riga : record.RigheRecord()) {
+    scritto.campi += QString(riga.tag + riga.contenuto + "\n").toStdString();
+  }
+  scritto.errori = Byte(errori).toStdString();
+  scritto.errClasse = Byte(errClasse).toStdString();
+  scritto.errFonte = Byte(errFonte).toStdString();
+  return scritto;
+}
+
+}  // namespace torvi
