@@ -4,7 +4,7 @@
 
 namespace torvi {
 
-CorpoTabella::CorpoTabella(std::shared_ptr<Connessione> connessione, const QString& tabella)
+CorpoTabella::CorpoTabella(const std::shared_ptr<Connessione>& connessione, const QString& tabella)
     : Corpo(connessione), tabella_(connessione->Tabella(tabella)) {}
 
 bool CorpoTabella::Leggi1(const std::string& condizione, const QList<Campo>& parametri,

@@ -8,7 +8,7 @@ namespace torvi {
 
 class CorpoTabella final : public Recordset::Corpo {
  public:
-  CorpoTabella(std::shared_ptr<Connessione> connessione, const QString& tabella);
+  CorpoTabella(const std::shared_ptr<Connessione>& connessione, const QString& tabella);
 
   [[nodiscard]] bool Eof() override;
   [[nodiscard]] bool Bof() override;

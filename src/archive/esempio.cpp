@@ -92,6 +92,7 @@ class Redazione {
   std::vector<FonteCitata> Fonti(const Area& area, std::size_t& turno, Sorte& sorte) {
     const int quante = area.fonti + sorte.Fino(2);
     std::vector<FonteCitata> fonti;
+    fonti.reserve(static_cast<std::size_t>(quante));
     for (int i = 0; i < quante; ++i) {
       fonti.push_back(citazioni_.Componi(area.generi[turno++ % area.generi.size()], sorte));
     }

@@ -19,7 +19,7 @@ QString NomePassaggio(const QString& destinazione) {
   const QString base =
       destinazione % QStringLiteral(".%1-").arg(QCoreApplication::applicationPid());
   for (int n = 0;; ++n) {
-    const QString nome = base % QString::number(n);
+    QString nome = base % QString::number(n);
     if (!QFile::exists(nome)) return nome;
   }
 }
