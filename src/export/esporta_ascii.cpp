@@ -1,5 +1,6 @@
 #include "export/esporta_ascii.h"
 
+#include "archive/errore.h"
 #include "export/catalogo_norme.h"
 #include "export/contesto.h"
 #include "export/esporta_documento.h"
@@ -84,6 +85,16 @@ Destinazione ChiediDestinazione(StatoGlobale& stato, Dialoghi& dialoghi,
           stato.SiglaConsegna, Apertura::Scrittura};
 }
 
+// A failure ends the run; the operator has to know on which document.
+ErroreEsecuzione NelDocumento(const ErroreEsecuzione& errore, const Recordset& documenti,
+                              const StatoGlobale& stato) {
+  return ErroreEsecuzione::ConDescrizione(
+      static_cast<Errore>(errore.Numero()),
+      QStringLiteral("%1 (documento %2, %3)")
+          .arg(errore.Descrizione(), documenti.Fields("IDDocumento").Testo(),
+               stato.PrefissoDoc + NumeroDoc(stato)));
+}
+
 void EsportaDocumenti(ContestoEsportazione& contesto, Dialoghi& dialoghi,
                       const FlagEsportazione& flag, FileTesto& uscita) {
   constexpr int kPasso = 100;
@@ -99,7 +110,11 @@ void EsportaDocumenti(ContestoEsportazione& contesto, Dialoghi& dialoghi,
     if (fatto % kPasso == 0) {
       dialoghi.Avanzamento(QStringLiteral("Esportazione"), fatto, static_cast<int>(totale));
     }
-    EsportaDocumento(contesto, flag, documenti, uscita);
+    try {
+      EsportaDocumento(contesto, flag, documenti, uscita);
+    } catch (const ErroreEsecuzione& errore) {
+      throw NelDocumento(errore, documenti, contesto.stato);
+    }
   }
 }
 

@@ -315,6 +315,22 @@ TEST(EsportaAscii, ARunThatFailsLeavesWholeRecords) {
   }
 }
 
+TEST(EsportaAscii, ARunThatFailsNamesTheDocument) {
+  DocumentiDiProva prova;
+  prova.Esempio();
+  prova.Documento({{"IDRifBibl", 0}});
+  DialoghiScritti dialoghi;
+  Domande(dialoghi, Risposta::No, Risposta::No);
+  try {
+    EsportaAscii(prova.stato, dialoghi, kEsportaIsis);
+    FAIL() << "a document without its reference went through";
+  } catch (const ErroreEsecuzione& errore) {
+    EXPECT_EQ(errore.Numero(), 3021);
+    EXPECT_TRUE(errore.Descrizione().endsWith(QStringLiteral(" (documento 2, 2001A0013)")))
+        << errore.what();
+  }
+}
+
 TEST(EsportaAscii, TheNumberOfADocumentFitsSixteenBits) {
   DocumentiDiProva prova({.inizio = "32767"});
   prova.Documento({{"IDRifBibl", prova.Riferimento()}});
