@@ -11,8 +11,9 @@ namespace {
 constexpr std::array<QStringView, 12> kMesi = {u"gennaio",   u"febbraio", u"marzo",    u"aprile",
                                                u"maggio",    u"giugno",   u"luglio",   u"agosto",
                                                u"settembre", u"ottobre",  u"novembre", u"dicembre"};
-// Of one kind; there are some forty.
-constexpr int kMassimoDistinte = 700;
+// Citations of one kind that are all new; of those after them one in four is. There are some forty
+// kinds, so that the keys of the longest delivery fit 16 signed bits.
+constexpr std::size_t kSempreNuove = 30;
 constexpr std::array<QStringView, 4> kOrdinali = {u"bis", u"ter", u"quater", u"quinquies"};
 
 // The kinds of act that the export looks up in the norm catalogue.
@@ -51,8 +52,7 @@ void Citazioni::Prepara(Stato& stato) {
 
 FonteCitata Citazioni::Componi(Genere genere, Sorte& sorte) {
   Stato& stato = stati_.at(genere);
-  const auto composte = static_cast<int>(stato.composte.size());
-  if (composte > 0 && sorte.Fino(kMassimoDistinte) < composte) return sorte.Scegli(stato.composte);
+  if (stato.composte.size() >= kSempreNuove && !sorte.Una(4)) return sorte.Scegli(stato.composte);
   Composizione composizione{tavole_, stato.atti, stato.liberi, stato.noti, stato.giro++, sorte, {}};
   composizione.fonte.tp = QString::fromLatin1(stato.regola->tp);
   stato.regola->componi(composizione);

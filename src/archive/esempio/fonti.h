@@ -42,8 +42,7 @@ class Citazioni {
  public:
   // A kind without any row in its catalogue: error 3011.
   explicit Citazioni(const Tavole& tavole);
-  // A new citation or, more and more often, one that was given before: the keys of sources must fit
-  // 16 signed bits.
+  // A new citation or, mostly, one that was given before: documents share their sources.
   [[nodiscard]] FonteCitata Componi(Genere genere, Sorte& sorte);
 
  private:
