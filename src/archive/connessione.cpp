@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 #include "archive/traduttore.h"
 
@@ -114,12 +115,21 @@ std::unique_ptr<Preparata> Connessione::Nuova(const std::string& sql, const QStr
   return nuova;
 }
 
-Connessione::Prestito Connessione::Prepara(const QString& istruzione) {
-  RichiediAperta();
+Connessione::Scaffale& Connessione::ScaffaleDi(const QString& istruzione) {
+  const auto indirizzo = std::bit_cast<std::uintptr_t>(istruzione.constData());
+  auto*& recente = recenti_[(indirizzo >> 4) % recenti_.size()];
+  if (recente != nullptr && recente->first == istruzione) return recente->second;
   if (dialetto_.size() >= kTestiTenuti) {
     std::erase_if(dialetto_, [](const auto& voce) { return voce.second.prestate == 0; });
+    recenti_.fill(nullptr);
   }
-  Scaffale& scaffale = dialetto_[istruzione];
+  recente = &*dialetto_.try_emplace(istruzione).first;
+  return recente->second;
+}
+
+Connessione::Prestito Connessione::Prepara(const QString& istruzione) {
+  RichiediAperta();
+  Scaffale& scaffale = ScaffaleDi(istruzione);
   if (!scaffale.libere.empty()) return Presta(scaffale, nullptr);
   const Traduzione traduzione = Traduci(istruzione);
   auto nuova = Nuova(traduzione.sql.toStdString(), istruzione);
@@ -238,6 +248,7 @@ void Connessione::ConcludiUnita() {
 }
 
 void Connessione::Chiudi() {
+  recenti_.fill(nullptr);
   dialetto_.clear();
   interne_.clear();
   for (Preparata* const prestata : prestate_) prestata->motore.reset();

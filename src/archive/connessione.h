@@ -91,6 +91,7 @@ class Connessione : public std::enable_shared_from_this<Connessione> {
   [[nodiscard]] const QString& Percorso() const { return percorso_; }
 
  private:
+  [[nodiscard]] Scaffale& ScaffaleDi(const QString& istruzione);
   [[nodiscard]] Prestito Presta(Scaffale& scaffale, std::unique_ptr<Preparata> nuova);
   [[nodiscard]] std::unique_ptr<Preparata> Nuova(const std::string& sql, const QString& dettaglio);
   [[nodiscard]] InfoTabella LeggiTabella(const QString& nome);
@@ -98,6 +99,8 @@ class Connessione : public std::enable_shared_from_this<Connessione> {
   QString percorso_;
   std::unique_ptr<SQLite::Database> motore_;
   std::unordered_map<QString, Scaffale> dialetto_;
+  // Where the literals of the program were found the time before, by their addresses.
+  std::array<std::pair<const QString, Scaffale>*, 64> recenti_{};
   std::unordered_map<std::string, Scaffale> interne_;  // already in the engine's words
   std::vector<Preparata*> prestate_;
   std::unordered_map<std::string, InfoTabella> tabelle_;

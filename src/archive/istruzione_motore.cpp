@@ -58,17 +58,19 @@ void IstruzioneMotore::Esegui() {
 }
 
 Campo IstruzioneMotore::Leggi(int colonna) const {
-  sqlite3_stmt* const istruzione = istruzione_.get();
-  switch (sqlite3_column_type(istruzione, colonna)) {
+  // The value itself, since each question about a column goes through the statement again. The
+  // engine allows it where no other thread has the connection.
+  sqlite3_value* const valore = sqlite3_column_value(istruzione_.get(), colonna);
+  switch (sqlite3_value_type(valore)) {
     case SQLITE_INTEGER:
-      return Campo(static_cast<qint64>(sqlite3_column_int64(istruzione, colonna)));
+      return Campo(static_cast<qint64>(sqlite3_value_int64(valore)));
     case SQLITE_FLOAT:
-      return Campo(sqlite3_column_double(istruzione, colonna));
+      return Campo(sqlite3_value_double(valore));
     case SQLITE_NULL:
       return {};
     default: {
-      const auto* byte = reinterpret_cast<const char*>(sqlite3_column_text(istruzione, colonna));
-      return Campo(QString::fromUtf8(byte, sqlite3_column_bytes(istruzione, colonna)));
+      const auto* byte = reinterpret_cast<const char*>(sqlite3_value_text(valore));
+      return Campo(QString::fromUtf8(byte, sqlite3_value_bytes(valore)));
     }
   }
 }

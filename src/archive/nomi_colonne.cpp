@@ -19,10 +19,10 @@ bool Uguali(std::string_view a, std::string_view b) {
 }  // namespace
 
 int NomiColonne::Posizione(std::string_view nome) const {
-  const auto posto = (std::bit_cast<std::uintptr_t>(nome.data()) >> 1) % ricordate_.size();
+  const auto posto = std::bit_cast<std::uintptr_t>(nome.data()) % ricordate_.size();
   // The memory is only a hint: at the same address there may be another text by now.
   const auto ricordata = static_cast<std::size_t>(ricordate_[posto]);
-  if (ricordata < nomi_.size() && Uguali(nomi_[ricordata], nome)) {
+  if (ricordata < nomi_.size() && (nomi_[ricordata] == nome || Uguali(nomi_[ricordata], nome))) {
     return static_cast<int>(ricordata);
   }
   for (std::size_t i = 0; i < nomi_.size(); ++i) {

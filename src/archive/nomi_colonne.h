@@ -23,7 +23,7 @@ class NomiColonne {
 
  private:
   std::vector<std::string> nomi_;
-  mutable std::array<qint16, 64> ricordate_{};
+  mutable std::array<qint16, 256> ricordate_{};
 };
 
 }  // namespace torvi

@@ -6,7 +6,7 @@
 #include "export/coppie_decodificate.h"
 #include "export/file_testo.h"
 #include "export/record.h"
-#include "export/riga_riferimento.h"
+#include "export/riferimento_fascicolo.h"
 #include "export/tabelle_di_codici.h"
 #include "shell/stato_globale.h"
 

@@ -44,7 +44,7 @@ class Documento {
   void Fonti();
   void Classificazione();
 
-  bool Testo(const char* tipo, const char* nome, const QString& tag);
+  bool Testo(const CampoTesto& campo);
   void Segnala(const char* messaggio, const QString& coda);
 
   ContestoEsportazione& contesto_;
@@ -75,7 +75,7 @@ void Documento::Componi() {
   Testi();
   Fonti();
   Classificazione();
-  Testo("6", "nota amb", tag::kNotaAmb);
+  Testo(testo::kNotaAmb);
 }
 
 void Documento::Identifica() {
@@ -104,8 +104,8 @@ void Documento::Riferimento() {
 }
 
 void Documento::TitoloETraduzione() {
-  Testo("0", "titolo", tag::kTitolo);
-  traduzione_ = Testo("3", "traduzione", tag::kTraduzione);
+  Testo(testo::kTitolo);
+  traduzione_ = Testo(testo::kTraduzione);
 }
 
 void Documento::Nota() {
@@ -117,15 +117,16 @@ void Documento::Nota() {
     return;
   }
   for (const TagNota& nota : kTagNota) {
-    if (td_ == QLatin1String(nota.td)) Testo("4", "nota", QString::fromLatin1(nota.tag));
+    if (td_ != QLatin1String(nota.td)) continue;
+    Testo({QStringLiteral("4"), QStringLiteral("nota"), QString::fromLatin1(nota.tag)});
   }
 }
 
 void Documento::Testi() {
-  Testo("1", "riassunto", tag::kRiassunto);
-  Testo("2", "sommario", tag::kSommario);
-  Testo("7", "in tema di", tag::kInTemaDi);
-  const bool inglese = Testo("8", "english abstract", tag::kEnglishAbstract);
+  Testo(testo::kRiassunto);
+  Testo(testo::kSommario);
+  Testo(testo::kInTemaDi);
+  const bool inglese = Testo(testo::kEnglishAbstract);
   if (inglese && !traduzione_) {
     Segnala("C'è abstract in inglese e manca traduzione del titolo: rec. ",
             QString::number(idDoc_));
@@ -149,9 +150,8 @@ void Documento::Classificazione() {
   if (flag_.flagCassazione) ScriviClassiCassazione(contesto_);
 }
 
-bool Documento::Testo(const char* tipo, const char* nome, const QString& tag) {
-  return ScriviTesto(contesto_, testi_, idRecord_,
-                     {QString::fromLatin1(tipo), QString::fromLatin1(nome), tag}, td_, tAbs_);
+bool Documento::Testo(const CampoTesto& campo) {
+  return ScriviTesto(contesto_, testi_, idRecord_, campo, td_, tAbs_);
 }
 
 void Documento::Segnala(const char* messaggio, const QString& coda) {

@@ -49,6 +49,11 @@ bool InOrdine(const QString& pagine) {
 
 }  // namespace
 
+void AggiungiSottocampo(QString& codificato, const char* nome, const QString& valore) {
+  if (!codificato.isEmpty()) codificato += QLatin1Char(' ');
+  codificato += QLatin1String(nome) + QLatin1Char('=') + valore;
+}
+
 Parte ParteData(const CifreData& data, const QString& annoProduzione) {
   Parte parte;
   const QString anno = data.Anno();

@@ -23,6 +23,9 @@ class CifreData {
   QString cifre_;
 };
 
+// Behind a blank, where something stands before it: the name, "=" and the value.
+void AggiungiSottocampo(QString& codificato, const char* nome, const QString& valore);
+
 // What a part adds to the coded reference and to the citation, and the messages it raises.
 struct Parte {
   QString codice;

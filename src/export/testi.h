@@ -12,6 +12,20 @@ struct CampoTesto {
   QString nome;
   QString tag;
 };
+namespace testo {
+inline const CampoTesto kTitolo = {QStringLiteral("0"), QStringLiteral("titolo"), tag::kTitolo};
+inline const CampoTesto kRiassunto = {QStringLiteral("1"), QStringLiteral("riassunto"),
+                                      tag::kRiassunto};
+inline const CampoTesto kSommario = {QStringLiteral("2"), QStringLiteral("sommario"),
+                                     tag::kSommario};
+inline const CampoTesto kTraduzione = {QStringLiteral("3"), QStringLiteral("traduzione"),
+                                       tag::kTraduzione};
+inline const CampoTesto kNotaAmb = {QStringLiteral("6"), QStringLiteral("nota amb"), tag::kNotaAmb};
+inline const CampoTesto kInTemaDi = {QStringLiteral("7"), QStringLiteral("in tema di"),
+                                     tag::kInTemaDi};
+inline const CampoTesto kEnglishAbstract = {QStringLiteral("8"), QStringLiteral("english abstract"),
+                                            tag::kEnglishAbstract};
+}  // namespace testo
 
 // The texts of one document, read at once by one statement. Of several of one
 // `Tipo` the first counts.
