@@ -8,7 +8,7 @@ pacchetti=(g++ cmake ninja-build pkgconf qt6-base-dev qt6-qpa-plugins libsqlitec
   libsqlite3-dev mdbtools-dev libglib2.0-dev libgtest-dev fonts-dejavu-core)
 prove=(sqlite3 util-linux)
 misure=(sqlite3 mdbtools time python3)
-schermate=(xvfb xdotool imagemagick)
+schermate=(xvfb openbox xdotool imagemagick)
 stile=(clang-format clang-tidy)
 
 for gruppo in "$@"; do

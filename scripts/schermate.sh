@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Makes the pictures of docs/manuale.md: an operator's session on a virtual screen, by keys alone.
-# Needs xvfb, openbox, xdotool and imagemagick.
 # usage: scripts/schermate.sh [FOLDER OF THE BUILT PROGRAMS]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+scripts/pacchetti.sh schermate
 programmi=${1:-build/release/bin}
 immagini=$PWD/docs/immagini
 lavoro=$(mktemp -d /tmp/torvi.XXXX)

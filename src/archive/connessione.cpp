@@ -55,6 +55,10 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
 }  // namespace
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
+  // Only of a statement does the engine know more than the number says, in words of its own.
+  if ((guasto.getErrorCode() & 0xff) != SQLITE_ERROR) {
+    return ErroreEsecuzione(NumeroDi(guasto), dettaglio);
+  }
   return ErroreEsecuzione(
       NumeroDi(guasto), QStringLiteral("%1 (%2)").arg(dettaglio, QString::fromUtf8(guasto.what())));
 }

@@ -82,7 +82,7 @@ void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QStr
 
 TestiDocumento::TestiDocumento(const Database& archivio, qint64 idDoc) {
   Recordset riga = archivio.OpenRecordset(
-      QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDDoc = ?and "
+      QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDDoc = ? and "
                      "legameDocTesto.IDTesto = tabTesto.IDTesto"),
       {idDoc});
   for (; !riga.Eof(); riga.MoveNext()) {

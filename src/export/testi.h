@@ -27,8 +27,7 @@ inline const CampoTesto kEnglishAbstract = {QStringLiteral("8"), QStringLiteral(
                                             tag::kEnglishAbstract};
 }  // namespace testo
 
-// The texts of one document, read at once by one statement. Of several of one
-// `Tipo` the first counts.
+// The texts of one document, read by one statement. Of several of one `Tipo` the first counts.
 class TestiDocumento {
  public:
   TestiDocumento(const Database& archivio, qint64 idDoc);

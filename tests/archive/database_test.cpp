@@ -70,7 +70,14 @@ TEST(DatabaseTest, InSolaLetturaSiLeggeENonSiScrive) {
   AggiungiTesto(mia, QStringLiteral("x"));
   const Database sola = OpenDatabase(mia.Name(), Accesso::SolaLettura);
   EXPECT_EQ(1, Quante(sola));
-  EXPECT_EQ(3027, NumeroErrore([&] { AggiungiTesto(sola, QStringLiteral("y")); }));
+  try {
+    AggiungiTesto(sola, QStringLiteral("y"));
+    ADD_FAILURE() << "written";
+  } catch (const ErroreEsecuzione& errore) {
+    EXPECT_EQ(3027, errore.Numero());
+    EXPECT_EQ("Impossibile aggiornare: il database è di sola lettura: " + mia.Name(),
+              errore.Descrizione());
+  }
   EXPECT_EQ(3027, NumeroErrore([&] { const UnitaDiScrittura unita(sola); }));
 }
 
