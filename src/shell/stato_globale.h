@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "archive/database.h"
+#include "shell/righe.h"
 
 namespace torvi {
 
@@ -15,8 +16,35 @@ struct StatoGlobale {
   QString CartellaApplicazione;  // folder of the executable, without a final separator
 
   QString InfoNuovoArchivio;  // the four fields of frmInformazione joined by '|'; empty: cancelled
+
+  bool DocumentoNuovo = false;       // the document form works on a document that has no row yet
+  QString IDDocumentoScelto;         // what the document form loads
+  bool ModoRicerca = false;          // moving about is limited to the documents found
+  QString SqlRicerca;                // statement of the last search; empty until one ran
   std::vector<qint16> ListaRicerca;  // documents of the last search; NumRicerca is its size
-  bool NotaDocCancellata = false;
+
+  // The document on screen: rows of its lists (the counts are their sizes), and the texts that have
+  // no control on the form.
+  std::vector<RigaResponsabilita> RigheResponsabilita;
+  std::vector<RigaClasse> RigheClasse;
+  std::vector<RigaFonte> RigheFonte;
+  QString TestoRiassunto;
+  QString TestoSommario;
+  QString TestoTraduzione;
+  QString TestoInTemaDi;
+  QString TestoEnglishAbstract;
+  QString TestoNotaDoc;
+  QString TestoNota;
+  bool NotaDocCancellata = false;  // once True, never cleared during the run
+
+  // What the subordinate forms are opened for, and what they give back.
+  bool NuovaClasse = false;  // a new row; otherwise the chosen one is changed
+  bool NuovaFonte = false;
+  QString TipoFonteScelto;
+  QString TipoTestoRiassunto;  // "0" riassunto, "1" sommario, "2" in tema di, "3" English abstract
+  QString TestoEsteso;
+  QString ValoreLista;
+
   QString PasswordRiservata;  // what the restricted login compares against, set at start-up
 
   bool ModoBatch = false;  // set by the first batch and never reset: exports ask nothing and append

@@ -1,0 +1,27 @@
+// A document on its way from the archive to the form. Failures are ErroreEsecuzione; what was
+// loaded before one stays.
+#pragma once
+
+#include "document/documento.h"
+
+namespace torvi {
+
+// What the combos show until something is chosen.
+[[nodiscard]] QString SegnapostoLIN();
+[[nodiscard]] QString SegnapostoTD();
+[[nodiscard]] QString SegnapostoTAbs();
+[[nodiscard]] QString SegnapostoBib();
+
+// The form's load: a new document, or the one chosen. In an archive without documents the number
+// becomes " 1"; any other failure ends the load silently.
+void CaricaForma(Documento& documento);
+// Fills the combos and the production year.
+void CaricaCodici(Documento& documento);
+// Makes the form ready for a new document. The icons stay as they were.
+void SvuotaDocumento(Documento& documento);
+// The document whose number stands in txtID.
+void CaricaDocumento(Documento& documento);
+// The journal of the code in txtCPer. An unknown code gets a message and the focus back.
+void ControllaPeriodico(Documento& documento);
+
+}  // namespace torvi

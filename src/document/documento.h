@@ -1,0 +1,73 @@
+// The document on screen, without its screen: what the controls of the document form show, and what
+// the form remembers between two commands. The form copies its controls in, calls a routine of
+// carica.h, salva.h or comandi.h, and shows what comes out.
+#pragma once
+
+#include <QStringList>
+#include <array>
+#include <optional>
+
+#include "archive/recordset.h"
+#include "shell/dialoghi.h"
+#include "shell/stato_globale.h"
+
+namespace torvi {
+
+// The controls by name. A combo is the text that it shows, its placeholder included; only the
+// placeholder counts as not chosen. A list is its lines.
+struct CampiDocumento {
+  QString txtID;
+  QString txtAnnoPr;
+  QString txtTitolo;
+  QString txtNota;
+  QString txtCPer;
+  QString txtRivista;
+  QString txtFascicolo;
+  QString txtAnnata;
+  QString txtVolume;
+  QString txtParte;
+  QString txtSerie;
+  QString txtSuppl;
+  QString txtSez;
+  QString txtGG;
+  QString txtMM;
+  QString txtAA;
+  QString txtPagine;
+  QString ComboLIN;
+  QString ComboTD;
+  QString ComboTAbs;
+  QString ComboBib;
+  QStringList lstResponsabilita;
+  QStringList lstClassificazione;
+  QStringList lstFonte;
+  // By kind of text, 0 to 8: whether its button bears the icon of a text that exists.
+  std::array<bool, 9> icone{};
+  bool operator==(const CampiDocumento&) const = default;
+};
+
+// The items of the combos: code, '|', description.
+struct CodiciDocumento {
+  QStringList ComboLIN;
+  QStringList ComboTD;
+  QStringList ComboTAbs;
+  QStringList ComboBib;
+};
+
+struct Documento {
+  Documento(StatoGlobale& statoGlobale, Dialoghi& dialoghiDellaForma)
+      : stato(statoGlobale), dialoghi(dialoghiDellaForma) {}
+
+  StatoGlobale& stato;
+  Dialoghi& dialoghi;
+  CampiDocumento campi;
+  CodiciDocumento codici;
+  std::optional<Recordset> RsDocumenti;  // on table TabDocumento, from the form's load to its end
+  bool SalvaComeNuovo = false;           // the next save inserts a row
+  qint16 IndiceResponsabilita = -1;      // selected row of each list, -1 when none
+  qint16 IndiceClasse = -1;
+  qint16 IndiceFonte = -1;
+  bool comandiVisibili = true;  // cmdSalva and cmdDuplica, set by the form's load alone
+  QString fuoco;                // control that the last routine wants the focus on; empty: none
+};
+
+}  // namespace torvi
