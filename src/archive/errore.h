@@ -10,6 +10,7 @@ namespace torvi {
 enum class Errore : int {
   Overflow = 6,         // a value that does not fit 16 signed bits
   IndiceNonValido = 9,  // subscript out of range
+  StackEsaurito = 28,   // a search result that no document ends
   ErroreInterno = 51,
   FileNonTrovato = 53,
   FileAperto = 55,
@@ -21,8 +22,9 @@ enum class Errore : int {
   TipoNonCorrispondente = 13,
   ChiamataNonValida = 5,  // an argument out of range, as a negative length
   OggettoNonImpostato = 91,
-  NullNonValido = 94,        // Null where text or a number is needed
-  OggettoNonTrovato = 3011,  // table absent, or a file that is no archive
+  NullNonValido = 94,              // Null where text or a number is needed
+  ValoreProprietaNonValido = 380,  // an item that a list does not have
+  OggettoNonTrovato = 3011,        // table absent, or a file that is no archive
   NomeIndiceNonValido = 3015,
   AggiornamentoSenzaEdit = 3020,  // Update, or a value given, without AddNew or Edit
   NessunRecordCorrente = 3021,
