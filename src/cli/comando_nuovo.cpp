@@ -29,7 +29,7 @@ QString Valore(const QCommandLineParser& righe, const Forma& forma) {
   const QString opzione = QString::fromUtf8(forma.opzione);
   const QRegularExpression modello(
       QRegularExpression::anchoredPattern(QString::fromUtf8(forma.modello)));
-  const QString valore = righe.value(opzione);
+  QString valore = righe.value(opzione);
   if (!modello.match(valore).hasMatch()) {
     throw ErroreUso{
         QStringLiteral("--%1 deve essere %2").arg(opzione, QString::fromUtf8(forma.detto))};

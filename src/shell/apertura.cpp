@@ -66,7 +66,7 @@ Database ApriArchivio(const QString& percorso, Dialoghi& dialoghi) {
 QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
                      Dialoghi& dialoghi) {
   const QString master = FileArchivio(stato.CartellaApplicazione, QStringLiteral("master.mdb"));
-  const QString destinazione = NomeMaiuscolo(percorso);
+  QString destinazione = NomeMaiuscolo(percorso);
   const QString precedente = TrovaPercorso(destinazione);
   RichiediMaster(master, precedente);
   if (EFileJet(master)) Converti(master, dialoghi);

@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <array>
 
 #include "archive/errore.h"

@@ -64,7 +64,7 @@ void SceltaFile::accept() {
   }
   if (!Accettabile(percorso)) return;
   scelto_ = percorso;
-  QDialog::accept();
+  done(QDialog::Accepted);
 }
 
 bool SceltaFile::Accettabile(const QString& percorso) {

@@ -54,7 +54,7 @@ void Classificazione::AssegnaCoppie(Documento& documento, QStringView sigla, Sor
 
 Coppia Classificazione::NonValida(Sorte& sorte) const {
   for (;;) {
-    const Coppia coppia{
+    Coppia coppia{
         sorte.Scegli(tavole_.sistematici).id, sorte.Scegli(tavole_.descrittori).id, {}, {}};
     const bool valida = std::any_of(tavole_.coppie.begin(), tavole_.coppie.end(),
                                     [&](const Coppia& una) { return Uguali(una, coppia); });

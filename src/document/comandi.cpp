@@ -1,0 +1,141 @@
+#include "document/comandi.h"
+
+#include "document/carica.h"
+#include "document/salva.h"
+#include "document/testi_documento.h"
+
+namespace torvi {
+namespace {
+
+const QString kAttenzione = QStringLiteral("Attenzione!");
+
+// The number that a new document is expected to get.
+void NumeraComeUltimo(Documento& documento) {
+  documento.RsDocumenti->MoveLast();
+  const qint64 ultimo = documento.RsDocumenti->Fields("IDDocumento").Intero();
+  documento.campi.txtID = QString::number(ultimo + 1);
+}
+
+void AzzeraRighe(StatoGlobale& stato) {
+  stato.RigheResponsabilita.clear();
+  stato.RigheClasse.clear();
+  stato.RigheFonte.clear();
+}
+
+// Before the form is emptied for a new document.
+void OffreSalvataggio(Documento& documento) {
+  const Risposta risposta =
+      documento.dialoghi.Domanda(QStringLiteral("Vuoi salvare con lo stesso numero di documento?"),
+                                 QStringLiteral("Salvataggio"), Pulsanti::SiNoAnnulla);
+  if (risposta == Risposta::Annulla) return;
+  if (risposta == Risposta::No) {
+    documento.SalvaComeNuovo = true;
+    NumeraComeUltimo(documento);
+  }
+  SalvaDocumento(documento);
+}
+
+template <typename Riga>
+void Segna(QStringList& lista, std::vector<Riga>& righe, const std::vector<int>& scelte) {
+  for (const int posto : scelte) {
+    if (posto >= lista.size() || static_cast<std::size_t>(posto) >= righe.size()) continue;
+    lista[posto].prepend(QStringLiteral("DEL--"));
+    righe[static_cast<std::size_t>(posto)].Cancellata = true;
+  }
+}
+
+}  // namespace
+
+void ComandoSalva(Documento& documento) {
+  documento.SalvaComeNuovo = documento.stato.DocumentoNuovo;
+  SalvaDocumento(documento);
+  documento.fuoco = QStringLiteral("txtID");
+}
+
+bool ComandoEsci(Documento& documento) {
+  documento.SalvaComeNuovo = documento.stato.DocumentoNuovo;
+  const bool salvato = SalvaDocumento(documento);
+  documento.stato.ListaRicerca.clear();
+  return salvato;
+}
+
+void ComandoAbbandona(Documento& documento) { documento.stato.ListaRicerca.clear(); }
+
+void ComandoNew(Documento& documento) {
+  if (documento.stato.DocumentoNuovo) {
+    documento.SalvaComeNuovo = true;
+  } else {
+    OffreSalvataggio(documento);
+  }
+  documento.stato.DocumentoNuovo = true;
+  CaricaCodici(documento);
+  AzzeraRighe(documento.stato);
+  documento.RsDocumenti->MoveLast();
+  documento.campi.txtID.clear();
+  SvuotaDocumento(documento);
+}
+
+void ComandoDuplica(Documento& documento) {
+  documento.SalvaComeNuovo = true;
+  NumeraComeUltimo(documento);
+  SalvaDocumento(documento);
+  documento.fuoco = QStringLiteral("txtID");
+}
+
+void ComandoElimina(Documento& documento, Lista lista, const std::vector<int>& scelte) {
+  if (scelte.empty()) {
+    documento.dialoghi.Messaggio(QStringLiteral("Nessuna selezione effettuata"), kAttenzione);
+    return;
+  }
+  if (documento.dialoghi.Domanda(QStringLiteral("Confermi cancellazione?"), kAttenzione,
+                                 Pulsanti::SiNo) != Risposta::Si) {
+    return;
+  }
+  StatoGlobale& stato = documento.stato;
+  CampiDocumento& campi = documento.campi;
+  switch (lista) {
+    case Lista::Responsabilita:
+      Segna(campi.lstResponsabilita, stato.RigheResponsabilita, scelte);
+      break;
+    case Lista::Classi:
+      Segna(campi.lstClassificazione, stato.RigheClasse, scelte);
+      break;
+    case Lista::Fonti:
+      Segna(campi.lstFonte, stato.RigheFonte, scelte);
+      break;
+  }
+}
+
+void ComandoFonteInNota(Documento& documento) {
+  const auto& righe = documento.stato.RigheFonte;
+  const auto posto = static_cast<std::size_t>(documento.IndiceFonte);
+  if (documento.IndiceFonte < 0 || posto >= righe.size()) return;
+  const QString& testo = righe[posto].Testo;
+  QString& nota = documento.campi.txtNota;
+  const QString tipo = documento.campi.ComboTD.left(2);
+  if (!nota.isEmpty()) {
+    nota += QStringLiteral("; ") + testo;
+  } else if (tipo == QStringLiteral("03")) {
+    nota = QStringLiteral("Nota a ") + testo;
+  } else if (tipo == QStringLiteral("07")) {
+    nota = QStringLiteral("Commento a ") + testo;
+  }
+}
+
+void ComandoCancellaNotaCompilatore(Documento& documento) {
+  documento.stato.TestoNotaDoc.clear();
+  documento.stato.NotaDocCancellata = true;
+  documento.campi.icone[5] = false;
+}
+
+bool AnnoPerClassificare(Documento& documento) {
+  if (!documento.campi.txtAA.isEmpty()) return true;
+  documento.dialoghi.Messaggio(
+      QStringLiteral("Per questa operazione è necessario riempire il campo \"Anno\"!"));
+  documento.fuoco = QStringLiteral("txtAA");
+  return false;
+}
+
+bool SchemaPrima2000(const CampiDocumento& campi) { return campi.txtAA < QStringLiteral("2000"); }
+
+}  // namespace torvi
