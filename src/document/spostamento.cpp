@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "archive/errore.h"
 #include "document/carica.h"
 #include "document/comandi.h"
 #include "shell/valori.h"
