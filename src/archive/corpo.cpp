@@ -37,6 +37,12 @@ Campo Recordset::Corpo::Fields(int colonna) {
   return preparazione_ == Preparazione::Nuova ? Campo() : Valore(colonna);
 }
 
+Riga Recordset::Corpo::Copia() {
+  std::vector<Campo> valori;
+  for (int i = 0; i < static_cast<int>(Colonne().Quante()); ++i) valori.push_back(Fields(i));
+  return {std::make_shared<NomiColonne>(Colonne()), std::move(valori)};
+}
+
 bool Recordset::Corpo::HaCampo(std::string_view nome) const {
   return Colonne().Posizione(nome) >= 0;
 }

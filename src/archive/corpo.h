@@ -35,6 +35,7 @@ class Recordset::Corpo {
   [[nodiscard]] Campo Fields(int colonna);
   [[nodiscard]] int Colonna(std::string_view nome) const;
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
+  [[nodiscard]] virtual Riga Copia();
   void Assegna(std::string_view nome, const Campo& valore);
   void AddNew();
   void Edit();

@@ -100,6 +100,17 @@ Campo CorpoIstruzione::Valore(int colonna) {
   return aperta_->motore->Leggi(aperta_->Spostamento() + colonna);
 }
 
+torvi::Riga CorpoIstruzione::Copia() {
+  if (tenute_.has_value() || !aperta_) return Corpo::Copia();
+  std::vector<Campo> valori;
+  valori.reserve(colonne_->Quante());
+  const int inizio = aperta_->Spostamento();
+  for (std::size_t i = 0; i < colonne_->Quante(); ++i) {
+    valori.push_back(aperta_->motore->Leggi(inizio + static_cast<int>(i)));
+  }
+  return {colonne_, std::move(valori)};
+}
+
 const InfoTabella& CorpoIstruzione::TabellaDaScrivere() {
   if (tabella_.isEmpty()) throw ErroreEsecuzione(Errore::SolaLettura, istruzione_);
   return Motore().Tabella(tabella_);

@@ -19,6 +19,7 @@ class CorpoIstruzione final : public Recordset::Corpo {
   void Index(std::string_view nome) override;
   void Seek(const Campo& chiave) override;
   [[nodiscard]] bool NoMatch() const override { return false; }
+  [[nodiscard]] torvi::Riga Copia() override;
   [[nodiscard]] qint64 Bookmark() override;
   void Bookmark(qint64 riga) override;
 

@@ -26,6 +26,7 @@ Campo Recordset::Fields(std::string_view nome) const { return Aperto().Fields(no
 Campo Recordset::Fields(int colonna) const { return Aperto().Fields(colonna); }
 int Recordset::Colonna(std::string_view nome) const { return Aperto().Colonna(nome); }
 bool Recordset::HaCampo(std::string_view nome) const { return Aperto().HaCampo(nome); }
+Riga Recordset::Copia() const { return Aperto().Copia(); }
 void Recordset::Assegna(std::string_view nome, const Campo& valore) {
   Aperto().Assegna(nome, valore);
 }

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "archive/campo.h"
+#include "archive/riga.h"
 
 namespace torvi {
 
@@ -41,6 +42,8 @@ class Recordset {
   [[nodiscard]] Campo Fields(int colonna) const;
   [[nodiscard]] int Colonna(std::string_view nome) const;
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
+  // All columns of the current row, for when it is no longer current.
+  [[nodiscard]] Riga Copia() const;
   // Only between AddNew or Edit and Update.
   void Assegna(std::string_view nome, const Campo& valore);
 

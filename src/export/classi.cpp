@@ -42,15 +42,17 @@ QString Coppia(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRe
 }
 
 QString LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-                    Recordset& riga) {
+                    LegamiInOrdine& legami) {
   QStringList coppie;
-  for (; !riga.Eof(); riga.MoveNext()) coppie += Coppia(contesto, idDoc, idRecord, riga);
+  for (; !legami.Finiti(); legami.Avanti()) {
+    coppie += Coppia(contesto, idDoc, idRecord, legami.Riga());
+  }
   return coppie.join(kSeparatore);
 }
 
-QString LeggiCodici(Recordset& riga) {
+QString LeggiCodici(LegamiInOrdine& legami) {
   QStringList codici;
-  for (; !riga.Eof(); riga.MoveNext()) codici += riga.Fields("Codice").Testo();
+  for (; !legami.Finiti(); legami.Avanti()) codici += legami.Riga().Fields("Codice").Testo();
   return codici.join(kSeparatore);
 }
 
@@ -58,20 +60,13 @@ QString LeggiCodici(Recordset& riga) {
 
 QString LeggiClassi(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
   const bool dopo2000 = contesto.stato.Dopo2000;
-  Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
-      dopo2000 ? QStringLiteral("select * from legameDocClass, tabClasse2000, [tabClasse2000-S] "
-                                "where legameDocClass.IDDoc = ? and legameDocClass.IDClass = "
-                                "tabClasse2000.IDClasse2000 and [tabClasse2000-S].IDCLasseS = "
-                                "tabClasse2000.[IDCLasse2000-S]")
-               : QStringLiteral("select * from legameDocClass1999, tabClasse1999 where "
-                                "legameDocClass1999.IDDoc = ? and legameDocClass1999.IDClass = "
-                                "tabClasse1999.IDClasse1999"),
-      {idDoc});
-  if (riga.Eof()) {
+  LegamiInOrdine& legami = dopo2000 ? contesto.legami.classi : contesto.legami.classi1999;
+  legami.Cerca(idDoc);
+  if (legami.Finiti()) {
     SegnalaMancanza(contesto, idDoc, idRecord);
     return {};
   }
-  return dopo2000 ? LeggiCoppie(contesto, idDoc, idRecord, riga) : LeggiCodici(riga);
+  return dopo2000 ? LeggiCoppie(contesto, idDoc, idRecord, legami) : LeggiCodici(legami);
 }
 
 QString PuntaCodice(const QString& codice) {

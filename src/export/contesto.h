@@ -5,6 +5,7 @@
 
 #include "export/coppie_decodificate.h"
 #include "export/file_testo.h"
+#include "export/legami_in_ordine.h"
 #include "export/record.h"
 #include "export/riferimento_fascicolo.h"
 #include "export/tabelle_di_codici.h"
@@ -23,6 +24,7 @@ struct ContestoEsportazione {
   CatalogoNorme& catalogo;
   QString CodiciClasse = {};  // classification of the current document
   TabelleDiCodici codici{stato.DbArchivio};
+  LegamiDocumento legami{stato.DbArchivio};
   CoppieDecodificate coppie = {};
   LettoreRiferimenti riferimenti = {};
 };

@@ -31,7 +31,7 @@ class Documento {
         riga_(riga),
         idDoc_(riga.Fields("IDDocumento").Intero()),
         idRecord_(contesto.stato.PrefissoDoc + NumeroDoc(contesto.stato)),
-        testi_(contesto.stato.DbArchivio, idDoc_) {}
+        testi_(contesto.legami.testi, idDoc_) {}
 
   void Componi();
 
@@ -134,7 +134,7 @@ void Documento::Testi() {
 }
 
 void Documento::Fonti() {
-  const std::vector<Riga> fonti = FontiDocumento(contesto_.stato.DbArchivio, idDoc_);
+  const std::vector<Riga> fonti = FontiDocumento(contesto_.legami.fonti, idDoc_);
   ScriviElencoFonti(contesto_, fonti, idRecord_);
   if (flag_.flagIsis) ScriviFontiEtichettate(contesto_, fonti);
 }

@@ -2,11 +2,12 @@
 
 namespace torvi {
 
-std::vector<Riga> FontiDocumento(const Database& archivio, qint64 idDoc) {
-  return archivio.LeggiRighe(
-      QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDDoc = ? and "
-                     "legameDocFonte.IDFnt = tabFonte.IDFonte"),
-      {idDoc});
+std::vector<Riga> FontiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
+  std::vector<Riga> fonti;
+  for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
+    fonti.push_back(legami.Riga().Copia());
+  }
+  return fonti;
 }
 
 }  // namespace torvi

@@ -66,26 +66,23 @@ QString MessaggioMancanza(const CampoTesto& campo, const QString& td, const QStr
 }  // namespace
 
 void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
-  Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
-      QStringLiteral("select * from legameDocResp, tabResponsabilita where legameDocResp.IDDoc= ? "
-                     "and legameDocResp.IDResponsabilita = tabResponsabilita.IDResponsabilita"),
-      {idDoc});
-  if (riga.Eof()) {
+  LegamiInOrdine& legami = contesto.legami.responsabilita;
+  legami.Cerca(idDoc);
+  if (legami.Finiti()) {
     contesto.fileErrori.Print("Manca autore/curatore: "_L1 + idRecord);
     return;
   }
-  const QString& tag = riga.Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
-  QString nomi = Nome(riga);
-  for (riga.MoveNext(); !riga.Eof(); riga.MoveNext()) nomi += "\\ "_L1 + Nome(riga);
+  const QString& tag = legami.Riga().Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
+  QString nomi = Nome(legami.Riga());
+  for (legami.Avanti(); !legami.Finiti(); legami.Avanti()) {
+    nomi += "\\ "_L1 + Nome(legami.Riga());
+  }
   contesto.record.AggiungiTesto(tag, nomi);
 }
 
-TestiDocumento::TestiDocumento(const Database& archivio, qint64 idDoc) {
-  Recordset riga = archivio.OpenRecordset(
-      QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDDoc = ? and "
-                     "legameDocTesto.IDTesto = tabTesto.IDTesto"),
-      {idDoc});
-  for (; !riga.Eof(); riga.MoveNext()) {
+TestiDocumento::TestiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
+  for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
+    const Recordset& riga = legami.Riga();
     testi_.emplace_back(riga.Fields("Tipo").TestoOVuoto(), riga.Fields("testo"));
   }
 }

@@ -27,10 +27,10 @@ inline const CampoTesto kEnglishAbstract = {QStringLiteral("8"), QStringLiteral(
                                             tag::kEnglishAbstract};
 }  // namespace testo
 
-// The texts of one document, read by one statement. Of several of one `Tipo` the first counts.
+// The texts of one document. Of several of one `Tipo` the first counts.
 class TestiDocumento {
  public:
-  TestiDocumento(const Database& archivio, qint64 idDoc);
+  TestiDocumento(LegamiInOrdine& legami, qint64 idDoc);
   // No such text: nullptr.
   [[nodiscard]] const Campo* Trova(const QString& tipo) const;
 

@@ -50,14 +50,14 @@ Scritto FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& s
 
 Scritto FontiDiProva::Elenco() {
   return Scrivi([](ContestoEsportazione& contesto) {
-    ScriviElencoFonti(contesto, FontiDocumento(contesto.stato.DbArchivio, kDocumento),
+    ScriviElencoFonti(contesto, FontiDocumento(contesto.legami.fonti, kDocumento),
                       QStringLiteral("2001A0012"));
   });
 }
 
 Scritto FontiDiProva::Etichettate() {
   return Scrivi([](ContestoEsportazione& contesto) {
-    ScriviFontiEtichettate(contesto, FontiDocumento(contesto.stato.DbArchivio, kDocumento));
+    ScriviFontiEtichettate(contesto, FontiDocumento(contesto.legami.fonti, kDocumento));
   });
 }
 

@@ -19,7 +19,7 @@ class Testi : public testing::Test {
   }
   Scritto Testo(const CampoTesto& campo, const QString& td = {}, const QString& tAbs = {}) {
     return prova.Scrivi([&](ContestoEsportazione& contesto) {
-      const TestiDocumento testi(contesto.stato.DbArchivio, kDocumento);
+      const TestiDocumento testi(contesto.legami.testi, kDocumento);
       trovato = ScriviTesto(contesto, testi, kIdRecord, campo, td, tAbs);
     });
   }

@@ -1,0 +1,55 @@
+#include "export/legami_in_ordine.h"
+
+namespace torvi {
+
+void LegamiInOrdine::Apri() {
+  righe_ = archivio_.OpenRecordset(istruzione_);
+  colonna_ = righe_->Colonna("IDDoc");
+  LeggiNumero();
+}
+
+void LegamiInOrdine::LeggiNumero() {
+  qui_.reset();
+  // A link without a document comes first and belongs to none.
+  for (; !righe_->Eof(); righe_->MoveNext()) {
+    const Campo numero = righe_->Fields(colonna_);
+    if (numero.Nullo()) continue;
+    qui_ = numero.Intero();
+    return;
+  }
+}
+
+void LegamiInOrdine::Avanti() {
+  righe_->MoveNext();
+  LeggiNumero();
+}
+
+void LegamiInOrdine::Cerca(qint64 idDoc) {
+  if (!righe_ || idDoc <= cercato_) Apri();
+  cercato_ = idDoc;
+  while (qui_ && *qui_ < idDoc) Avanti();
+}
+
+LegamiDocumento::LegamiDocumento(const Database& archivio)
+    : responsabilita(archivio,
+                     QStringLiteral("select * from legameDocResp, tabResponsabilita where "
+                                    "legameDocResp.IDResponsabilita = "
+                                    "tabResponsabilita.IDResponsabilita order by "
+                                    "legameDocResp.IDDoc")),
+      testi(archivio,
+            QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDTesto = "
+                           "tabTesto.IDTesto order by legameDocTesto.IDDoc")),
+      fonti(archivio,
+            QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDFnt = "
+                           "tabFonte.IDFonte order by legameDocFonte.IDDoc")),
+      classi(archivio,
+             QStringLiteral("select * from legameDocClass, tabClasse2000, [tabClasse2000-S] where "
+                            "legameDocClass.IDClass = tabClasse2000.IDClasse2000 and "
+                            "[tabClasse2000-S].IDCLasseS = tabClasse2000.[IDCLasse2000-S] order by "
+                            "legameDocClass.IDDoc")),
+      classi1999(archivio,
+                 QStringLiteral("select * from legameDocClass1999, tabClasse1999 where "
+                                "legameDocClass1999.IDClass = tabClasse1999.IDClasse1999 order by "
+                                "legameDocClass1999.IDDoc")) {}
+
+}  // namespace torvi
