@@ -22,51 +22,57 @@ QString MessaggioCoppia(const QString& check, bool asterisco) {
   return {};
 }
 
-// Code and descriptor of one row of the scheme 2000, reported if need be.
-QString Coppia(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-               const Recordset& riga) {
-  const QString codice = riga.Fields("CodiceS").Testo();
+// Code and descriptor of one row of the scheme 2000.
+std::unique_ptr<CoppiaClasse> LeggiCoppia(ContestoEsportazione& contesto, qint64 idClasse) {
+  const Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
+      QStringLiteral("select * from tabClasse2000, [tabClasse2000-S] where "
+                     "tabClasse2000.IDClasse2000 = ? and [tabClasse2000-S].IDCLasseS = "
+                     "tabClasse2000.[IDCLasse2000-S]"),
+      {idClasse});
+  if (riga.Eof()) return nullptr;
+  auto coppia = std::make_unique<CoppiaClasse>(CoppiaClasse{riga.Fields("CodiceS").Testo(), {}});
   const Campo idDescrittore = riga.Fields("IDClasse2000-D");
   const bool asterisco = idDescrittore.Nullo() || idDescrittore.Intero() == 0;
   const Campo descrittore =
       asterisco ? riga.Fields("Classe2000-D")
                 : contesto.codici.Cerca("tabClasse2000-D", idDescrittore).Fields("CodiceD");
-  if (asterisco && !descrittore.Presente()) return codice;
-  QString coppia = codice + QLatin1Char(';') + descrittore.Testo();
-  const QString messaggio = MessaggioCoppia(riga.Fields("Check").TestoOVuoto(), asterisco);
-  if (!messaggio.isEmpty()) {
-    contesto.fileErrClasse.Print(messaggio + idRecord + ", record="_L1 + QString::number(idDoc) +
-                                 "): "_L1 + coppia);
-  }
+  if (asterisco && !descrittore.Presente()) return coppia;
+  coppia->codici += QLatin1Char(';') + descrittore.Testo();
+  coppia->messaggio = MessaggioCoppia(riga.Fields("Check").TestoOVuoto(), asterisco);
   return coppia;
 }
 
-QString LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-                    LegamiInOrdine& legami) {
+QStringList LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
+  const auto leggi = [&contesto](qint64 idClasse) { return LeggiCoppia(contesto, idClasse); };
+  LegamiInOrdine& legami = contesto.legami.classi;
   QStringList coppie;
-  for (; !legami.Finiti(); legami.Avanti()) {
-    coppie += Coppia(contesto, idDoc, idRecord, legami.Riga());
+  for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
+    const auto coppia = contesto.coppieClasse.Cerca(legami.Riga().Fields("IDClass"), leggi);
+    if (coppia == nullptr) continue;
+    coppie += coppia->codici;
+    if (coppia->messaggio.isEmpty()) continue;
+    contesto.fileErrClasse.Print(coppia->messaggio + idRecord + ", record="_L1 +
+                                 QString::number(idDoc) + "): "_L1 + coppia->codici);
   }
-  return coppie.join(kSeparatore);
+  return coppie;
 }
 
-QString LeggiCodici(LegamiInOrdine& legami) {
+QStringList LeggiCodici(ContestoEsportazione& contesto, qint64 idDoc) {
+  LegamiInOrdine& legami = contesto.legami.classi1999;
   QStringList codici;
-  for (; !legami.Finiti(); legami.Avanti()) codici += legami.Riga().Fields("Codice").Testo();
-  return codici.join(kSeparatore);
+  for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
+    codici += legami.Riga().Fields("Codice").Testo();
+  }
+  return codici;
 }
 
 }  // namespace
 
 QString LeggiClassi(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
-  const bool dopo2000 = contesto.stato.Dopo2000;
-  LegamiInOrdine& legami = dopo2000 ? contesto.legami.classi : contesto.legami.classi1999;
-  legami.Cerca(idDoc);
-  if (legami.Finiti()) {
-    SegnalaMancanza(contesto, idDoc, idRecord);
-    return {};
-  }
-  return dopo2000 ? LeggiCoppie(contesto, idDoc, idRecord, legami) : LeggiCodici(legami);
+  const QStringList codici = contesto.stato.Dopo2000 ? LeggiCoppie(contesto, idDoc, idRecord)
+                                                     : LeggiCodici(contesto, idDoc);
+  if (codici.isEmpty()) SegnalaMancanza(contesto, idDoc, idRecord);
+  return codici.join(kSeparatore);
 }
 
 QString PuntaCodice(const QString& codice) {

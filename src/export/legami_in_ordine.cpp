@@ -30,12 +30,10 @@ void LegamiInOrdine::Cerca(qint64 idDoc) {
   while (qui_ && *qui_ < idDoc) Avanti();
 }
 
+// People and pairs, which many documents share, are looked up by their keys and remembered.
 LegamiDocumento::LegamiDocumento(const Database& archivio)
     : responsabilita(archivio,
-                     QStringLiteral("select * from legameDocResp, tabResponsabilita where "
-                                    "legameDocResp.IDResponsabilita = "
-                                    "tabResponsabilita.IDResponsabilita order by "
-                                    "legameDocResp.IDDoc")),
+                     QStringLiteral("select * from legameDocResp order by legameDocResp.IDDoc")),
       testi(archivio,
             QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDTesto = "
                            "tabTesto.IDTesto order by legameDocTesto.IDDoc")),
@@ -43,10 +41,7 @@ LegamiDocumento::LegamiDocumento(const Database& archivio)
             QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDFnt = "
                            "tabFonte.IDFonte order by legameDocFonte.IDDoc")),
       classi(archivio,
-             QStringLiteral("select * from legameDocClass, tabClasse2000, [tabClasse2000-S] where "
-                            "legameDocClass.IDClass = tabClasse2000.IDClasse2000 and "
-                            "[tabClasse2000-S].IDCLasseS = tabClasse2000.[IDCLasse2000-S] order by "
-                            "legameDocClass.IDDoc")),
+             QStringLiteral("select * from legameDocClass order by legameDocClass.IDDoc")),
       classi1999(archivio,
                  QStringLiteral("select * from legameDocClass1999, tabClasse1999 where "
                                 "legameDocClass1999.IDClass = tabClasse1999.IDClasse1999 order by "

@@ -9,10 +9,16 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-QString Nome(const Recordset& riga) {
-  QString primo = Trim(riga.Fields("PrimoElemento").Testo());
-  if (riga.Fields("flagCollettivo").Logico()) return primo;
-  return primo + QLatin1Char('+') + Trim(riga.Fields("SecondoElemento").Testo());
+std::unique_ptr<QString> LeggiNome(const Database& archivio, qint64 idResponsabilita) {
+  const Recordset riga = archivio.OpenRecordset(
+      QStringLiteral("select * from tabResponsabilita where IDResponsabilita = ?"),
+      {idResponsabilita});
+  if (riga.Eof()) return nullptr;
+  auto nome = std::make_unique<QString>(Trim(riga.Fields("PrimoElemento").Testo()));
+  if (!riga.Fields("flagCollettivo").Logico()) {
+    *nome += QLatin1Char('+') + Trim(riga.Fields("SecondoElemento").Testo());
+  }
+  return nome;
 }
 
 // Looks at every place, without a branch: faster than stopping at the first on texts that are long
@@ -66,18 +72,22 @@ QString MessaggioMancanza(const CampoTesto& campo, const QString& td, const QStr
 }  // namespace
 
 void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
+  const auto leggi = [&contesto](qint64 id) { return LeggiNome(contesto.stato.DbArchivio, id); };
   LegamiInOrdine& legami = contesto.legami.responsabilita;
-  legami.Cerca(idDoc);
-  if (legami.Finiti()) {
+  QString tag;
+  QStringList nomi;
+  for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
+    const Recordset& legame = legami.Riga();
+    const auto nome = contesto.nomi.Cerca(legame.Fields("IDResponsabilita"), leggi);
+    if (nome == nullptr) continue;
+    if (nomi.isEmpty()) tag = legame.Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
+    nomi += *nome;
+  }
+  if (nomi.isEmpty()) {
     contesto.fileErrori.Print("Manca autore/curatore: "_L1 + idRecord);
     return;
   }
-  const QString& tag = legami.Riga().Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
-  QString nomi = Nome(legami.Riga());
-  for (legami.Avanti(); !legami.Finiti(); legami.Avanti()) {
-    nomi += "\\ "_L1 + Nome(legami.Riga());
-  }
-  contesto.record.AggiungiTesto(tag, nomi);
+  contesto.record.AggiungiTesto(tag, nomi.join("\\ "_L1));
 }
 
 TestiDocumento::TestiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
