@@ -30,7 +30,7 @@ class Tavola {
   [[nodiscard]] bool Manca(char16_t carattere) const { return byte_[carattere] == kMancante; }
   // Most text is ASCII, which the table maps to itself: blocks of it are copied without a look-up.
   void Converti(QStringView testo, char* byte) const {
-    constexpr qsizetype kBlocco = 32;
+    constexpr qsizetype kBlocco = 8;
     const char16_t* c = testo.utf16();
     qsizetype restano = testo.size();
     for (; restano >= kBlocco; restano -= kBlocco, c += kBlocco, byte += kBlocco) {

@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 // The tables that name the kind of a source.
 struct Famiglia {
   std::string_view tabella;
-  const char* colonna;
+  std::string_view colonna;
 };
 constexpr Famiglia kInterna = {"TabFonteInterna", "FonteNorm"};
 constexpr Famiglia kComunitaria = {"TabFonteCom", "FonteCom"};
@@ -39,40 +39,40 @@ constexpr VoceFamiglia kFamiglie[] = {
 };
 
 struct SottocampoTesto {
-  const char* marca;
-  const char* colonna;
+  QLatin1StringView marca;
+  std::string_view colonna;
   std::optional<PassoUrn> passo = {};
 };
 
 constexpr SottocampoTesto kTesti[] = {
-    {"^y", "anno", PassoUrn::Anno},
-    {"^m", "mese", PassoUrn::Mese},
-    {"^d", "giorno", PassoUrn::Giorno},
-    {"^n", "numero", PassoUrn::Numero},
-    {"^a", "articolo"},
-    {"^j", "ripa"},
-    {"^c", "comma"},
-    {"^k", "ripc"},
-    {"^l", "lettera"},
-    {"^g", "allegato"},
+    {"^y"_L1, "anno", PassoUrn::Anno},
+    {"^m"_L1, "mese", PassoUrn::Mese},
+    {"^d"_L1, "giorno", PassoUrn::Giorno},
+    {"^n"_L1, "numero", PassoUrn::Numero},
+    {"^a"_L1, "articolo"},
+    {"^j"_L1, "ripa"},
+    {"^c"_L1, "comma"},
+    {"^k"_L1, "ripc"},
+    {"^l"_L1, "lettera"},
+    {"^g"_L1, "allegato"},
 };
 
 struct SottocampoChiave {
-  const char* marca;
-  const char* chiave;  // column of the source
+  QLatin1StringView marca;
+  std::string_view chiave;  // column of the source
   std::string_view tabella;
-  const char* colonna;
+  std::string_view colonna;
 };
 
-constexpr SottocampoChiave kStato = {"^s", "IDStato", "TabStato", "stato"};
-constexpr SottocampoChiave kMinistero = {"^o", "IDMinistero", "TabMinistero", "MinisteroNorm"};
-constexpr SottocampoChiave kAmministrazione = {"^e", "IDAmministrazione", "TabAmministrazione",
+constexpr SottocampoChiave kStato = {"^s"_L1, "IDStato", "TabStato", "stato"};
+constexpr SottocampoChiave kMinistero = {"^o"_L1, "IDMinistero", "TabMinistero", "MinisteroNorm"};
+constexpr SottocampoChiave kAmministrazione = {"^e"_L1, "IDAmministrazione", "TabAmministrazione",
                                                "AmministrazioneNorm"};
-constexpr SottocampoChiave kAutorita = {"^e", "IDAutorita", "TabAutorita", "AutoritaNorm"};
-constexpr SottocampoChiave kRegione = {"^r", "IDRegione", "TabRegione", "regione"};
-constexpr SottocampoChiave kProvincia = {"^p", "IDProvincia", "TabProvincia", "provincia"};
-constexpr SottocampoChiave kCitta = {"^i", "IDCitta", "TabCitta", "citta"};
-constexpr SottocampoChiave kSezione = {"^z", "IDSezione", "TabSezione", "sigla"};
+constexpr SottocampoChiave kAutorita = {"^e"_L1, "IDAutorita", "TabAutorita", "AutoritaNorm"};
+constexpr SottocampoChiave kRegione = {"^r"_L1, "IDRegione", "TabRegione", "regione"};
+constexpr SottocampoChiave kProvincia = {"^p"_L1, "IDProvincia", "TabProvincia", "provincia"};
+constexpr SottocampoChiave kCitta = {"^i"_L1, "IDCitta", "TabCitta", "citta"};
+constexpr SottocampoChiave kSezione = {"^z"_L1, "IDSezione", "TabSezione", "sigla"};
 
 const Famiglia* FamigliaDi(const QString& tp, bool prima) {
   for (const VoceFamiglia& voce : kFamiglie) {
@@ -89,10 +89,8 @@ class CampoEtichettato {
   [[nodiscard]] const QString& Testo() const { return testo_; }
 
  private:
-  void Sottocampo(const char* marca, const QString& valore) {
-    testo_ += QLatin1StringView(marca) + valore;
-  }
-  void SottocampoVuoto(const char* marca) { Sottocampo(marca, QStringLiteral(" ")); }
+  void Sottocampo(QLatin1StringView marca, const QString& valore) { testo_ += marca + valore; }
+  void SottocampoVuoto(QLatin1StringView marca) { testo_ += marca + QLatin1Char(' '); }
   void TipoDiFonte(const Riga& fonte, const QString& tp);
   void Parte(const Riga& fonte, const SottocampoTesto& parte);
   const Recordset* Nome(const Riga& fonte, const SottocampoChiave& nome, bool vuotoSeManca = true);
@@ -108,22 +106,22 @@ class CampoEtichettato {
 void CampoEtichettato::TipoDiFonte(const Riga& fonte, const QString& tp) {
   const Famiglia* famiglia = FamigliaDi(tp, prima_);
   if (famiglia == nullptr) {
-    SottocampoVuoto("^f");
-    SottocampoVuoto("^x");
+    SottocampoVuoto("^f"_L1);
+    SottocampoVuoto("^x"_L1);
     return;
   }
   const Recordset& tipo = contesto_.codici.Cerca(famiglia->tabella, fonte.Fields("fonte"));
-  Sottocampo("^f", tipo.Fields(famiglia->colonna).Testo());
+  Sottocampo("^f"_L1, tipo.Fields(famiglia->colonna).Testo());
   if (famiglia == &kComunitaria) {
-    Sottocampo("^x", CelexDaFonte(contesto_.stato, fonte.Fields("IDFonte").Intero16()));
+    Sottocampo("^x"_L1, CelexDaFonte(contesto_.stato, fonte.Fields("IDFonte").Intero16()));
     return;
   }
-  SottocampoVuoto("^x");
+  SottocampoVuoto("^x"_L1);
   if (famiglia == &kInterna) urnCorrente_ = tipo.Fields("URN").TestoOVuoto();
 }
 
 void CampoEtichettato::Parte(const Riga& fonte, const SottocampoTesto& parte) {
-  const Campo campo = fonte.Fields(parte.colonna);
+  const Campo& campo = fonte.Fields(parte.colonna);
   if (!campo.Presente()) {
     SottocampoVuoto(parte.marca);
     return;
@@ -136,7 +134,7 @@ void CampoEtichettato::Parte(const Riga& fonte, const SottocampoTesto& parte) {
 // The row that the key names, if the source has one.
 const Recordset* CampoEtichettato::Nome(const Riga& fonte, const SottocampoChiave& nome,
                                         bool vuotoSeManca) {
-  const Campo chiave = fonte.Fields(nome.chiave);
+  const Campo& chiave = fonte.Fields(nome.chiave);
   if (chiave.Nullo() || chiave.Intero() == 0) {
     if (vuotoSeManca) SottocampoVuoto(nome.marca);
     return nullptr;
@@ -167,7 +165,7 @@ void CampoEtichettato::AggiungiFonte(const Riga& fonte) {
   urnCorrente_.clear();
   if (!prima_) testo_ += QLatin1Char('\\');
   const QString tp = fonte.Fields("tp").Testo();
-  Sottocampo("^t", tp);
+  Sottocampo("^t"_L1, tp);
   TipoDiFonte(fonte, tp);
   for (const SottocampoTesto& parte : kTesti) Parte(fonte, parte);
   Nome(fonte, kStato);
@@ -176,7 +174,7 @@ void CampoEtichettato::AggiungiFonte(const Riga& fonte) {
   Territorio(fonte);
   Nome(fonte, kCitta);
   Nome(fonte, kSezione);
-  Sottocampo("^u", urnCorrente_.isEmpty() ? QStringLiteral(" ") : urnCorrente_);
+  Sottocampo("^u"_L1, urnCorrente_.isEmpty() ? QStringLiteral(" ") : urnCorrente_);
   prima_ = false;
 }
 

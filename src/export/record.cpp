@@ -58,11 +58,12 @@ void Record::AggiungiTesto(const QString& tag, const QString& testo) {
   }
 }
 
-void Record::ScriviRecord(FileTesto& uscita) const {
-  std::string byte = ConvertiAnsi(righe_.at(0).contenuto).toStdString() + "\r\n" +
-                     std::to_string(NumRighe()) + "\r\n";
-  for (const Riga& riga : righe_) AggiungiRigheCampo(byte, riga);
-  uscita.ScriviBlocco(byte);
+void Record::ScriviRecord(FileTesto& uscita) {
+  byte_.clear();
+  byte_ += ConvertiAnsi(righe_.at(0).contenuto).toStdString();
+  byte_ += "\r\n" + std::to_string(NumRighe()) + "\r\n";
+  for (const Riga& riga : righe_) AggiungiRigheCampo(byte_, riga);
+  uscita.ScriviBlocco(byte_);
 }
 
 }  // namespace torvi

@@ -55,10 +55,11 @@ class Record {
   // The content of the first pair, the count of pairs, then every pair in lines of at most 245
   // characters of content in the OEM code page: a line that goes on in the next ends in a TAB. The
   // file gets the whole record or, on a piece without a blank (error 5), nothing of it.
-  void ScriviRecord(FileTesto& uscita) const;
+  void ScriviRecord(FileTesto& uscita);
 
  private:
   std::vector<Riga> righe_;
+  std::string byte_;  // of the record being written; its memory serves the next one
 };
 
 }  // namespace torvi
