@@ -38,16 +38,20 @@ void AggiungiRigheCampo(std::string& byte, const Record::Riga& riga) {
 
 }  // namespace
 
-void Record::AggiungiRiga(const QString& tag, const QString& contenuto) {
+// The text is shared, never copied: the part stays good for as long as the row holds the text.
+void Record::Aggiungi(const QString& tag, const QString& testo, QStringView contenuto) {
   if (NumRighe() == std::numeric_limits<qint16>::max()) throw ErroreEsecuzione(Errore::Overflow);
-  righe_.push_back({tag, contenuto});
+  righe_.push_back({tag, testo, contenuto});
 }
 
-void Record::SpezzaRiga(QStringView testo, const QString& tag) {
-  while (testo.size() > kMassimoCampo) {
-    AggiungiRiga(tag, TogliPezzo(testo, kMassimoCampo).toString());
-  }
-  AggiungiRiga(tag, testo.toString());
+void Record::AggiungiRiga(const QString& tag, const QString& contenuto) {
+  Aggiungi(tag, contenuto, contenuto);
+}
+
+void Record::SpezzaRiga(const QString& testo, const QString& tag) {
+  QStringView resto = testo;
+  while (resto.size() > kMassimoCampo) Aggiungi(tag, testo, TogliPezzo(resto, kMassimoCampo));
+  Aggiungi(tag, testo, resto);
 }
 
 void Record::AggiungiTesto(const QString& tag, const QString& testo) {

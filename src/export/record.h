@@ -35,16 +35,18 @@ inline const QString kInTemaDi = QStringLiteral("88");
 
 class Record {
  public:
+  // A field of several pairs has one text, of which each is a part.
   struct Riga {
     QString tag;
-    QString contenuto;
+    QString testo;
+    QStringView contenuto;  // into `testo`
   };
 
   // One pair more. Past 32767 pairs: error 6.
   void AggiungiRiga(const QString& tag, const QString& contenuto);
   // As many pairs of the tag as the text needs, each of at most 1000 characters and cut behind a
   // blank. A piece without a blank: error 5. The caller's text stays whole.
-  void SpezzaRiga(QStringView testo, const QString& tag);
+  void SpezzaRiga(const QString& testo, const QString& tag);
   // SpezzaRiga above 1000 characters, AggiungiRiga otherwise.
   void AggiungiTesto(const QString& tag, const QString& testo);
 
@@ -58,6 +60,8 @@ class Record {
   void ScriviRecord(FileTesto& uscita);
 
  private:
+  void Aggiungi(const QString& tag, const QString& testo, QStringView contenuto);
+
   std::vector<Riga> righe_;
   std::string byte_;  // of the record being written; its memory serves the next one
 };

@@ -21,7 +21,7 @@ Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
     scritto.errore = NumeroErrore([&] { scrittore(contesto); });
   }
   for (const Record::Riga& riga : record.RigheRecord()) {
-    scritto.campi += QString(riga.tag + riga.contenuto + "\n").toStdString();
+    scritto.campi += QString(riga.tag + riga.contenuto.toString() + "\n").toStdString();
   }
   scritto.errori = Byte(errori).toStdString();
   scritto.errClasse = Byte(errClasse).toStdString();
