@@ -32,8 +32,9 @@ struct ContestoEsportazione {
   QString CodiciClasse = {};  // classification of the current document
   TabelleDiCodici codici{stato.DbArchivio};
   LegamiDocumento legami{stato.DbArchivio};
-  Ricordati<QString> nomi = {};               // of people, as a record has them
-  Ricordati<CoppiaClasse> coppieClasse = {};  // pairs of the scheme 2000
+  Ricordati<QString> nomi = {};                  // of people, as a record has them
+  Ricordati<CoppiaClasse> coppieClasse = {};     // pairs of the scheme 2000
+  QHash<QString, QString> descrizioni1999 = {};  // codes of the scheme before 2000
   CoppieDecodificate coppie = {};
   LettoreRiferimenti riferimenti = {};
 };

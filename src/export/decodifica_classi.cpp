@@ -30,7 +30,7 @@ bool Principale(const QString& codice) {
 }
 
 // "(Descrizione)", or "(Padre: Descrizione)".
-QString Descrizione1999(const Database& archivio, const QString& codice) {
+QString LeggiDescrizione1999(const Database& archivio, const QString& codice) {
   const bool principale = Principale(codice);
   const Recordset riga = ApriCodice1999(archivio, codice, principale);
   QString descrizione = riga.Fields("descrizione").Testo();
@@ -40,12 +40,21 @@ QString Descrizione1999(const Database& archivio, const QString& codice) {
   return QLatin1Char('(') + descrizione + QLatin1Char(')');
 }
 
+const QString& Descrizione1999(ContestoEsportazione& contesto, const QString& codice) {
+  auto nota = contesto.descrizioni1999.find(codice);
+  if (nota == contesto.descrizioni1999.end()) {
+    nota = contesto.descrizioni1999.insert(codice,
+                                           LeggiDescrizione1999(contesto.stato.DbArchivio, codice));
+  }
+  return *nota;
+}
+
 void ScriviClassi1999(ContestoEsportazione& contesto, bool conCodice) {
   QStringList classi;
   for (const QString& codice : contesto.CodiciClasse.split(kSeparatore)) {
     QString classe = PuntaCodice(codice) + QLatin1Char(' ');
     if (conCodice) classe += codice + QLatin1Char(' ');
-    classi += classe + Descrizione1999(contesto.stato.DbArchivio, codice);
+    classi += classe + Descrizione1999(contesto, codice);
   }
   contesto.record.AggiungiTesto(tag::kClassi1999, classi.join(kSeparatore));
 }

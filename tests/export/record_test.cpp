@@ -13,7 +13,7 @@ QString Parole(int lunghezza, int quante) {
   return QString(QString(lunghezza, u'x') + u' ').repeated(quante);
 }
 
-std::string Scritto(const CartellaDiProva& cartella, const Record& record) {
+std::string Scritto(const CartellaDiProva& cartella, Record& record) {
   const QString percorso = cartella.Dump("lexxdump");
   FileTesto file(percorso, Apertura::Scrittura);
   record.ScriviRecord(file);
@@ -68,7 +68,7 @@ TEST(Record, ALongTextBecomesFieldsOfAtMost1000Characters) {
     QStringList campi;
     for (const Record::Riga& riga : record.RigheRecord()) {
       EXPECT_EQ(riga.tag, "13");
-      campi += riga.contenuto;
+      campi += riga.contenuto.toString();
     }
     EXPECT_EQ(campi, caso.campi);
     EXPECT_EQ(record.NumRighe(), caso.campi.size());
