@@ -136,6 +136,4 @@ bool AnnoPerClassificare(Documento& documento) {
   return false;
 }
 
-bool SchemaPrima2000(const CampiDocumento& campi) { return campi.txtAA < QStringLiteral("2000"); }
-
 }  // namespace torvi

@@ -36,7 +36,5 @@ void ComandoCancellaNotaCompilatore(Documento& documento);
 
 // Classification needs a year: message and focus where there is none.
 [[nodiscard]] bool AnnoPerClassificare(Documento& documento);
-// Which of the two schemes the year selects; years compare as text.
-[[nodiscard]] bool SchemaPrima2000(const CampiDocumento& campi);
 
 }  // namespace torvi

@@ -70,4 +70,9 @@ struct Documento {
   QString fuoco;                // control that the last routine wants the focus on; empty: none
 };
 
+// Which of the two classification schemes the year selects; years compare as text.
+[[nodiscard]] inline bool SchemaPrima2000(const CampiDocumento& campi) {
+  return campi.txtAA < QStringLiteral("2000");
+}
+
 }  // namespace torvi

@@ -21,7 +21,7 @@ constexpr std::array kTesti = {
 
 }  // namespace
 
-std::span<const TestoDocumento> TestiDocumento() { return kTesti; }
+std::span<const TestoDocumento> GeneriDiTesto() { return kTesti; }
 
 QString& Valore(Documento& documento, const TestoDocumento& testo) {
   return testo.controllo != nullptr ? documento.campi.*testo.controllo

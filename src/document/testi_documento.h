@@ -20,7 +20,7 @@ struct TestoDocumento {
 };
 
 // In the order of their kinds.
-[[nodiscard]] std::span<const TestoDocumento> TestiDocumento();
+[[nodiscard]] std::span<const TestoDocumento> GeneriDiTesto();
 // The text where it stands now.
 [[nodiscard]] QString& Valore(Documento& documento, const TestoDocumento& testo);
 

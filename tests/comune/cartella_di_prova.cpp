@@ -5,9 +5,31 @@
 #include <QDir>
 #include <QFile>
 
+#include "archive/master.h"
 #include "archive/schema.h"
 
 namespace torvi {
+
+namespace {
+
+Database ConDati(Database database, const DatiConsegna& dati) {
+  Aggiungi(database, QStringLiteral("TabInfo"),
+           {{"Consegna", dati.consegna},
+            {"NumInizio", dati.inizio},
+            {"IDCentroSpoglio", dati.centro},
+            {"AnnoProduzione", dati.anno}});
+  return database;
+}
+
+StatoGlobale Stato(const CartellaDiProva& cartella, const Database& consegna) {
+  StatoGlobale stato;
+  stato.CartellaApplicazione = cartella.Percorso();
+  stato.DbArchivio = consegna;
+  stato.PathArchivio = consegna.Name();
+  return stato;
+}
+
+}  // namespace
 
 CartellaDiProva::CartellaDiProva() {
   EXPECT_TRUE(cartella_.isValid());
@@ -17,21 +39,17 @@ CartellaDiProva::CartellaDiProva() {
 
 Database CartellaDiProva::NuovaConsegna(const QString& nome, const DatiConsegna& dati) const {
   CreaDatabase(Mdb(nome), SchemaArchivio());
-  Database database = OpenDatabase(Mdb(nome));
-  Aggiungi(database, QStringLiteral("TabInfo"),
-           {{"Consegna", dati.consegna},
-            {"NumInizio", dati.inizio},
-            {"IDCentroSpoglio", dati.centro},
-            {"AnnoProduzione", dati.anno}});
-  return database;
+  return ConDati(OpenDatabase(Mdb(nome)), dati);
 }
 
 StatoGlobale CartellaDiProva::StatoConConsegna(const DatiConsegna& dati) const {
-  StatoGlobale stato;
-  stato.CartellaApplicazione = Percorso();
-  stato.DbArchivio = NuovaConsegna(dati.consegna + ".MDB", dati);
-  stato.PathArchivio = stato.DbArchivio.Name();
-  return stato;
+  return Stato(*this, NuovaConsegna(dati.consegna + ".MDB", dati));
+}
+
+StatoGlobale CartellaDiProva::StatoConCodici(const DatiConsegna& dati) const {
+  const QString consegna = Mdb(dati.consegna + ".MDB");
+  CreaMaster(consegna);
+  return Stato(*this, ConDati(OpenDatabase(consegna), dati));
 }
 
 qint64 Aggiungi(const Database& database, const QString& tabella,

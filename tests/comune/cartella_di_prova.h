@@ -30,6 +30,8 @@ class CartellaDiProva {
                          const DatiConsegna& dati = {}) const;
   // The state of a program that has just opened that delivery.
   [[nodiscard]] StatoGlobale StatoConConsegna(const DatiConsegna& dati = {}) const;
+  // The same with every code table filled, as a copy of the master archive.
+  [[nodiscard]] StatoGlobale StatoConCodici(const DatiConsegna& dati = {}) const;
 
  private:
   QTemporaryDir cartella_;

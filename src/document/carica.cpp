@@ -1,0 +1,135 @@
+#include "document/carica.h"
+
+#include <functional>
+
+#include "archive/errore.h"
+#include "document/carica_parti.h"
+#include "fonti/carica_fonti.h"
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+// A combo of codes: the table in its own order, each row as code, '|', description.
+struct TabellaCodici {
+  const char* tabella;
+  const char* codice;
+  const char* descrizione;
+  QStringList CodiciDocumento::*voci;
+  QString CampiDocumento::*combo;
+  QString (*segnaposto)();
+};
+const TabellaCodici kTabelle[] = {
+    {"TabLingua", "idLingua", "Lingua", &CodiciDocumento::ComboLIN, &CampiDocumento::ComboLIN,
+     SegnapostoLIN},
+    {"TabTipoDoc", "IDTD", "TipoDoc", &CodiciDocumento::ComboTD, &CampiDocumento::ComboTD,
+     SegnapostoTD},
+    {"TabTAbs", "IDTAbs", "TipoAbstract", &CodiciDocumento::ComboTAbs, &CampiDocumento::ComboTAbs,
+     SegnapostoTAbs},
+    {"TabBib", "IDBib", "TipoBibliografia", &CodiciDocumento::ComboBib, &CampiDocumento::ComboBib,
+     SegnapostoBib},
+};
+
+// The fields that a new document finds empty. The publisher's own data stay for the load to fill.
+constexpr QString CampiDocumento::*kDaSvuotare[] = {
+    &CampiDocumento::txtCPer,   &CampiDocumento::txtRivista,   &CampiDocumento::txtParte,
+    &CampiDocumento::txtSerie,  &CampiDocumento::txtVolume,    &CampiDocumento::txtAnnata,
+    &CampiDocumento::txtPagine, &CampiDocumento::txtTitolo,    &CampiDocumento::txtNota,
+    &CampiDocumento::txtSuppl,  &CampiDocumento::txtAA,        &CampiDocumento::txtGG,
+    &CampiDocumento::txtMM,     &CampiDocumento::txtFascicolo, &CampiDocumento::txtSez,
+};
+
+void AzzeraIndici(Documento& documento) {
+  documento.IndiceResponsabilita = -1;
+  documento.IndiceClasse = -1;
+  documento.IndiceFonte = -1;
+}
+
+// One statement of the form's load. Where there is no row to be on, the number is set and the load
+// goes on with the next.
+void Passo(Documento& documento, const std::function<void()>& istruzione) {
+  try {
+    istruzione();
+  } catch (const ErroreEsecuzione& errore) {
+    if (!errore.E(Errore::NessunRecordCorrente)) throw;
+    documento.campi.txtID = QStringLiteral(" 1");
+  }
+}
+
+void CaricaSenzaRete(Documento& documento) {
+  const StatoGlobale& stato = documento.stato;
+  documento.RsDocumenti = stato.DbArchivio.OpenRecordset(QStringLiteral("TabDocumento"));
+  Passo(documento, [&] { CaricaCodici(documento); });
+  AzzeraIndici(documento);
+  documento.comandiVisibili = !stato.DocumentoNuovo;
+  if (stato.DocumentoNuovo) {
+    Passo(documento, [&] { documento.RsDocumenti->MoveLast(); });
+    Passo(documento, [&] { SvuotaDocumento(documento); });
+  } else {
+    documento.campi.txtID = stato.IDDocumentoScelto;
+    Passo(documento, [&] { CaricaDocumento(documento); });
+  }
+}
+
+}  // namespace
+
+QString SegnapostoLIN() { return QStringLiteral("Lingua"); }
+QString SegnapostoTD() { return QStringLiteral("Tipo documento"); }
+QString SegnapostoTAbs() { return QStringLiteral("Tipo abstract"); }
+QString SegnapostoBib() { return QStringLiteral("Tipo bibliografia"); }
+
+void CaricaForma(Documento& documento) {
+  try {
+    CaricaSenzaRete(documento);
+  } catch (const ErroreEsecuzione&) {
+    return;  // the form shows what was loaded before
+  }
+}
+
+void CaricaCodici(Documento& documento) {
+  const Database& archivio = documento.stato.DbArchivio;
+  for (const TabellaCodici& codici : kTabelle) {
+    QStringList& voci = documento.codici.*codici.voci;
+    voci.clear();
+    Recordset righe = archivio.OpenRecordset(QLatin1String(codici.tabella));
+    for (; !righe.Eof(); righe.MoveNext()) {
+      voci += righe.Fields(codici.codice).Testo() + QLatin1Char('|') +
+              righe.Fields(codici.descrizione).Testo();
+    }
+    documento.campi.*codici.combo = codici.segnaposto();
+  }
+  documento.campi.txtAnnoPr =
+      archivio.OpenRecordset(QStringLiteral("TabInfo")).Fields("AnnoProduzione").TestoOVuoto();
+}
+
+void SvuotaDocumento(Documento& documento) {
+  CampiDocumento& campi = documento.campi;
+  if (campi.txtID.isEmpty()) {
+    const qint64 ultimo = documento.RsDocumenti->Fields("IDDocumento").Intero();
+    campi.txtID = QString::number(ultimo + 1);
+  }
+  if (!documento.codici.ComboLIN.isEmpty()) campi.ComboLIN = documento.codici.ComboLIN.first();
+  for (QString CampiDocumento::*campo : kDaSvuotare) (campi.*campo).clear();
+  SvuotaTesti(documento);
+  campi.lstResponsabilita.clear();
+  campi.lstClassificazione.clear();
+  campi.lstFonte.clear();
+  AzzeraIndici(documento);
+  documento.stato.RigheResponsabilita.clear();
+  documento.stato.RigheClasse.clear();
+  documento.stato.RigheFonte.clear();
+}
+
+void CaricaDocumento(Documento& documento) {
+  CaricaResponsabilita(documento);
+  CaricaRiferimenti(documento);
+  CaricaClassi(documento);
+  CaricaTesti(documento);
+  documento.campi.lstFonte = CaricaFonti(documento.stato, NumeroDocumento(documento));
+}
+
+qint64 NumeroDocumento(const Documento& documento) {
+  return static_cast<qint64>(Val(documento.campi.txtID));
+}
+
+}  // namespace torvi
