@@ -53,6 +53,12 @@ void DialoghiConsole::MostraErrori(const QString& testo) {
   uscita_ << testo;
 }
 
+QString DialoghiConsole::ChiediTestoEsteso(const QString& etichetta) { throw Rifiuto{etichetta}; }
+
+QString DialoghiConsole::ScegliDaLista(const QStringList& /*voci*/) {
+  throw Rifiuto{QStringLiteral("Lista")};
+}
+
 void DialoghiConsole::Attesa(bool attiva) {
   if (!attiva) TogliAvanzamento();
 }

@@ -37,6 +37,8 @@ class DialoghiConsole : public Dialoghi {
                                          bool conNuovo) override;
   // To standard output.
   void MostraErrori(const QString& testo) override;
+  [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
+  [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
   void Attesa(bool attiva) override;
   // One line that writes over itself, only where standard error is a terminal.
   void Avanzamento(const QString& cosa, int fatto, int totale) override;

@@ -1,29 +1,11 @@
 #include "fonti/carica_fonti.h"
 
-#include <array>
-
 #include "fonti/righe_fonte.h"
 #include "fonti/tavole_fonte.h"
 #include "shell/valori.h"
 
 namespace torvi {
 namespace {
-
-using R = RigaFonte;
-
-struct Corrispondenza {
-  const char* colonna;
-  QString R::*campo;
-};
-
-constexpr std::array kTesti = {
-    Corrispondenza{"articolo", &R::Articolo}, Corrispondenza{"comma", &R::Comma},
-    Corrispondenza{"lettera", &R::Lettera},   Corrispondenza{"allegato", &R::Allegato},
-    Corrispondenza{"ripa", &R::RipA},         Corrispondenza{"ripc", &R::RipC},
-    Corrispondenza{"numero", &R::Numero},     Corrispondenza{"numeroP", &R::NumeroP},
-    Corrispondenza{"giorno", &R::Giorno},     Corrispondenza{"anno", &R::Anno},
-    Corrispondenza{"altro", &R::Altro},
-};
 
 bool Indica(const Campo& chiave) { return !chiave.Nullo() && chiave.Intero() != 0; }
 
@@ -46,7 +28,10 @@ void LeggiColonne(RigaFonte& riga, const Riga& fonte) {
   riga.IDFonte = fonte.Fields("IDFonte").Intero();
   riga.TP = fonte.Fields("TP").TestoOVuoto();
   riga.Testo = SenzaCodice(fonte.Fields("testo").TestoOVuoto());
-  for (const auto& [colonna, campo] : kTesti) riga.*campo = fonte.Fields(colonna).TestoOVuoto();
+  for (const auto& [colonna, campo] : ColonneFonte()) {
+    riga.*campo = fonte.Fields(colonna).TestoOVuoto();
+  }
+  riga.Altro = fonte.Fields("altro").TestoOVuoto();
   QString mese = fonte.Fields("mese").TestoOVuoto();
   riga.Mese = NomeMese(mese);
   riga.Ordinanza = fonte.Fields("ordinanza").Logico();

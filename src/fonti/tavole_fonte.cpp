@@ -10,6 +10,14 @@ namespace {
 
 using R = RigaFonte;
 
+constexpr std::array kColonne = {
+    ColonnaFonte{"articolo", &R::Articolo}, ColonnaFonte{"comma", &R::Comma},
+    ColonnaFonte{"lettera", &R::Lettera},   ColonnaFonte{"allegato", &R::Allegato},
+    ColonnaFonte{"ripa", &R::RipA},         ColonnaFonte{"ripc", &R::RipC},
+    ColonnaFonte{"numero", &R::Numero},     ColonnaFonte{"numerop", &R::NumeroP},
+    ColonnaFonte{"giorno", &R::Giorno},     ColonnaFonte{"anno", &R::Anno},
+};
+
 constexpr Catalogo kInterna{"TabFonteInterna", "IDFonteInterna", "FonteNorm"};
 constexpr Catalogo kInt{"TabFonteInt", "IDFonteInt", "FonteInt"};
 constexpr Catalogo kCom{"TabFonteCom", "IDFonteCom", "FonteCom"};
@@ -69,6 +77,8 @@ constexpr std::array kFamiglie = {
 };
 
 }  // namespace
+
+std::span<const ColonnaFonte> ColonneFonte() { return kColonne; }
 
 TavoleFonte TavoleDaCercare(const QString& tp) {
   const auto famiglia = std::ranges::find_if(kFamiglie, [&tp](const Famiglia& una) {

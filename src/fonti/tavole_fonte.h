@@ -30,6 +30,14 @@ struct TavolaNomi {
   DomandaVoce domanda;  // without a text where the table is fixed
 };
 
+// A text column of TabFonte and the field that it holds as it stands.
+struct ColonnaFonte {
+  const char* colonna;
+  QString RigaFonte::*campo;
+};
+// From the article to the year, in the order of TabFonte's look-up.
+[[nodiscard]] std::span<const ColonnaFonte> ColonneFonte();
+
 using ElencoTavole = std::span<const TavolaNomi* const>;
 
 // Where the names of a source stand, by its code. A catalogue is null where the kind has none.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace torvi {
 
@@ -38,11 +39,16 @@ class Dialoghi {
   [[nodiscard]] virtual QString ScegliFile(const RichiestaFile& richiesta) = 0;
 
   // Subordinate forms that a plain routine opens. What they give back is what the form leaves in
-  // its variable of StatoGlobale: the fields of a new delivery joined by '|', an output file.
+  // its variable of StatoGlobale: the fields of a new delivery joined by '|', an output file, a
+  // long form, a line.
   [[nodiscard]] virtual QString ChiediInformazione() = 0;
   [[nodiscard]] virtual QString ScegliFileUscita(const QString& cartella, const QString& modello,
                                                  bool conNuovo) = 0;
   virtual void MostraErrori(const QString& testo) = 0;
+  // The long form of what `etichetta` names ("Ministero: " and the short form). Empty is an answer.
+  [[nodiscard]] virtual QString ChiediTestoEsteso(const QString& etichetta) = 0;
+  // The line chosen; empty when the operator cancels.
+  [[nodiscard]] virtual QString ScegliDaLista(const QStringList& voci) = 0;
 
   // Hourglass or arrow.
   virtual void Attesa(bool attiva) = 0;

@@ -8,6 +8,8 @@
 #include <array>
 
 #include "archive/errore.h"
+#include "classificazione/frmLista.h"
+#include "document/frmImmissioneTesto.h"
 #include "export/frmWndErrori.h"
 #include "report/frmSceltaFileOut.h"
 #include "shell/finestra_misure.h"
@@ -117,6 +119,18 @@ QString DialoghiFinestra::ScegliFileUscita(const QString& cartella, const QStrin
 }
 
 void DialoghiFinestra::MostraErrori(const QString& testo) { frmWndErrori(testo, Padre()).exec(); }
+
+QString DialoghiFinestra::ChiediTestoEsteso(const QString& etichetta) {
+  frmImmissioneTesto forma(etichetta, Padre());
+  forma.exec();
+  return forma.TestoEsteso;
+}
+
+QString DialoghiFinestra::ScegliDaLista(const QStringList& voci) {
+  frmLista forma(voci, Padre());
+  forma.exec();
+  return forma.ValoreLista;
+}
 
 void DialoghiFinestra::Attesa(bool attiva) { attesa_.Imposta(attiva); }
 

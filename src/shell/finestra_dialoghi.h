@@ -21,6 +21,8 @@ class DialoghiFinestra : public Dialoghi {
   [[nodiscard]] QString ScegliFileUscita(const QString& cartella, const QString& modello,
                                          bool conNuovo) override;
   void MostraErrori(const QString& testo) override;
+  [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
+  [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
   void Attesa(bool attiva) override;
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
 

@@ -21,6 +21,8 @@ TEST(DialoghiConsole, RefusesWhatNoOptionAnswers) {
   EXPECT_THROW(static_cast<void>(dialoghi.ScegliFile({})), Rifiuto);
   EXPECT_THROW(static_cast<void>(dialoghi.ChiediInformazione()), Rifiuto);
   EXPECT_THROW(static_cast<void>(dialoghi.ScegliFileUscita({}, {}, true)), Rifiuto);
+  EXPECT_THROW(static_cast<void>(dialoghi.ChiediTestoEsteso({})), Rifiuto);
+  EXPECT_THROW(static_cast<void>(dialoghi.ScegliDaLista({})), Rifiuto);
   dialoghi.FileUscitaScelto(QStringLiteral("lexxdump.tot"));
   EXPECT_EQ(dialoghi.ScegliFileUscita({}, {}, true), QStringLiteral("lexxdump.tot"));
 }

@@ -32,28 +32,41 @@ DialoghiScritti::~DialoghiScritti() {
 
 void DialoghiScritti::AttendeDomanda(const QString& testo, const QString& titolo, Pulsanti pulsanti,
                                      Risposta risposta) {
-  copione_.push_back({{Genere::Domanda, testo, titolo, pulsanti, {}}, risposta, {}, false, {}});
+  copione_.push_back({{Genere::Domanda, testo, titolo, pulsanti, {}}, risposta, {}, false, {}, {}});
 }
 
 void DialoghiScritti::AttendeImmissione(const QString& testo, const QString& titolo,
                                         const QString& risposta) {
-  copione_.push_back({{Genere::Immissione, testo, titolo, {}, {}}, {}, risposta, false, {}});
+  copione_.push_back({{Genere::Immissione, testo, titolo, {}, {}}, {}, risposta, false, {}, {}});
 }
 
 void DialoghiScritti::AttendeFile(const QString& titolo, const QString& percorso) {
-  copione_.push_back({{Genere::File, {}, titolo, {}, {}}, {}, percorso, false, {}});
+  copione_.push_back({{Genere::File, {}, titolo, {}, {}}, {}, percorso, false, {}, {}});
 }
 
 void DialoghiScritti::AttendeFileAnnullato(const QString& titolo) {
-  copione_.push_back({{Genere::File, {}, titolo, {}, {}}, {}, {}, true, {}});
+  copione_.push_back({{Genere::File, {}, titolo, {}, {}}, {}, {}, true, {}, {}});
 }
 
 void DialoghiScritti::AttendeInformazione(const QString& risposta) {
-  copione_.push_back({{Genere::Informazione, {}, {}, {}, {}}, {}, risposta, false, {}});
+  copione_.push_back({{Genere::Informazione, {}, {}, {}, {}}, {}, risposta, false, {}, {}});
 }
 
 void DialoghiScritti::AttendeFileUscita(const QString& risposta, std::function<void()> prima) {
-  copione_.push_back({{Genere::FileUscita, {}, {}, {}, {}}, {}, risposta, false, std::move(prima)});
+  copione_.push_back(
+      {{Genere::FileUscita, {}, {}, {}, {}}, {}, risposta, false, std::move(prima), {}});
+}
+
+void DialoghiScritti::AttendeTestoEsteso(const QString& etichetta, const QString& risposta) {
+  copione_.push_back({{Genere::TestoEsteso, etichetta, {}, {}, {}}, {}, risposta, false, {}, {}});
+}
+
+void DialoghiScritti::AttendeLista(const QStringList& voci, const QString& risposta) {
+  copione_.push_back({{Genere::Lista, {}, {}, {}, {}}, {}, risposta, false, {}, voci});
+}
+
+void DialoghiScritti::AttendeLista(const QString& risposta) {
+  copione_.push_back({{Genere::Lista, {}, {}, {}, {}}, {}, risposta, false, {}, {}});
 }
 
 QStringList DialoghiScritti::Messaggi() const {
@@ -74,8 +87,9 @@ DialoghiScritti::Battuta DialoghiScritti::Prossima(const Parola& parola) {
   if (copione_.empty() || !StesseParole(copione_.front().parola, parola)) {
     ADD_FAILURE() << "asked: " << Mostra(parola) << "\nexpected: "
                   << (copione_.empty() ? "nothing" : Mostra(copione_.front().parola));
-    return {
-        parola, parola.pulsanti == Pulsanti::SiNo ? Risposta::No : Risposta::Annulla, {}, true, {}};
+    return {parola, parola.pulsanti == Pulsanti::SiNo ? Risposta::No : Risposta::Annulla,
+            {},     true,
+            {},     {}};
   }
   Battuta battuta = std::move(copione_.front());
   copione_.pop_front();
@@ -115,6 +129,17 @@ QString DialoghiScritti::ScegliFileUscita(const QString& cartella, const QString
 void DialoghiScritti::MostraErrori(const QString& testo) {
   parole_ += {Genere::Errori, testo, {}, {}, {}};
   errori_ = testo;
+}
+
+QString DialoghiScritti::ChiediTestoEsteso(const QString& etichetta) {
+  return Prossima({Genere::TestoEsteso, etichetta, {}, {}, {}}).testo;
+}
+
+QString DialoghiScritti::ScegliDaLista(const QStringList& voci) {
+  lista_ = voci;
+  const Battuta battuta = Prossima({Genere::Lista, {}, {}, {}, {}});
+  EXPECT_EQ(voci, battuta.voci.value_or(voci));
+  return battuta.testo;
 }
 
 void DialoghiScritti::Attesa(bool attiva) { attese_ += attiva ? 1 : -1; }

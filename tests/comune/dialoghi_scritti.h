@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <deque>
 #include <functional>
+#include <optional>
 
 #include "shell/dialoghi.h"
 
@@ -15,7 +16,17 @@ namespace torvi {
 
 // One thing the operator was shown or asked.
 struct Parola {
-  enum class Genere { Messaggio, Domanda, Immissione, File, Informazione, FileUscita, Errori };
+  enum class Genere {
+    Messaggio,
+    Domanda,
+    Immissione,
+    File,
+    Informazione,
+    FileUscita,
+    Errori,
+    TestoEsteso,
+    Lista
+  };
   Genere genere = Genere::Messaggio;
   QString testo;
   QString titolo;
@@ -40,6 +51,11 @@ class DialoghiScritti : public Dialoghi {
   // `prima` runs before the answer, as a form changes variables while it is shown.
   void AttendeFileUscita(const QString& risposta, std::function<void()> prima = {});
 
+  void AttendeTestoEsteso(const QString& etichetta, const QString& risposta);
+  // `voci` must be the lines of the list; without them any list will do.
+  void AttendeLista(const QStringList& voci, const QString& risposta);
+  void AttendeLista(const QString& risposta);
+
   // What was shown or asked so far.
   [[nodiscard]] const QList<Parola>& Parole() const { return parole_; }
   // The texts of the messages alone.
@@ -51,6 +67,8 @@ class DialoghiScritti : public Dialoghi {
   [[nodiscard]] const RichiestaFile& UltimaRichiesta() const { return richiesta_; }
   // Folder, pattern and "nuovo" (or "") of the last chooser of an output file.
   [[nodiscard]] const QStringList& UltimaUscita() const { return uscita_; }
+  // The lines of the last picker.
+  [[nodiscard]] const QStringList& UltimaLista() const { return lista_; }
   [[nodiscard]] bool InAttesa() const { return attese_ > 0; }
   [[nodiscard]] int Avanzamenti() const { return avanzamenti_; }
 
@@ -63,6 +81,8 @@ class DialoghiScritti : public Dialoghi {
   [[nodiscard]] QString ScegliFileUscita(const QString& cartella, const QString& modello,
                                          bool conNuovo) override;
   void MostraErrori(const QString& testo) override;
+  [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
+  [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
   void Attesa(bool attiva) override;
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
@@ -73,6 +93,7 @@ class DialoghiScritti : public Dialoghi {
     QString testo;
     bool annullata = false;
     std::function<void()> prima;
+    std::optional<QStringList> voci;
   };
   Battuta Prossima(const Parola& parola);
 
@@ -80,6 +101,7 @@ class DialoghiScritti : public Dialoghi {
   QList<Parola> parole_;
   RichiestaFile richiesta_;
   QStringList uscita_;
+  QStringList lista_;
   QString errori_;
   int attese_ = 0;
   int avanzamenti_ = 0;
