@@ -4,7 +4,6 @@
 
 #include "document/archivio_di_prova.h"
 #include "document/carica.h"
-#include "document/salva.h"
 
 namespace torvi {
 namespace {
@@ -25,32 +24,6 @@ QString Titolo(const Database& archivio, int documento) {
 }
 
 constexpr const char* kDomandaNew = "Vuoi salvare con lo stesso numero di documento?";
-
-TEST(SalvaDocumento, WithoutAJournalNothingIsWritten) {
-  ArchivioDiProva prova;
-  prova.Apri("1");
-  prova.documento.campi.txtCPer.clear();
-  prova.documento.campi.txtTitolo = "altro";
-  prova.documento.SalvaComeNuovo = true;
-  EXPECT_FALSE(SalvaDocumento(prova.documento));
-  EXPECT_EQ(prova.dialoghi.Messaggi(), QStringList("periodico non ancora immesso"));
-  EXPECT_TRUE(prova.documento.SalvaComeNuovo);
-  EXPECT_EQ(Titolo(prova.stato.DbArchivio, 1), "testo 0");
-}
-
-TEST(SalvaDocumento, AFailureKeepsTheStepsBeforeItAndWhatIsTyped) {
-  ArchivioDiProva prova;
-  prova.Apri("1");
-  prova.documento.campi.txtPagine = "99";
-  prova.documento.campi.txtTitolo = "nuovo titolo";
-  prova.stato.RigheClasse = {{0, "ZZZZZ", {}, 0, true, false}};
-  prova.documento.SalvaComeNuovo = false;
-  EXPECT_EQ(NumeroErrore([&] { SalvaDocumento(prova.documento); }), 3021);
-  EXPECT_EQ(Titolo(prova.stato.DbArchivio, 1), "nuovo titolo");
-  EXPECT_EQ(prova.stato.DbArchivio.OpenRecordset("TabDocumento").Fields("pagine").Testo(), "99");
-  EXPECT_TRUE(prova.dialoghi.Messaggi().isEmpty());
-  EXPECT_EQ(prova.documento.campi.txtTitolo, "nuovo titolo");
-}
 
 TEST(Comandi, SaveTwiceAsNewAddsTwoRowsUnderOneNumber) {
   ArchivioDiProva prova;
