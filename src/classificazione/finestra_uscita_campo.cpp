@@ -1,0 +1,56 @@
+#include "classificazione/finestra_uscita_campo.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+
+namespace torvi {
+namespace {
+
+bool CambiaControllo(Qt::FocusReason motivo) {
+  return motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason &&
+         motivo != Qt::MenuBarFocusReason;
+}
+
+bool DaTastiera(Qt::FocusReason motivo) {
+  return motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason;
+}
+
+}  // namespace
+
+UscitaCampo::UscitaCampo(QLineEdit& campo, QWidget& abbandona, std::function<bool()> controllo)
+    : campo_(campo), abbandona_(abbandona), controllo_(std::move(controllo)) {
+  campo_.installEventFilter(this);
+}
+
+bool UscitaCampo::Conferma() {
+  // A mnemonic presses its button without moving the focus.
+  if (campo_.hasFocus()) dovuto_ = true;
+  return Controlla();
+}
+
+bool UscitaCampo::Controlla() {
+  if (inCorso_) return false;
+  if (!dovuto_ || finito_) return true;
+  dovuto_ = false;
+  inCorso_ = true;
+  const bool valido = controllo_();
+  inCorso_ = false;
+  if (!valido) campo_.setFocus();
+  return valido;
+}
+
+bool UscitaCampo::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::FocusOut && !inCorso_ && !finito_) {
+    const Qt::FocusReason motivo = static_cast<QFocusEvent*>(evento)->reason();
+    const bool chiude = QApplication::focusWidget() == &abbandona_ && !DaTastiera(motivo);
+    if (CambiaControllo(motivo) && !chiude) {
+      dovuto_ = true;
+      // Once the focus has settled: a box in the midst of its move would leave a button pressed.
+      QMetaObject::invokeMethod(
+          this, [this] { Controlla(); }, Qt::QueuedConnection);
+    }
+  }
+  return QObject::eventFilter(oggetto, evento);
+}
+
+}  // namespace torvi

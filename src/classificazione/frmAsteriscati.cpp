@@ -1,0 +1,19 @@
+#include "classificazione/frmAsteriscati.h"
+
+#include "classificazione/codici_classe.h"
+#include "shell/finestra_misure.h"
+#include "ui_frmAsteriscati.h"
+
+namespace torvi {
+
+frmAsteriscati::frmAsteriscati(const Database& archivio, QWidget* padre)
+    : QDialog(padre), ui_(std::make_unique<Ui::frmAsteriscati>()) {
+  ui_->setupUi(this);
+  ui_->lstAsteriscato->addItems(CoppieAsteriscate(archivio));
+  connect(ui_->cmdEsci, &QPushButton::clicked, this, &QDialog::reject);
+  AdattaAlloSchermo(*this);
+}
+
+frmAsteriscati::~frmAsteriscati() = default;
+
+}  // namespace torvi
