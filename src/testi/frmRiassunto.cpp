@@ -1,9 +1,9 @@
 #include "testi/frmRiassunto.h"
 
 #include <QTextCursor>
-#include <QTextDocument>
 
 #include "shell/finestra_misure.h"
+#include "shell/finestra_testo.h"
 #include "ui_frmRiassunto.h"
 
 namespace torvi {
@@ -20,7 +20,7 @@ frmRiassunto::frmRiassunto(StatoGlobale& stato, Dialoghi& dialoghi, Dizionari& d
   ui_->setupUi(this);
   setWindowTitle(QLatin1String(tipo_.titolo));
   ui_->Label1->setText(QLatin1String(tipo_.etichetta));
-  ui_->txtRiassunto->setPlainText(TestoIniziale);
+  MostraTesto(*ui_->txtRiassunto, TestoIniziale);
   txtRiassunto_Change();
   AdattaAlloSchermo(*this);
   connect(ui_->txtRiassunto, &QPlainTextEdit::textChanged, this,
@@ -32,13 +32,6 @@ frmRiassunto::frmRiassunto(StatoGlobale& stato, Dialoghi& dialoghi, Dizionari& d
 
 frmRiassunto::~frmRiassunto() = default;
 
-QString frmRiassunto::Testo() const {
-  // The plain text of the control would turn hard blanks into soft ones.
-  QString testo = ui_->txtRiassunto->document()->toRawText();
-  testo.replace(QChar::LineSeparator, QChar::ParagraphSeparator);
-  return testo.replace(QString(QChar(QChar::ParagraphSeparator)), QLatin1String("\r\n"));
-}
-
 void frmRiassunto::MettiTesto(const QString& testo) {
   QTextCursor cursore(ui_->txtRiassunto->document());
   cursore.select(QTextCursor::Document);
@@ -46,7 +39,7 @@ void frmRiassunto::MettiTesto(const QString& testo) {
 }
 
 void frmRiassunto::txtRiassunto_Change() {
-  ui_->lblConteggio->setText(QString::number(Testo().length()));
+  ui_->lblConteggio->setText(QString::number(TestoMostrato(*ui_->txtRiassunto).length()));
 }
 
 void frmRiassunto::cmdUndo_Click() {
@@ -55,7 +48,7 @@ void frmRiassunto::cmdUndo_Click() {
 }
 
 void frmRiassunto::cmdEsci_Click() {
-  SalvaRiassunto(stato_, tipo_, Testo());
+  SalvaRiassunto(stato_, tipo_, TestoMostrato(*ui_->txtRiassunto));
   accept();
 }
 

@@ -28,8 +28,6 @@ class frmRiassunto : public QDialog {
   void txtRiassunto_Change();
   void cmdUndo_Click();
   void cmdEsci_Click();
-  // The text as the system counts it: paragraphs end in CR LF.
-  [[nodiscard]] QString Testo() const;
   // Can be taken back like anything typed.
   void MettiTesto(const QString& testo);
 

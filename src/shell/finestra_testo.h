@@ -1,0 +1,14 @@
+// Texts of several lines between the archive, where a line ends in CR LF, and the screen.
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace torvi {
+
+// Shows a text as freshly loaded: nothing of it can be undone.
+void MostraTesto(QPlainTextEdit& controllo, const QString& testo);
+// What stands in the control, lines ended by CR LF. A text that nobody changed since MostraTesto
+// comes back as it was given, single CR and LF included.
+[[nodiscard]] QString TestoMostrato(const QPlainTextEdit& controllo);
+
+}  // namespace torvi
