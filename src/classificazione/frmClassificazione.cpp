@@ -4,8 +4,8 @@
 
 #include "classificazione/codici_classe.h"
 #include "classificazione/esci_classificazione.h"
-#include "classificazione/finestra_invio.h"
 #include "classificazione/frmAsteriscati.h"
+#include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
 #include "ui_frmClassificazione.h"

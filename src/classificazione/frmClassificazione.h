@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <memory>
 
-#include "classificazione/finestra_uscita_campo.h"
 #include "shell/dialoghi.h"
+#include "shell/finestra_uscita_campo.h"
 #include "shell/stato_globale.h"
 
 namespace torvi {

@@ -2,7 +2,7 @@
 
 #include "classificazione/codici_classe.h"
 #include "classificazione/esci_classificazione.h"
-#include "classificazione/finestra_invio.h"
+#include "shell/finestra_invio.h"
 #include "shell/guardia.h"
 #include "ui_frmClassificazione1999.h"
 

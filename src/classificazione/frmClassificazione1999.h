@@ -5,8 +5,8 @@
 #include <QDialog>
 #include <memory>
 
-#include "classificazione/finestra_uscita_campo.h"
 #include "shell/dialoghi.h"
+#include "shell/finestra_uscita_campo.h"
 #include "shell/stato_globale.h"
 
 namespace torvi {

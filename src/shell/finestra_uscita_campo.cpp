@@ -1,4 +1,4 @@
-#include "classificazione/finestra_uscita_campo.h"
+#include "shell/finestra_uscita_campo.h"
 
 #include <QApplication>
 #include <QFocusEvent>

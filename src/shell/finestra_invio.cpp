@@ -1,4 +1,4 @@
-#include "classificazione/finestra_invio.h"
+#include "shell/finestra_invio.h"
 
 #include <QCoreApplication>
 #include <QPushButton>
