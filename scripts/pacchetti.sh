@@ -4,9 +4,9 @@
 set -euo pipefail
 
 # Everything the program is built and run with.
-pacchetti=(g++ cmake ninja-build pkgconf qt6-base-dev qt6-qpa-plugins libsqlitecpp-dev
-  libsqlite3-dev mdbtools-dev libglib2.0-dev libhunspell-dev hunspell-it hunspell-en-us
-  libgtest-dev fonts-dejavu-core)
+pacchetti=(g++ cmake ninja-build pkgconf qt6-base-dev qt6-qpa-plugins libqt6svg6
+  libsqlitecpp-dev libsqlite3-dev mdbtools-dev libglib2.0-dev libhunspell-dev hunspell-it
+  hunspell-en-us libgtest-dev fonts-dejavu-core)
 prove=(sqlite3 util-linux)
 misure=(sqlite3 mdbtools time python3 libbenchmark-dev)
 schermate=(xvfb openbox xdotool imagemagick)
