@@ -3,9 +3,8 @@
 namespace torvi {
 
 QString MessaggioFine(Controllo controllo) {
-  return controllo == Controllo::Ortografico
-             ? QStringLiteral("Controllo ortografico effettuato!")
-             : QStringLiteral("Controllo grammaticale effettuato!");
+  return controllo == Controllo::Ortografico ? QStringLiteral("Controllo ortografico effettuato!")
+                                             : QStringLiteral("Controllo grammaticale effettuato!");
 }
 
 QString TestoControllato(Correttore& correttore, Controllo controllo, const QString& testo,

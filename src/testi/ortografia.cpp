@@ -112,12 +112,13 @@ std::vector<Tratto> Ortografia::Errate(const QString& testo) const {
 std::vector<Segnalazione> Ortografia::Segnala(const QString& testo) const {
   std::vector<Segnalazione> segnalazioni;
   for (const Tratto& tratto : Errate(testo)) {
-    segnalazioni.push_back({.inizio = tratto.inizio,
-                            .testo = testo.mid(tratto.inizio, tratto.lunghezza),
-                            .spiegazione = QStringLiteral("La parola non è nel dizionario %1.")
-                                               .arg(NomeLingua(lingua_)),
-                            .regola = 0,
-                            .proposte = {}});
+    segnalazioni.push_back(
+        {.inizio = tratto.inizio,
+         .testo = testo.mid(tratto.inizio, tratto.lunghezza),
+         .spiegazione =
+             QStringLiteral("La parola non è nel dizionario %1.").arg(NomeLingua(lingua_)),
+         .regola = 0,
+         .proposte = {}});
   }
   return segnalazioni;
 }

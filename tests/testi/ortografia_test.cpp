@@ -1,0 +1,111 @@
+#include "testi/ortografia.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+#include "comune/cartella_di_prova.h"
+#include "testi/revisione.h"
+
+namespace torvi {
+namespace {
+
+class OrtografiaDiProva : public testing::Test {
+ protected:
+  Ortografia Apri(Lingua lingua = Lingua::Italiano) {
+    return {lingua, dizionari.Di(lingua), DizionarioPersonale(cartella.Percorso(), lingua)};
+  }
+  QString Errate(const QString& testo, Lingua lingua = Lingua::Italiano) {
+    QStringList errate;
+    const Ortografia ortografia = Apri(lingua);
+    for (const Segnalazione& trovata : ortografia.Segnala(testo)) errate += trovata.testo;
+    return errate.join(u'|');
+  }
+  [[nodiscard]] QString FilePersonale() const {
+    return cartella.Percorso() + "/dizionari/personale-italiano.txt";
+  }
+
+  CartellaDiProva cartella;
+  Dizionari dizionari{cartella.Percorso()};
+};
+
+TEST_F(OrtografiaDiProva, FindsWrongWordsAndLeavesLegalWritingAlone) {
+  struct Caso {
+    const char* testo;
+    const char* errate;
+    Lingua lingua = Lingua::Italiano;
+  };
+  for (const Caso& caso : {
+           Caso{"il provedimento dell'aministrazione e dell’autorrità",
+                "provedimento|aministrazione|autorrità"},
+           {"del'amministrazione", "del'amministrazione"},
+           {"dell'amministrazione, l’interpretazione, sull'onere, po' e mo'", ""},
+           {"perchè la societa' puo' e l'autorita' pò", "perchè|societa'|puo'|autorita'"},
+           {"le parole 'danno', \"colpa\" e ‘nesso’ e 'provedimento'", "provedimento"},
+           {"giuridico-economico e giuridico-ecconomico", "ecconomico"},
+           {"d.lgs. n. 112, art. 2, artt. 3-bis e 4, c.p.c., S.p.A., Cass. civ., sez. un.", ""},
+           {"CEDU, TFUE, dell'INPS, CdA, PhD, art2043, 2bis, C-131/12, l. 241/90, xii) e iv)", ""},
+           {"Trib. Roma, ord. 3 maggio; disc. 5; cost. Italia; p. 3 ss.", ""},
+           {"www.giustizzia.it, aa@bbbb.it e http://xyzw.it/abcd ma giustizzia", "giustizzia"},
+           {"ex lege, iura novit curia, culpa in contrahendo, giurisprudenza eurounitaria", ""},
+           {"The european court's organisation, parties' rights, acquis", "european",
+            Lingua::Inglese},
+           {"it doesn't recieve the Court's judgement", "recieve", Lingua::Inglese},
+       }) {
+    EXPECT_EQ(Errate(QString::fromUtf8(caso.testo), caso.lingua).toStdString(), caso.errate)
+        << caso.testo;
+  }
+}
+
+TEST_F(OrtografiaDiProva, ProposesTheAccentOfATypewriterFirst) {
+  const Ortografia ortografia = Apri();
+  const auto prima = [&ortografia](const QString& testo) {
+    return ortografia.Proposte({.testo = testo}).value(0).toStdString();
+  };
+  EXPECT_EQ(prima(QStringLiteral("societa'")), "società");
+  EXPECT_EQ(prima(QStringLiteral("perche'")), "perché");
+  EXPECT_EQ(prima(QStringLiteral("provedimento")), "provvedimento");
+}
+
+TEST_F(OrtografiaDiProva, PersonalWordsAreKeptInAFileThatMayBeEdited) {
+  QDir().mkpath(cartella.Percorso() + "/dizionari");
+  ScriviByte(FilePersonale(),
+             "\xEF\xBB\xBF"
+             "brocardico\r\n\r\nTaricco");
+  EXPECT_EQ(Errate(QStringLiteral("Brocardico Taricco taricco zzorro")), "taricco|zzorro");
+  Ortografia ortografia = Apri();
+  ScriviByte(FilePersonale(), "altrove");
+  const QString testo = QStringLiteral("zzorro' e Zzorro");
+  ortografia.AggiungiAlDizionario(ortografia.Segnala(testo).front());
+  EXPECT_TRUE(ortografia.Segnala(testo).empty());
+  EXPECT_EQ(Byte(FilePersonale()), "altrove\nzzorro\n");
+  EXPECT_EQ(Errate(QStringLiteral("zzorro altrove brocardico")), "brocardico");
+}
+
+TEST_F(OrtografiaDiProva, AFileThatCannotBeWrittenLosesNothing) {
+  ScriviByte(cartella.Percorso() + "/dizionari", "no folder");
+  Ortografia ortografia = Apri();
+  Revisione revisione(QStringLiteral("zzorro"), ortografia);
+  EXPECT_EQ(NumeroErrore([&revisione] { revisione.AggiungiAlDizionario(); }), 75);
+  EXPECT_TRUE(revisione.Corrente());
+  EXPECT_EQ(ortografia.Segnala(QStringLiteral("zzorro")).size(), 1U);
+}
+
+TEST_F(OrtografiaDiProva, ARevisionGoesThroughTheText) {
+  Ortografia ortografia = Apri();
+  Revisione revisione(QStringLiteral("axx bxx axx cxx dxx cxx bxx axx"), ortografia);
+  revisione.SostituisciTutto(QStringLiteral("una axx"));  // wrong again, yet asked no more
+  EXPECT_EQ(revisione.Corrente()->testo, "bxx");
+  revisione.Ignora();
+  EXPECT_EQ(revisione.Testo(), "una axx bxx una axx cxx dxx cxx bxx axx");
+  revisione.IgnoraTutto();
+  EXPECT_EQ(revisione.Corrente()->testo, "dxx");
+  revisione.Sostituisci({});
+  EXPECT_EQ(revisione.Corrente()->testo, "bxx");
+  revisione.Sostituisci(QStringLiteral("bxx"));
+  EXPECT_FALSE(revisione.Corrente());
+  EXPECT_EQ(revisione.Testo(), "una axx bxx una axx cxx  cxx bxx una axx");
+}
+
+}  // namespace
+}  // namespace torvi
