@@ -1,5 +1,7 @@
 #include "testi/ortografia.h"
 
+#include <algorithm>
+
 #include "testi/parole_giuridiche.h"
 
 namespace torvi {

@@ -20,9 +20,10 @@ constexpr std::array kRegole = {
     Regola{"an davanti a consonante",
            R"(\b([Aa])n[ ](?=[bcdfgjklmnpqrstvwyz][bcdfghklmnpqrstvwyz]{0,2}[aeiouy]\p{Ll}))",
            R"(\1 )", "Davanti a suono consonantico l'articolo è «a»."},
-    Regola{"an davanti a u e eu lette con consonante",
-           R"(\b([Aa])n[ ](?=[Ee]urop|uni(?:versi|que|on|form|ty|lateral)|us(?:e|er|age|ual)\b))",
-           R"(\1 )", "La parola comincia con suono consonantico: l'articolo è «a»."},
+    Regola{
+        "an davanti a u e eu lette con consonante",
+        R"(\b([Aa])n[ ](?=[Ee]urop|uni(?:vers|que|on\b|form|ty\b|lateral)|us(?:e|er|age|ual)\b))",
+        R"(\1 )", "La parola comincia con suono consonantico: l'articolo è «a»."},
     Regola{
         "it's per its",
         R"((?i)\b(it)<apostrofo>s(?=[ ](?:own|provisions?|application|scope|content|terms|nature)"

@@ -80,6 +80,8 @@ constexpr std::array kRegole = {
            R"(\1ì|\2ò|\3ù)", "Al posto dell'apostrofo va l'accento."},
 
     // Accents.
+    Regola{"pressoché", R"((?i)\bpressoc+h[éè](?!\p{L})(?<!pressoché))", "pressoché",
+           "Si scrive con una c sola e l'accento acuto."},
     Regola{"-ché", R"((?i)\b(\p{L}*ch)è(?!\p{L}))", R"(\1é)",
            "La e finale è chiusa: vuole l'accento acuto."},
     Regola{"né e sé", R"((?i)\b(n|s)è(?!\p{L}))", R"(\1é)",
@@ -117,9 +119,10 @@ constexpr std::array kRegole = {
         "i per gli",
         R"((?<![\p{L}.'’])((?:[Dd]e|[Aa]|[Dd]a|[Ss]u|[Nn]e|[Qq]ue)?)i[ ](?=<impura>|[aeou]\p{Ll}{2,}))",
         R"(\1gli )", "Davanti a vocale, s seguita da consonante, z, gn e ps va «gli»."},
-    Regola{"dello davanti a consonante",
-           R"(\b([Dd]e|[Aa]|[Dd]a|[Ss]u|[Nn]e)llo[ ](?=[bcdfglmpqrtv][aeiouàèéìòù]\p{L}))",
-           R"(\1l )", "Davanti a consonante semplice va la forma senza «-lo»."},
+    Regola{
+        "dello davanti a consonante",
+        R"(\b([Dd]e|[Aa]|[Dd]a|[Ss]u|[Nn]e)llo[ ](?=(?:[bcdfgptv]r|[bcfp]l|[bcdfglmpqrtv])[aeiouàèéìòù]\p{L}))",
+        R"(\1l )", "Davanti a consonante semplice va la forma senza «-lo»."},
     Regola{"ed davanti a consonante", R"((?<![\p{L}.'’])ed[ ](?=[bcdfglmnpqrstvz]\p{Ll}))", "e ",
            "Davanti a consonante si scrive «e»."},
 
@@ -136,8 +139,6 @@ constexpr std::array kRegole = {
            "Si scrive con l'apostrofo."},
     Regola{"soprattutto", R"((?i)\bsopra(?:tutto|ttuto)\b)", "soprattutto",
            "Si scrive con due doppie."},
-    Regola{"pressoché", R"((?i)\bpressoc+h[éè](?!\p{L})(?<!pressoché))", "pressoché",
-           "Si scrive con una c sola e l'accento acuto."},
     Regola{"in quanto", R"((?i)\binquanto\b)", "in quanto", "La locuzione si scrive staccata."},
 };
 
