@@ -10,12 +10,14 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <random>
 #include <vector>
 
 #include "archive/esempio.h"
 #include "comune/dialoghi_scritti.h"
 #include "document/carica.h"
+#include "document/ricerca.h"
 #include "document/salva.h"
 
 namespace torvi {
@@ -103,19 +105,15 @@ void Carica(benchmark::State& misura) {
 BENCHMARK(Carica)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void Cerca(benchmark::State& misura) {
-  const QString istruzione = QStringLiteral(
-      "SELECT TabDocumento.* FROM TabTesto INNER JOIN (TabDocumento INNER JOIN LegameDocTesto ON "
-      "TabDocumento.IDDocumento = LegameDocTesto.IDDoc) ON TabTesto.IDTesto = "
-      "LegameDocTesto.IDTesto WHERE (LegameDocTesto.Tipo='0') AND (TabTesto.Testo like "
-      "'*responsabilità*' AND TabTesto.Testo like '*civile*') order by TabDocumento.IDDocumento");
-  const Database& archivio = Archivio().stato.DbArchivio;
+  Prova& prova = Archivio();
+  const auto titolo = std::ranges::find_if(CampiRicerca(), [](const CampoRicerca& campo) {
+    return QStringView(campo.voce) == u"Titolo";
+  });
   for (auto _ : misura) {
-    std::vector<qint16> trovati;
-    Recordset righe = archivio.OpenRecordset(istruzione);
-    for (; !righe.Eof(); righe.MoveNext()) {
-      trovati.push_back(righe.Fields("IDDocumento").Intero16());
-    }
-    benchmark::DoNotOptimize(trovati);
+    RisultatoRicerca risultato;
+    EseguiRicerca(prova.stato, prova.dialoghi, &*titolo, ModoCampo::Tutte,
+                  QStringLiteral("responsabilità civile"), risultato);
+    benchmark::DoNotOptimize(risultato);
   }
 }
 BENCHMARK(Cerca)->Unit(benchmark::kMillisecond)->UseRealTime();

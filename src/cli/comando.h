@@ -37,6 +37,7 @@ struct Comando {
   int argomenti;      // how many there must be
   std::span<const Opzione> opzioni;
   Esito (*esegui)(Contesto& contesto, const QCommandLineParser& righe);
+  bool ancheOltre = false;  // more arguments may follow
 };
 
 // The commands in the order of the help.
@@ -46,6 +47,7 @@ struct Comando {
 extern const Comando kNuovo;
 extern const Comando kEsporta;
 extern const Comando kErrori;
+extern const Comando kCerca;
 extern const Comando kConverti;
 extern const Comando kVerifica;
 extern const Comando kMaster;

@@ -92,9 +92,11 @@ int LeggiComando(const Comando& comando, const QStringList& argomenti, const QSt
     return static_cast<int>(Esito::Fatto);
   }
   if (!letto) return Sbagliato(Motivo(righe), UsoComando(comando));
-  if (righe.positionalArguments().size() != comando.argomenti) {
-    return Sbagliato(QStringLiteral("gli argomenti di \"%1\" sono %2")
-                         .arg(QString::fromUtf8(comando.nome))
+  const qsizetype dati = righe.positionalArguments().size();
+  if (dati < comando.argomenti || (dati > comando.argomenti && !comando.ancheOltre)) {
+    return Sbagliato(QStringLiteral("gli argomenti di \"%1\" sono %2%3")
+                         .arg(QString::fromUtf8(comando.nome),
+                              comando.ancheOltre ? QStringLiteral("almeno ") : QString())
                          .arg(comando.argomenti),
                      UsoComando(comando));
   }
@@ -105,7 +107,7 @@ int LeggiComando(const Comando& comando, const QStringList& argomenti, const QSt
 }  // namespace
 
 std::span<const Comando> Comandi() {
-  static const std::array comandi = {kNuovo,    kEsporta, kErrori,   kConverti,
+  static const std::array comandi = {kNuovo,    kEsporta, kErrori,   kCerca,  kConverti,
                                      kVerifica, kMaster,  kCatalogo, kEsempio};
   return comandi;
 }

@@ -110,6 +110,31 @@ TEST_F(Comandi, ErroriShowsWhatTheExportFound) {
   EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 1 - - - - - 1 1 1"));
 }
 
+TEST_F(Comandi, CercaWritesTheNumbersFound) {
+  PreparaEsempio(12);
+  const QStringList cerca{QStringLiteral("cerca"), Archivio(), QStringLiteral("--campo"),
+                          QStringLiteral("Titolo")};
+  {
+    const Database archivio = OpenDatabase(Archivio());
+    for (const int numero : {3, 7}) {
+      const Recordset titolo = archivio.OpenRecordset(
+          QStringLiteral("select IDTesto from LegameDocTesto where IDDoc = ? and Tipo = \"0\""),
+          {numero});
+      archivio.Execute(QStringLiteral("update TabTesto set testo = ? where IDTesto = ?"),
+                       {QStringLiteral("L'usura nel mutuo"), titolo.Fields("IDTesto")});
+    }
+  }
+  for (const QStringList& resto :
+       {QStringList{QStringLiteral("l'usura"), QStringLiteral("nel"), QStringLiteral("mutuo")},
+        QStringList{QStringLiteral("--parte"), QStringLiteral("tutte"), QStringLiteral("mutuo"),
+                    QStringLiteral("l'usura")},
+        QStringList{QStringLiteral("--parte=sequenza"), QStringLiteral("ura ne?")}}) {
+    EXPECT_EQ(Esegui(cerca + resto).uscita, QStringLiteral("3\n7\n"));
+  }
+  Riesce(cerca + QStringList{QStringLiteral("mutuo")},
+         QStringLiteral("Non esistono record che soddisfano la ricerca impostata\n"));
+}
+
 TEST_F(Comandi, VerificaTellsASoundArchiveFromOneWithFaults) {
   PreparaEsempio();
   const QByteArray prima = Byte(Archivio());

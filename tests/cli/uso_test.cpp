@@ -28,6 +28,11 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
       {"esporta isis a.mdb b.mdb", "torvi: gli argomenti di \"esporta\" sono 2"},
       {"esporta rtf a.mdb", "torvi: non si conosce \"rtf\""},
       {"errori tutti a.mdb", "torvi: non si conosce \"tutti\""},
+      {"cerca a.mdb --campo Titolo", "torvi: gli argomenti di \"cerca\" sono almeno 2"},
+      {"cerca a.mdb parola", "torvi: manca --campo CAMPO"},
+      {"cerca a.mdb --campo Titoli parola", "torvi: non si conosce il campo \"Titoli\""},
+      {"cerca a.mdb --campo Titolo --parte tutto parola",
+       "torvi: --parte deve essere tutte, una o sequenza"},
       {"converti a.mdb", "torvi: gli argomenti di \"converti\" sono 2"},
       {"esempio a.mdb --documenti 0", "torvi: --documenti va da 1 a 32750"},
       {"esempio a.mdb --documenti 32751", "torvi: --documenti va da 1 a 32750"},
@@ -54,8 +59,8 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
 TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
   const QString generale = Torvi({QStringLiteral("--aiuto")}).uscita;
   EXPECT_TRUE(generale.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] COMANDO")));
-  for (const char* comando :
-       {"nuovo", "esporta", "errori", "converti", "verifica", "master", "catalogo", "esempio"}) {
+  for (const char* comando : {"nuovo", "esporta", "errori", "cerca", "converti", "verifica",
+                              "master", "catalogo", "esempio"}) {
     const QString nome = QString::fromLatin1(comando);
     EXPECT_TRUE(generale.contains(QStringLiteral("  torvi %1 ").arg(nome))) << comando;
     const EsitoProgramma esito = Torvi({nome, QStringLiteral("--aiuto")});
