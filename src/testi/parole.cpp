@@ -25,6 +25,9 @@ constexpr std::array kRumore = {
     // All capitals, and short words with a capital inside: CEDU, SMEs, CdA, PhD.
     R"((?<!\p{L})\p{Lu}{2,}s?(?!\p{L}))",
     R"((?<!\p{L})(?=\p{L}{2,5}(?!\p{L}))\p{L}+\p{Lu}\p{L}*)",
+    // First parts that stand only before a hyphen.
+    R"((?<!\p{L})(?i:anti|neo|semi|pre|post|inter|intra|extra|infra|sub|super|ultra|vice|auto)"
+    R"(|bio|euro|eco|geo|multi|pluri|socio|tecno|italo|anglo|austro|ispano|sino|nippo)-(?=\p{L}))",
     // Roman numbers of a list: ii), iv).
     R"((?<!\p{L})[ivxl]{1,5}\))",
 };

@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
@@ -20,6 +24,41 @@ void Premi(QWidget& forma, const char* pulsante, Qt::Key lettera) {
   EXPECT_TRUE(QTest::qWaitFor([&premuto] { return !premuto.isDown(); }));
 }
 
+// A button by the blank bar, to the end of what it does, forms that it opens or closes included.
+void PremiSpazio(QWidget& forma, const char* pulsante) {
+  QTest::keyClick(&Trova<QPushButton>(forma, pulsante), Qt::Key_Space);
+}
+
+void PremiControllo(QWidget& editore, Qt::Key lettera) {
+  PremiSpazio(editore,
+              lettera == Qt::Key_O ? "cmdControlloOrtografico" : "cmdControlloGrammaticale");
+}
+
+// What the correction form shows of the text, and what it would put there.
+std::string InMano(const QWidget& correzione) {
+  const auto evidenze = Trova<QPlainTextEdit>(correzione, "txtContesto").extraSelections();
+  const QString inMano = evidenze.value(0).cursor.selectedText() + QStringLiteral(" > ") +
+                         Trova<QLineEdit>(correzione, "txtSostituzione").text();
+  return inMano.toStdString();
+}
+
+void Batti(QWidget& correzione, const QString& testo, Qt::Key fine = Qt::Key_Return) {
+  auto& sostituzione = Trova<QLineEdit>(correzione, "txtSostituzione");
+  QTest::keyClicks(&sostituzione, testo);
+  QTest::keyClick(&sostituzione, fine);
+}
+
+QString Sottolineate(const QPlainTextEdit& testo) {
+  QStringList parole;
+  for (QTextBlock riga = testo.document()->begin(); riga.isValid(); riga = riga.next()) {
+    for (const QTextLayout::FormatRange& tratto : riga.layout()->formats()) {
+      if (tratto.format.underlineStyle() != QTextCharFormat::WaveUnderline) continue;
+      parole += riga.text().mid(tratto.start, tratto.length);
+    }
+  }
+  return parole.join(u'|');
+}
+
 class FormaRiassunto : public testing::Test {
  protected:
   FormaRiassunto() {
@@ -34,6 +73,18 @@ class FormaRiassunto : public testing::Test {
                         uso(forma, Trova<QPlainTextEdit>(forma, "txtRiassunto"));
                       }});
     return esito;
+  }
+  // Opens the form on a text, runs a check by its letter and gives back the text left by it.
+  QString Controlla(const QString& testo, Qt::Key lettera, const Passo& correzione) {
+    stato.TestoRiassunto = testo;
+    frmRiassunto forma(stato, dialoghi, dizionari);
+    std::deque<Passo> passi = {[lettera](QWidget& editore) {
+      PremiControllo(editore, lettera);
+      PremiSpazio(editore, "cmdEsci");
+    }};
+    if (correzione) passi.push_back(correzione);
+    Operatore::Esegue([&forma] { forma.exec(); }, passi);
+    return stato.TestoRiassunto;
   }
 
   CartellaDiProva cartella;
@@ -134,6 +185,125 @@ TEST_F(FormaRiassunto, UndoGoesBackToTheTextAtTheOpening) {
   });
   EXPECT_EQ(dialoghi.UltimoMessaggio(), "Ripristinato testo originale!");
   EXPECT_EQ(dialoghi.Parole().last().icona, Icona::Informazione);
+}
+
+TEST_F(FormaRiassunto, CorrectsTheSpellingByKeys) {
+  const QString corretto = Controlla(
+      QStringLiteral("Un provedimento del\r\nprovedimento di Zzorro, zzorro e qqwq."), Qt::Key_O,
+      [](QWidget& correzione) {
+        EXPECT_EQ(correzione.windowTitle(), "Controllo ortografico: italiano");
+        EXPECT_EQ(InMano(correzione), "provedimento > procedimento");
+        QTest::keyClicks(&Trova<QLineEdit>(correzione, "txtSostituzione"), "provvedimento");
+        Premi(correzione, "cmdSostituisciTutto", Qt::Key_T);
+        EXPECT_EQ(InMano(correzione).substr(0, 6), "Zzorro");
+        Premi(correzione, "cmdAggiungi", Qt::Key_D);
+        EXPECT_EQ(InMano(correzione).substr(0, 6), "zzorro");
+        Premi(correzione, "cmdIgnoraTutto", Qt::Key_G);
+        PremiSpazio(correzione, "cmdIgnora");
+      });
+  EXPECT_EQ(corretto, "Un provvedimento delprovvedimento di Zzorro, zzorro e qqwq.");
+  EXPECT_EQ(Byte(cartella.Percorso() + "/dizionari/personale-italiano.txt"), "Zzorro\n");
+  EXPECT_EQ(dialoghi.Messaggi().join('|'), "Controllo ortografico effettuato!");
+  EXPECT_EQ(dialoghi.Parole().last().icona, Icona::Informazione);
+}
+
+TEST_F(FormaRiassunto, WhatWasCorrectedBeforeAnEndStays) {
+  ScriviByte(cartella.Percorso() + "/dizionari", "no folder");
+  const QString corretto =
+      Controlla(QStringLiteral("perchè poichè finchè"), Qt::Key_O, [](QWidget& correzione) {
+        const auto& fine = Trova<QPushButton>(correzione, "cmdAnnulla");
+        EXPECT_EQ(fine.text(), "&Annulla");
+        Batti(correzione, {});
+        EXPECT_EQ(fine.text(), "&Chiudi");
+        Premi(correzione, "cmdAggiungi", Qt::Key_D);  // cannot be written: still in hand
+        EXPECT_EQ(InMano(correzione).substr(0, 7), "poich\u00E8");
+        QTest::keyClick(&correzione, Qt::Key_Escape);
+      });
+  EXPECT_EQ(corretto, "perché poichè finchè");
+  EXPECT_TRUE(
+      dialoghi.Messaggi().value(0).startsWith("Errore di run-time '75': La parola «poichè»"));
+  EXPECT_EQ(dialoghi.UltimoMessaggio(), "Controllo ortografico effettuato!");
+}
+
+TEST_F(FormaRiassunto, ExplainsTheGrammarAndTakesASuggestion) {
+  const QString corretto =
+      Controlla(QStringLiteral("Il danno..  E' una colpa. Cos' è un'altro?"), Qt::Key_G,
+                [](QWidget& correzione) {
+                  EXPECT_EQ(correzione.windowTitle(), "Controllo grammaticale: italiano");
+                  EXPECT_FALSE(Trova<QPushButton>(correzione, "cmdAggiungi").isVisible());
+                  EXPECT_EQ(Trova<QLabel>(correzione, "lblSpiegazione").text(),
+                            "Il punto fermo è uno solo; i puntini di sospensione sono tre.");
+                  EXPECT_EQ(InMano(correzione), ".. > .");
+                  Batti(correzione, {}, Qt::Key_Down);
+                  EXPECT_EQ(InMano(correzione), ".. > ...");
+                  Batti(correzione, {});
+                  EXPECT_EQ(InMano(correzione), "   >  ");
+                  EXPECT_EQ(Trova<QListWidget>(correzione, "lstSuggerimenti").item(0)->text(), "·");
+                  Batti(correzione, {});
+                  EXPECT_EQ(InMano(correzione), "E' > È");
+                  Batti(correzione, {});
+                  Premi(correzione, "cmdIgnora", Qt::Key_I);
+                  EXPECT_EQ(InMano(correzione), "un' > un ");
+                  PremiSpazio(correzione, "cmdSostituisci");
+                });
+  EXPECT_EQ(corretto, "Il danno... È una colpa. Cos' è un altro?");
+  EXPECT_EQ(dialoghi.Messaggi().join('|'), "Controllo grammaticale effettuato!");
+}
+
+TEST_F(FormaRiassunto, AsksWhatToDoWithATextThatComesBackEmpty) {
+  const QString domanda =
+      QStringLiteral("Testo con correzioni perso: vuoi ripristinare il testo originale?");
+  for (const Risposta risposta : {Risposta::Si, Risposta::No}) {
+    dialoghi.AttendeDomanda(domanda, QStringLiteral("Attenzione!"), Pulsanti::SiNo, risposta);
+    const QString corretto = Controlla(
+        QStringLiteral("perchè"), risposta == Risposta::Si ? Qt::Key_O : Qt::Key_G,
+        [](QWidget& correzione) {
+          QTest::keyClick(&Trova<QLineEdit>(correzione, "txtSostituzione"), Qt::Key_Delete);
+          Batti(correzione, {});
+        });
+    EXPECT_EQ(corretto, risposta == Risposta::Si ? "perchè" : "");
+  }
+  dialoghi.AttendeDomanda(domanda, QStringLiteral("Attenzione!"), Pulsanti::SiNo, Risposta::Si);
+  EXPECT_EQ(Controlla({}, Qt::Key_O, {}), "");
+}
+
+TEST_F(FormaRiassunto, UnderlinesWhatIsMisspelt) {
+  stato.TestoRiassunto = QStringLiteral("Il provedimento");
+  frmRiassunto forma(stato, dialoghi, dizionari);
+  const auto& testo = Trova<QPlainTextEdit>(forma, "txtRiassunto");
+  Operatore::Esegue([&forma] { forma.exec(); },
+                    {[&testo](QWidget& editore) {
+                       EXPECT_EQ(Sottolineate(testo), "provedimento");
+                       QTest::keyClicks(editore.focusWidget(), "Zzorro ");
+                       EXPECT_EQ(Sottolineate(testo), "Zzorro|provedimento");
+                       PremiControllo(editore, Qt::Key_O);
+                       EXPECT_EQ(Sottolineate(testo), "provedimento");
+                       editore.close();
+                     },
+                     [](QWidget& correzione) {
+                       Premi(correzione, "cmdIgnoraTutto", Qt::Key_G);
+                       QTest::keyClick(&correzione, Qt::Key_Escape);
+                     }});
+}
+
+TEST_F(FormaRiassunto, WithoutADictionaryOnlyTheSpellingIsMissing) {
+  Dizionari nessuno(cartella.Percorso(), cartella.Percorso());
+  stato.TestoRiassunto = QStringLiteral("Il provedimento");
+  frmRiassunto forma(stato, dialoghi, nessuno);
+  auto& testo = Trova<QPlainTextEdit>(forma, "txtRiassunto");
+  Operatore::Esegue([&forma] { forma.exec(); }, {[&](QWidget& editore) {
+                      EXPECT_EQ(Sottolineate(testo), "");
+                      EXPECT_TRUE(Trova<QLabel>(editore, "lblDizionario").isVisible());
+                      EXPECT_TRUE(dialoghi.Messaggi().isEmpty());
+                      QTest::keyClicks(&testo, "Altro ");
+                      PremiControllo(editore, Qt::Key_O);
+                      EXPECT_TRUE(dialoghi.UltimoMessaggio().startsWith(
+                          "Errore di run-time '53': Manca il dizionario italiano"));
+                      EXPECT_EQ(testo.toPlainText(), "Altro Il provedimento");
+                      PremiControllo(editore, Qt::Key_G);
+                      editore.close();
+                    }});
+  EXPECT_EQ(dialoghi.UltimoMessaggio(), "Controllo grammaticale effettuato!");
 }
 
 }  // namespace

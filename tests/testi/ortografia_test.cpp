@@ -42,7 +42,7 @@ TEST_F(OrtografiaDiProva, FindsWrongWordsAndLeavesLegalWritingAlone) {
            {"dell'amministrazione, l’interpretazione, sull'onere, po' e mo'", ""},
            {"perchè la societa' puo' e l'autorita' pò", "perchè|societa'|puo'|autorita'|pò"},
            {"le parole 'danno', \"colpa\" e ‘nesso’ e 'provedimento'", "provedimento"},
-           {"giuridico-economico e giuridico-ecconomico", "ecconomico"},
+           {"giuridico-economico, anti-sovrano e giuridico-ecconomico", "ecconomico"},
            {"d.lgs. n. 112, art. 2, artt. 3-bis e 4, c.p.c., S.p.A., Cass. civ., sez. un.", ""},
            {"CEDU, TFUE, dell'INPS, CdA, PhD, art2043, 2bis, C-131/12, l. 241/90, xii) e iv)", ""},
            {"Trib. Roma, ord. 3 maggio; disc. 5; cost. Italia; p. 3 ss.", ""},
