@@ -72,6 +72,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   ASSERT_EQ(forme.size(), 1);
   const QPointer<frmSceltaDoc> forma = forme.first();
   EXPECT_FALSE(forma->isModal());
+  QApplication::setActiveWindow(forma);
   Tasti(*forma, {Qt::Key_Down});
   Tasti(*forma, {Qt::Key_Down}, Qt::ShiftModifier);
   Tasti(*forma, {Qt::Key_Return});  // nothing to edit in this mode
@@ -81,6 +82,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   EXPECT_EQ(Linee(*forma, "lstDocumento"), "1 --> 2001A0012|4 --> 2001A0013");
   Clic(*forma, "cmdCancella");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Nessuna selezione effettuata");
+  Trova<QListWidget>(*forma, "lstDocumento").setFocus();
   Tasti(*forma, {Qt::Key_A}, Qt::ControlModifier);
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
