@@ -63,7 +63,7 @@ void CaricaSenzaRete(Documento& documento) {
   AzzeraIndici(documento);
   documento.comandiVisibili = !stato.DocumentoNuovo;
   if (stato.DocumentoNuovo) {
-    Passo(documento, [&] { documento.RsDocumenti->MoveLast(); });
+    Passo(documento, [&] { documento.Documenti().MoveLast(); });
     Passo(documento, [&] { SvuotaDocumento(documento); });
   } else {
     documento.campi.txtID = stato.IDDocumentoScelto;
@@ -93,8 +93,8 @@ void CaricaCodici(Documento& documento) {
     voci.clear();
     Recordset righe = archivio.OpenRecordset(QLatin1String(codici.tabella));
     for (; !righe.Eof(); righe.MoveNext()) {
-      voci += righe.Fields(codici.codice).Testo() + QLatin1Char('|') +
-              righe.Fields(codici.descrizione).Testo();
+      voci += righe.Fields(codici.codice).TestoOVuoto() + QLatin1Char('|') +
+              righe.Fields(codici.descrizione).TestoOVuoto();
     }
     documento.campi.*codici.combo = codici.segnaposto();
   }
@@ -105,7 +105,7 @@ void CaricaCodici(Documento& documento) {
 void SvuotaDocumento(Documento& documento) {
   CampiDocumento& campi = documento.campi;
   if (campi.txtID.isEmpty()) {
-    const qint64 ultimo = documento.RsDocumenti->Fields("IDDocumento").Intero();
+    const qint64 ultimo = documento.Documenti().Fields("IDDocumento").Intero();
     campi.txtID = QString::number(ultimo + 1);
   }
   if (!documento.codici.ComboLIN.isEmpty()) campi.ComboLIN = documento.codici.ComboLIN.first();

@@ -68,7 +68,7 @@ void MostraRivista(Documento& documento, const Campo& idRivista) {
 }  // namespace
 
 void CaricaRiferimenti(Documento& documento) {
-  Recordset& documenti = documento.RsDocumenti.value();
+  Recordset& documenti = documento.Documenti();
   documenti.Index("PrimaryKey");
   documenti.Seek(NumeroDocumento(documento));
   MostraLingua(documento, documenti);

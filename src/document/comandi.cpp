@@ -11,8 +11,8 @@ const QString kAttenzione = QStringLiteral("Attenzione!");
 
 // The number that a new document is expected to get.
 void NumeraComeUltimo(Documento& documento) {
-  documento.RsDocumenti->MoveLast();
-  const qint64 ultimo = documento.RsDocumenti->Fields("IDDocumento").Intero();
+  documento.Documenti().MoveLast();
+  const qint64 ultimo = documento.Documenti().Fields("IDDocumento").Intero();
   documento.campi.txtID = QString::number(ultimo + 1);
 }
 
@@ -46,10 +46,11 @@ void Segna(QStringList& lista, std::vector<Riga>& righe, const std::vector<int>&
 
 }  // namespace
 
-void ComandoSalva(Documento& documento) {
+bool ComandoSalva(Documento& documento) {
   documento.SalvaComeNuovo = documento.stato.DocumentoNuovo;
-  SalvaDocumento(documento);
+  const bool salvato = SalvaDocumento(documento);
   documento.fuoco = QStringLiteral("txtID");
+  return salvato;
 }
 
 bool ComandoEsci(Documento& documento) {
@@ -70,16 +71,17 @@ void ComandoNew(Documento& documento) {
   documento.stato.DocumentoNuovo = true;
   CaricaCodici(documento);
   AzzeraRighe(documento.stato);
-  documento.RsDocumenti->MoveLast();
+  documento.Documenti().MoveLast();
   documento.campi.txtID.clear();
   SvuotaDocumento(documento);
 }
 
-void ComandoDuplica(Documento& documento) {
+bool ComandoDuplica(Documento& documento) {
   documento.SalvaComeNuovo = true;
   NumeraComeUltimo(documento);
-  SalvaDocumento(documento);
+  const bool salvato = SalvaDocumento(documento);
   documento.fuoco = QStringLiteral("txtID");
+  return salvato;
 }
 
 void ComandoElimina(Documento& documento, Lista lista, const std::vector<int>& scelte) {

@@ -8,8 +8,8 @@
 
 namespace torvi {
 
-// Saves and stays.
-void ComandoSalva(Documento& documento);
+// Saves and stays. True where the document was written, here and in ComandoDuplica.
+bool ComandoSalva(Documento& documento);
 // Saves and leaves: true where the form is to be closed. The search result is forgotten.
 [[nodiscard]] bool ComandoEsci(Documento& documento);
 // The search result is forgotten; the form closes without a save.
@@ -17,7 +17,7 @@ void ComandoAbbandona(Documento& documento);
 // A new document, the shown one saved before if the operator wants it: in place, or as a new one.
 void ComandoNew(Documento& documento);
 // The shown document saved as a new one, which stays on screen.
-void ComandoDuplica(Documento& documento);
+bool ComandoDuplica(Documento& documento);
 
 enum class Verso { Avanti, Indietro };
 // The next or previous document, without a save; the ends wrap around. In search mode it walks on

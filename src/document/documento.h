@@ -7,6 +7,7 @@
 #include <array>
 #include <optional>
 
+#include "archive/errore.h"
 #include "archive/recordset.h"
 #include "shell/dialoghi.h"
 #include "shell/stato_globale.h"
@@ -68,7 +69,15 @@ struct Documento {
   qint16 IndiceFonte = -1;
   bool comandiVisibili = true;  // cmdSalva and cmdDuplica, set by the form's load alone
   QString fuoco;                // control that the last routine wants the focus on; empty: none
+
+  // RsDocumenti; error 91 where the form's load failed before it was opened.
+  [[nodiscard]] Recordset& Documenti();
 };
+
+inline Recordset& Documento::Documenti() {
+  if (!RsDocumenti) throw ErroreEsecuzione(Errore::OggettoNonImpostato);
+  return *RsDocumenti;
+}
 
 // Which of the two classification schemes the year selects; years compare as text.
 [[nodiscard]] inline bool SchemaPrima2000(const CampiDocumento& campi) {

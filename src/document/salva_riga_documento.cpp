@@ -15,7 +15,7 @@ QString Lingua(const CampiDocumento& campi) {
 
 void Inserisci(Documento& documento, qint16 idRifBibl) {
   const CampiDocumento& campi = documento.campi;
-  Recordset& righe = documento.RsDocumenti.value();
+  Recordset& righe = documento.Documenti();
   righe.AddNew();
   righe.Assegna("IDRifBibl", static_cast<qint64>(idRifBibl));
   if (!campi.txtPagine.isEmpty()) righe.Assegna("pagine", campi.txtPagine);

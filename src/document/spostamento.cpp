@@ -40,7 +40,7 @@ qint64 Prossimo(const StatoGlobale& stato, Recordset& documenti, Verso verso) {
 }  // namespace
 
 void ComandoSposta(Documento& documento, Verso verso) {
-  Recordset& documenti = *documento.RsDocumenti;
+  Recordset& documenti = documento.Documenti();
   documenti.Index("PrimaryKey");
   documenti.Seek(static_cast<qint64>(Val(documento.campi.txtID)));
   const QString numero = QString::number(Prossimo(documento.stato, documenti, verso));

@@ -1,6 +1,7 @@
 #include "shell/MDIEditorTorvi.h"
 
 #include <QCloseEvent>
+#include <QMdiSubWindow>
 
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
@@ -15,7 +16,9 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
     : QMainWindow(padre),
       ui_(std::make_unique<Ui::MDIEditorTorvi>()),
       stato_(stato),
-      dialoghi_(*this) {
+      dialoghi_(*this),
+      dizionari_(stato.CartellaApplicazione),
+      statoDocumento_(new QLabel(this)) {
   ui_->setupUi(this);
   for (QAction* separatore : {ui_->mnuSep, ui_->mnuStampaSep1, ui_->mnuStampaSep2,
                               ui_->mnuUtilitaSep1, ui_->mnuUtilitaSep2, ui_->mnuUtilitaSep3}) {
@@ -31,6 +34,9 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFileErroriGenerici, &MDIEditorTorvi::mnuFileErroriGenerici_Click);
   Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
   Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
+  Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
+  statoDocumento_->setObjectName(QStringLiteral("statoDocumento"));
+  statusBar()->addPermanentWidget(statoDocumento_);
   AdattaAlloSchermo(*this);
   ImpostaFase(FaseMenu::NessunArchivio);
 }
@@ -67,7 +73,10 @@ void MDIEditorTorvi::mnuFileApri_Click() {
 // The caption keeps the name of the closed archive.
 void MDIEditorTorvi::mnuFileChiudi_Click() {
   ComandoChiudi(stato_);
+  // While a document is on screen its lock of this menu stays.
+  const bool utilita = ui_->mnuUtilita->isEnabled();
   ImpostaFase(FaseMenu::NessunArchivio);
+  ui_->mnuUtilita->setEnabled(utilita);
 }
 
 void MDIEditorTorvi::mnuFileNuovo_Click() {
@@ -75,6 +84,44 @@ void MDIEditorTorvi::mnuFileNuovo_Click() {
 }
 
 void MDIEditorTorvi::mnuFileEsci_Click() { close(); }
+
+void MDIEditorTorvi::MostraDocumento() {
+  if (documento_) {
+    ui_->centralwidget->setActiveSubWindow(
+        qobject_cast<QMdiSubWindow*>(documento_->parentWidget()));
+    return;
+  }
+  AbilitaMenu(false);
+  documento_ = new frmDocumento(stato_, dialoghi_, dizionari_);
+  documento_->setAttribute(Qt::WA_DeleteOnClose);
+  QMdiSubWindow* finestra = ui_->centralwidget->addSubWindow(documento_);
+  finestra->setAttribute(Qt::WA_DeleteOnClose);
+  connect(documento_, &frmDocumento::StatoCambiato, statoDocumento_, &QLabel::setText);
+  connect(documento_, &frmDocumento::Scaricata, this, &MDIEditorTorvi::DocumentoScaricato);
+  statoDocumento_->setText(documento_->Stato());
+  finestra->showMaximized();
+}
+
+// The menus are enabled whatever became of the archive meanwhile.
+void MDIEditorTorvi::DocumentoScaricato() {
+  AbilitaMenu(true);
+  statoDocumento_->clear();
+  documento_.clear();
+}
+
+void MDIEditorTorvi::AbilitaMenu(bool abilitati) {
+  for (QMenu* menu : {ui_->mnuAggiornamento, ui_->mnuStampa, ui_->mnuEsporta, ui_->mnuUtilita}) {
+    menu->setEnabled(abilitati);
+  }
+}
+
+void MDIEditorTorvi::mnuAggiornamentoNuovo_Click() {
+  stato_.DocumentoNuovo = true;
+  stato_.RigheResponsabilita.clear();
+  stato_.RigheClasse.clear();
+  stato_.RigheFonte.clear();
+  MostraDocumento();
+}
 
 void MDIEditorTorvi::mnuFormatoASCIIStorico_Click() {
   EsportaAscii(stato_, dialoghi_, kEsportaStorico);

@@ -1,9 +1,12 @@
 // The main window: it owns the menus and their states, and starts the commands.
 #pragma once
 
+#include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 
+#include "document/frmDocumento.h"
 #include "shell/finestra_dialoghi.h"
 #include "shell/stati_menu.h"
 #include "shell/stato_globale.h"
@@ -35,6 +38,7 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuFileChiudi_Click();
   void mnuFileNuovo_Click();
   void mnuFileEsci_Click();
+  void mnuAggiornamentoNuovo_Click();
   void mnuFormatoASCIIStorico_Click();
   void mnuFormatoASCIIIsis_Click();
   void mnuFormatoASCIICassazione_Click();
@@ -42,9 +46,18 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuFileErroriClasse_Click();
   void mnuFileErroriFonti_Click();
 
+  // The document form; the one that is open where there is one.
+  void MostraDocumento();
+  void DocumentoScaricato();
+  // The menus that a document on screen locks.
+  void AbilitaMenu(bool abilitati);
+
   std::unique_ptr<Ui::MDIEditorTorvi> ui_;
   StatoGlobale& stato_;
   DialoghiFinestra dialoghi_;
+  Dizionari dizionari_;
+  QPointer<frmDocumento> documento_;
+  QLabel* statoDocumento_;
 };
 
 }  // namespace torvi

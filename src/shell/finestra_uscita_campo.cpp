@@ -3,13 +3,10 @@
 #include <QApplication>
 #include <QFocusEvent>
 
+#include "shell/finestra_fuoco.h"
+
 namespace torvi {
 namespace {
-
-bool CambiaControllo(Qt::FocusReason motivo) {
-  return motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason &&
-         motivo != Qt::MenuBarFocusReason;
-}
 
 bool DaTastiera(Qt::FocusReason motivo) {
   return motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason;
@@ -40,7 +37,9 @@ bool UscitaCampo::Controlla() {
 }
 
 bool UscitaCampo::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() == QEvent::FocusOut && !inCorso_ && !finito_) {
+  // A form that is not shown yet passes its focus about.
+  if (evento->type() == QEvent::FocusIn) entrato_ = campo_.isVisible();
+  if (evento->type() == QEvent::FocusOut && entrato_ && !inCorso_ && !finito_) {
     const Qt::FocusReason motivo = static_cast<QFocusEvent*>(evento)->reason();
     const bool chiude = QApplication::focusWidget() == &abbandona_ && !DaTastiera(motivo);
     if (CambiaControllo(motivo) && !chiude) {

@@ -27,6 +27,7 @@ class UscitaCampo : public QObject {
   QLineEdit& campo_;
   QWidget& abbandona_;
   std::function<bool()> controllo_;
+  bool entrato_ = false;
   bool dovuto_ = false;
   bool inCorso_ = false;
   bool finito_ = false;

@@ -5,15 +5,15 @@ namespace {
 
 // After a new archive mnuFileNuovo stays off on purpose, until an archive was opened and closed.
 constexpr std::array kStati = {
-    //                           none   open   new    document
-    StatoMenu{"mnuFileApri", {true, false, true, false}},
-    StatoMenu{"mnuFileNuovo", {true, false, false, false}},
-    StatoMenu{"mnuFileChiudi", {false, true, false, true}},
-    StatoMenu{"mnuAggiornamento", {false, true, false, false}},
-    StatoMenu{"mnuFinestra", {false, true, false, true}},
-    StatoMenu{"mnuStampa", {false, true, false, false}},
-    StatoMenu{"mnuEsporta", {false, true, false, false}},
-    StatoMenu{"mnuUtilita", {true, true, true, false}},
+    //                           none   open   new
+    StatoMenu{"mnuFileApri", {true, false, true}},
+    StatoMenu{"mnuFileNuovo", {true, false, false}},
+    StatoMenu{"mnuFileChiudi", {false, true, false}},
+    StatoMenu{"mnuAggiornamento", {false, true, false}},
+    StatoMenu{"mnuFinestra", {false, true, false}},
+    StatoMenu{"mnuStampa", {false, true, false}},
+    StatoMenu{"mnuEsporta", {false, true, false}},
+    StatoMenu{"mnuUtilita", {true, true, true}},
 };
 
 }  // namespace

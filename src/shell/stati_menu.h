@@ -6,11 +6,11 @@
 
 namespace torvi {
 
-enum class FaseMenu { NessunArchivio, ArchivioAperto, DopoNuovo, DocumentoAperto };
+enum class FaseMenu { NessunArchivio, ArchivioAperto, DopoNuovo };
 
 struct StatoMenu {
   const char* controllo;
-  std::array<bool, 4> abilitato;  // by FaseMenu
+  std::array<bool, 3> abilitato;  // by FaseMenu
 };
 
 // Entries that are not listed are always enabled.

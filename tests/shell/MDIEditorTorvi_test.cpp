@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -119,6 +120,9 @@ class Finestra : public testing::Test {
 
   void Scegli(const char* voce, std::deque<Passo> passi = {}) const {
     Operatore::Esegue([&] { Trova<QAction>(*finestra, voce).trigger(); }, std::move(passi));
+    if (!finestra->isVisible()) return;
+    finestra->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
   }
   [[nodiscard]] static Passo ScriveFile(const QString& nome) {
     return [nome](QWidget& modale) {
@@ -155,11 +159,27 @@ TEST_F(Finestra, FollowsTheArchiveWithItsMenus) {
   const QString titolo = "Torvi Editor (" + cartella.Mdb("A01.MDB") + ")";
   EXPECT_EQ(finestra->windowTitle(), titolo);
   EXPECT_EQ(Abilitati(*finestra), "--CGFSEU");
-  finestra->ImpostaFase(FaseMenu::DocumentoAperto);
+  Scegli("mnuAggiornamentoNuovo");
   EXPECT_EQ(Abilitati(*finestra), "--C-F---");
+  EXPECT_EQ(Trova<QLabel>(*finestra, "statoDocumento").text(),
+            "Documento 1: nuovo, non modificato");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
+  EXPECT_EQ(Abilitati(*finestra), "--CGFSEU");
   Scegli("mnuFileChiudi");
   EXPECT_EQ(finestra->windowTitle(), titolo);
   EXPECT_EQ(Abilitati(*finestra), "AN-----U");
+  EXPECT_FALSE(stato.DbArchivio.Aperto());
+}
+
+// Leaving the document enables its menus, whatever became of the archive.
+TEST_F(Finestra, ClosesTheArchiveUnderADocument) {
+  stato = cartella.StatoConConsegna();
+  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  Scegli("mnuAggiornamentoNuovo");
+  Scegli("mnuFileChiudi");
+  EXPECT_EQ(Abilitati(*finestra), "AN------");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
+  EXPECT_EQ(Abilitati(*finestra), "AN-G-SEU");
   EXPECT_FALSE(stato.DbArchivio.Aperto());
 }
 

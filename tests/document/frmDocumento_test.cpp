@@ -1,0 +1,208 @@
+#include "document/frmDocumento.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+
+#include "comune/tastiera.h"
+#include "document/archivio_di_prova.h"
+#include "shell/finestra_testo.h"
+
+namespace torvi {
+namespace {
+
+class FormaDocumento : public testing::Test {
+ protected:
+  void Apri(const QString& numero) {
+    prova.stato.DocumentoNuovo = numero.isEmpty();
+    prova.stato.IDDocumentoScelto = numero;
+    forma = std::make_unique<frmDocumento>(prova.stato, prova.dialoghi, dizionari);
+    forma->show();
+    Attiva();
+  }
+  void Attiva() const {
+    forma->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(forma.get()));
+  }
+  // Keys that open forms; afterwards the document has the focus again.
+  void BattiConForme(const QString& copione, std::deque<Passo> passi) const {
+    Operatore::Esegue([&copione] { Batti(copione); }, std::move(passi));
+    Attiva();
+  }
+  void Vai(const char* controllo) const { Trova<QWidget>(*forma, controllo).setFocus(); }
+  [[nodiscard]] QString Riga(const char* campo) const {
+    return Trova<QLineEdit>(*forma, campo).text();
+  }
+  [[nodiscard]] QString Testo(const char* campo) const {
+    return TestoMostrato(Trova<QPlainTextEdit>(*forma, campo));
+  }
+  [[nodiscard]] QString Voce(const char* combo) const {
+    return Trova<QComboBox>(*forma, combo).currentText();
+  }
+  [[nodiscard]] std::string Linee(const char* lista) const {
+    const auto& controllo = Trova<QListWidget>(*forma, lista);
+    QStringList linee;
+    for (int i = 0; i < controllo.count(); ++i) linee += controllo.item(i)->text();
+    return linee.join(QLatin1Char('\n')).toStdString();
+  }
+
+  ArchivioDiProva prova;
+  Dizionari dizionari{prova.cartella.Percorso()};
+  std::unique_ptr<frmDocumento> forma;
+};
+
+TEST_F(FormaDocumento, ShowsTheChosenDocument) {
+  Apri(QStringLiteral("1"));
+  for (const auto& [campo, valore] : {std::pair{"txtID", "1"},
+                                      {"txtAnnoPr", "2001"},
+                                      {"txtFascicolo", "3"},
+                                      {"txtAnnata", "54"},
+                                      {"txtParte", "I"},
+                                      {"txtGG", "03"},
+                                      {"txtMM", ""},
+                                      {"txtAA", "2001"},
+                                      {"txtPagine", "12-34"},
+                                      {"txtSuppl", ""},
+                                      {"txtVolume", ""},
+                                      {"txtSerie", ""},
+                                      {"txtSez", ""}}) {
+    EXPECT_EQ(Riga(campo), valore) << campo;
+  }
+  EXPECT_EQ(Testo("txtTitolo"), "testo 0");
+  EXPECT_EQ(Testo("txtNota"), "testo 4");
+  EXPECT_EQ(Voce("ComboTD").left(3), "03|");
+  EXPECT_EQ(Voce("ComboTAbs").left(4), "500|");
+  EXPECT_EQ(Linee("lstResponsabilita"), "C - Gruppo di studio\nA - D'Amico, Lucia");
+  EXPECT_TRUE(Trova<QPushButton>(*forma, "cmdSalva").isVisible());
+  EXPECT_EQ(forma->Stato(), "Documento 1: esistente, non modificato");
+}
+
+// Loaded and saved untouched, nothing that was typed elsewhere may be lost by the screen.
+TEST_F(FormaDocumento, KeepsAwkwardTextsThroughScreenAndSave) {
+  const QString lungo(10000, QLatin1Char('x'));
+  Apri(QStringLiteral("1"));
+  for (const QString& testo : {QStringLiteral("l'\"uno\" *?[ è €"), QString::fromUtf8("\U0001F600"),
+                               QStringLiteral("a\u00A0b"), lungo}) {
+    auto& titolo = Trova<QPlainTextEdit>(*forma, "txtTitolo");
+    titolo.selectAll();
+    titolo.insertPlainText(testo);
+    Trova<QLineEdit>(*forma, "txtSez").setText(testo.left(20).remove(QLatin1Char('"')));
+    Vai("txtTitolo");
+    Batti(QStringLiteral("{F4}{F6}{F5}"));
+    EXPECT_TRUE(Testo("txtTitolo") == testo)
+        << testo.left(20).toStdString() << " " << prova.dialoghi.Messaggi().join('|').toStdString();
+    EXPECT_EQ(Riga("txtSez"), testo.left(20).remove(QLatin1Char('"')));
+  }
+}
+
+TEST_F(FormaDocumento, FunctionKeysReachTheirCommands) {
+  Apri({});
+  EXPECT_FALSE(Trova<QPushButton>(*forma, "cmdSalva").isVisible());
+  EXPECT_EQ(forma->Stato(), "Documento 3: nuovo, non modificato");
+  Batti(QStringLiteral("{F4}"));
+  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "periodico non ancora immesso");
+  BattiConForme(QStringLiteral("{F1}"), {Forma("Help su tasti funzione", "{Esc}")});
+  BattiConForme(QStringLiteral("{F7}"),
+                {Forma("Responsabilità", "Rossi{Tab} Mario {Tab}{Tab}{Return}")});
+  EXPECT_EQ(Linee("lstResponsabilita"), "A - Rossi, Mario");
+  Batti(QStringLiteral("{F8}"));
+  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(),
+            "Per questa operazione è necessario riempire il campo \"Anno\"!");
+  EXPECT_TRUE(Trova<QLineEdit>(*forma, "txtAA").hasFocus());
+  Batti(QStringLiteral("1999"));
+  BattiConForme(QStringLiteral("{F8}"), {Forma("Classifcazione ante 2000", "{Esc}")});
+  BattiConForme(QStringLiteral("{F10}"), {Forma("Testo riassunto", "Un testo{Alt+E}")});
+  BattiConForme(QStringLiteral("{F11}"), {Forma("Testo sommario", "{Esc}")});
+  EXPECT_EQ(prova.stato.TestoRiassunto, "Un testo");
+  EXPECT_EQ(forma->Stato(), "Documento 3: nuovo, modificato");
+  // From a button no key reaches a command.
+  Vai("cmdNew");
+  Batti(QStringLiteral("{F4}"));
+  EXPECT_EQ(prova.dialoghi.Messaggi().count("periodico non ancora immesso"), 1);
+  Vai("txtAA");
+  const QSignalSpy scaricata(forma.get(), &frmDocumento::Scaricata);
+  Batti(QStringLiteral("{F3}"));
+  EXPECT_EQ(scaricata.count(), 1);
+  EXPECT_FALSE(forma->isVisible());
+}
+
+TEST_F(FormaDocumento, ChecksTheJournalOnLeavingIt) {
+  Apri({});
+  Vai("txtCPer");
+  Batti(QStringLiteral("zz{Tab}"));
+  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Codice periodico errato!");
+  EXPECT_TRUE(Trova<QLineEdit>(*forma, "txtCPer").hasFocus());
+  // A command that the field is left for does not run; abandoning needs no check.
+  prova.stato.DocumentoNuovo = false;
+  Clic(*forma, "cmdEsci");
+  EXPECT_TRUE(forma->isVisible());
+  EXPECT_EQ(prova.dialoghi.Messaggi().count("Codice periodico errato!"), 2);
+  Clic(*forma, "cmdAbbandona");
+  EXPECT_FALSE(forma->isVisible());
+  EXPECT_EQ(prova.dialoghi.Messaggi().size(), 2);
+}
+
+TEST_F(FormaDocumento, CombosTakeAnyPartOfAnItem) {
+  Apri(QStringLiteral("1"));
+  for (const auto& [battuto, atteso] :
+       {std::pair{"inglese{Esc}{Tab}", "ingl"}, {"qqqq{Tab}", "ingl"}, {"{Del}{Tab}", "Lingua"}}) {
+    Vai("ComboLIN");
+    QCoreApplication::processEvents();
+    Batti(QLatin1String(battuto));
+    EXPECT_TRUE(Voce("ComboLIN").contains(QLatin1String(atteso)))
+        << battuto << " " << Voce("ComboLIN").toStdString();
+  }
+}
+
+TEST_F(FormaDocumento, ListsSelectMarkAndEdit) {
+  Apri(QStringLiteral("1"));
+  Vai("lstResponsabilita");
+  Batti(QStringLiteral("{Down}{Tab}{Tab}"));
+  EXPECT_TRUE(Trova<QPushButton>(*forma, "cmdResponsabilitaM").hasFocus());
+  BattiConForme(QStringLiteral(" "),
+                {Forma("Responsabilità", "{Ctrl+A}De Amicis{Tab}{Tab}{Tab}{Return}")});
+  EXPECT_EQ(Linee("lstResponsabilita"), "C - Gruppo di studio\nA - De Amicis, Lucia");
+  prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
+                                Risposta::Si);
+  Vai("cmdResponsabilitaD");
+  Batti(QStringLiteral(" "));
+  EXPECT_EQ(Linee("lstResponsabilita"), "C - Gruppo di studio\nDEL--A - De Amicis, Lucia");
+}
+
+TEST_F(FormaDocumento, EnteringAFieldSelectsItWhole) {
+  Apri(QStringLiteral("1"));
+  for (const char* campo : {"txtFascicolo", "txtAA", "txtPagine"}) {
+    Vai(campo);
+    Batti(QStringLiteral("9"));
+    EXPECT_EQ(Riga(campo), "9");
+  }
+  Vai("txtTitolo");
+  Batti(QStringLiteral("nuovo titolo"));
+  EXPECT_EQ(Testo("txtTitolo").toStdString(), "nuovo titolo");
+}
+
+// The close box asks only where something would be lost, and an archive that is gone leaves the
+// form as it stands.
+TEST_F(FormaDocumento, NothingTypedIsLostByAccident) {
+  Apri(QStringLiteral("1"));
+  Vai("txtTitolo");
+  Batti(QStringLiteral("perso"));
+  prova.dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, Risposta::Annulla);
+  forma->close();
+  EXPECT_TRUE(forma->isVisible());
+  prova.stato.DbArchivio.Close();
+  for (const char* tasto : {"{F4}", "{F2}", "{F5}", "{F6}"}) {
+    Batti(QLatin1String(tasto));
+    EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith("Errore di run-time '3420'")) << tasto;
+    EXPECT_EQ(Testo("txtTitolo"), "perso");
+  }
+  prova.dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, Risposta::Ok);
+  forma->close();
+  EXPECT_FALSE(forma->isVisible());
+}
+
+}  // namespace
+}  // namespace torvi

@@ -1,0 +1,147 @@
+// A day of an operator, by keys alone: documents entered, corrected, duplicated, found, deleted and
+// exported.
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "comune/cartella_di_prova.h"
+#include "comune/tastiera.h"
+#include "shell/MDIEditorTorvi.h"
+#include "shell/avvio.h"
+
+namespace torvi {
+namespace {
+
+const QString kSalvato = QStringLiteral("TorviEditor|Documento salvato!|OK");
+
+class Giornata : public testing::Test {
+ protected:
+  Giornata() {
+    // A delivery as the program leaves it after "Nuovo database".
+    cartella.StatoConCodici().DbArchivio.Close();
+    PreparaStato(stato, cartella.Percorso());
+    finestra = std::make_unique<MDIEditorTorvi>(stato);
+    finestra->resize(1300, 680);
+    finestra->show();
+    Fa("{Alt+F}a", {Forma("Apri archivio", "A01.MDB{Return}")});
+  }
+  // Keys on the main window, and what the operator does in each form that they open.
+  void Fa(const QString& copione, std::deque<Passo> passi = {}) const {
+    Attiva();
+    Operatore::Esegue([&copione] { Batti(copione); }, std::move(passi));
+  }
+  void Attiva() const {
+    finestra->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
+  }
+  // Tab after Tab.
+  void VaiA(const char* controllo) const {
+    Attiva();
+    for (int volte = 0; volte < 60; ++volte) {
+      const QWidget* fuoco = QApplication::focusWidget();
+      if (fuoco != nullptr && fuoco->objectName() == QLatin1String(controllo)) return;
+      Batti(QStringLiteral("{Tab}"));
+    }
+    FAIL() << "no Tab leads to " << controllo;
+  }
+  void Preme(const char* pulsante, std::deque<Passo> passi = {}) const {
+    VaiA(pulsante);
+    Fa(QStringLiteral(" "), std::move(passi));
+  }
+  // The rows of a statement, a line each; `colonne` by blanks.
+  [[nodiscard]] std::string Righe(const char* colonne, const char* da) const {
+    const QStringList nomi = QString(QLatin1String(colonne)).split(QLatin1Char(' '));
+    QStringList righe;
+    for (Recordset r = stato.DbArchivio.OpenRecordset("select * from " + QLatin1String(da));
+         !r.Eof(); r.MoveNext()) {
+      QStringList valori;
+      for (const QString& nome : nomi) {
+        const Campo campo = r.Fields(nome.toStdString());
+        valori += campo.Nullo() ? QStringLiteral("Null") : campo.Testo();
+      }
+      righe += valori.join(QLatin1Char('|'));
+    }
+    return righe.join(QLatin1Char('\n')).toStdString();
+  }
+
+  void DocumentoDel2001() const;
+  void DocumentoDel1998() const;
+  void DocumentoDel2002() const;
+
+  const CartellaDiProva cartella;
+  StatoGlobale stato;
+  std::unique_ptr<MDIEditorTorvi> finestra;
+};
+
+void Giornata::DocumentoDel2001() const {
+  Fa("{Alt+A}n");
+  Batti(
+      "{Tab}AAPD{Tab}1-2{Tab}12{Tab}{Tab}I{Tab}{Tab}{Tab}{Tab}3{Tab}2{Tab}2001{Tab}12-34{Tab}"
+      "ingl{Tab}nota a{Tab}900{Tab}con note{Tab}L'usura \"bancaria\".{Tab}");
+  Fa("{F7}", {Forma("Responsabilità", "D'Amico{Tab}Lucia{Tab}{Tab}{Return}")});
+  Fa("{F7}", {Forma("Responsabilità", "Gruppo di studio{Tab}{Tab}{Right}{Tab}{Return}")});
+  Fa("{F8}", {Forma("Classificazione", "AB001{Tab}00002{Return}00003{Return}{Alt+E}")});
+  Fa("{F8}",
+     {Forma("Classificazione", "AB001{Tab}{Tab}{Tab}{Tab}{Tab}*sviluppo sostenibile{Alt+E}")});
+  Fa("{F10}", {Forma("Testo riassunto", "Un riassunto{Return} in due righe.{Alt+E}")});
+  Preme("cmdTraduzione", {Forma("Testo traduzione", "Usury.{Tab}{Return}")});
+  Preme("cmdNota", {Forma("Campo nota", "Nota ambigua{Tab}{Return}")});
+  Preme("cmdNotaDoc", {Forma("Testo nota al documento", "riga\\riga{Tab}{Return}")});
+  VaiA("txtID");
+  Fa("{F4}", {Riquadro(kSalvato)});
+}
+
+void Giornata::DocumentoDel1998() const {
+  Preme("cmdNew");
+  VaiA("txtID");
+  Batti(
+      "{Tab}ACMT{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}1998{Tab}{Tab}"
+      "{Tab}articolo{Tab}400{Tab}senza{Tab}Città e università{Tab}desueto");
+  Fa("{F8}", {Forma("Classifcazione ante 2000", "A11{Alt+E}")});
+  Fa("{F4}", {Riquadro(kSalvato)});
+}
+
+void Giornata::DocumentoDel2002() const {
+  Preme("cmdNew");
+  VaiA("txtID");
+  Batti(
+      "{Tab}AGUS{Tab}7{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}11{Tab}2002{Tab}5{Tab}"
+      "{Tab}comm{Tab}600{Tab}{Tab}Da togliere..");
+  Fa("{F11}", {Forma("Testo sommario", "1. Uno - 2. Due.{Alt+E}")});
+  Fa("{F8}", {Forma("Classificazione", "AB002{Alt+E}")});
+  Fa("{F12}", {Riquadro(kSalvato)});
+}
+
+TEST_F(Giornata, FromAnEmptyDeliveryToItsExport) {
+  DocumentoDel2001();
+  DocumentoDel1998();
+  DocumentoDel2002();
+  EXPECT_EQ(Righe("IDDocumento IDRifBibl pagine LIN lo la lr Bib td TAbs", "TabDocumento"),
+            "1|1|12-34|01|00|00|00|1|02|900\n"
+            "2|2|Null|00|00|00|00|0|01|400\n"
+            "3|3|5|00|00|00|00||03|600");
+  EXPECT_EQ(
+      Righe("IDRifBibl IDRivista fascicolo annata volume parte serie supplemento sezione data",
+            "TabRifBibl"),
+      "1|1|1-2|12|Null|I|Null|Null|Null|03/02/2001\n"
+      "2|2|Null|Null|Null|Null|Null|Null|Null|00/00/1998\n"
+      "3|3|7|Null|Null|Null|Null|Null|Null|00/11/2002");
+  EXPECT_EQ(Righe("IDDoc Tipo IDTesto testo",
+                  "LegameDocTesto, TabTesto where LegameDocTesto.IDTesto = TabTesto.IDTesto"),
+            "1|0|1|L'usura \"bancaria\"\n1|1|2|Un riassunto in due righe.\n1|3|3|Usury\n"
+            "1|5|4|riga\\riga\n1|6|5|Nota ambigua\n"
+            "2|0|6|Città e università\n2|4|7|desueto\n"
+            "3|0|8|Da togliere.\n3|2|9|1. Uno - 2. Due.");
+  EXPECT_EQ(
+      Righe("IDResponsabilita PrimoElemento SecondoElemento flagCollettivo", "TabResponsabilita"),
+      "1|D'Amico|Lucia|0\n2|Gruppo di studio|Null|1");
+  EXPECT_EQ(Righe("IDDoc IDResponsabilita flagAutore", "LegameDocResp"), "1|1|1\n1|2|0");
+  EXPECT_EQ(Righe("IDClasse2000 IDClasse2000-S IDClasse2000-D Classe2000-D Check", "TabClasse2000"),
+            "1|1|2|Null|0\n2|1|3|Null|1\n3|1|0|*sviluppo sostenibile|2\n4|2|0|Null|0");
+  EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass"), "1|1\n1|2\n1|3\n3|4");
+  EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass1999"), "2|2");
+}
+
+}  // namespace
+}  // namespace torvi
