@@ -64,16 +64,19 @@ Spaiati VirgoletteSpaiate(const QString& testo) {
   return spaiati;
 }
 
-qsizetype FineDellaFrase(const QString& testo, qsizetype da) {
+// Not far away: nobody reads on for the end of a text that is all brackets.
+QString RestoDellaFrase(const QString& testo, qsizetype da) {
+  constexpr qsizetype kMassimo = 400;
   static const QRegularExpression fine(
       QStringLiteral("[.;!?]*(?:\\s*$|\\s*[\\r\\n]|[;!?.]\\s+\\p{Lu})"),
       QRegularExpression::UseUnicodePropertiesOption);
-  const qsizetype trovata = testo.indexOf(fine, da + 1);
-  return trovata < 0 ? testo.size() : trovata;
+  const QString resto = testo.mid(da, kMassimo);
+  const qsizetype trovata = resto.indexOf(fine, 1);
+  return trovata < 0 ? resto : resto.left(trovata);
 }
 
 Segnalazione Aperto(const QString& testo, qsizetype posto, QChar chiude) {
-  const QString frase = testo.mid(posto, FineDellaFrase(testo, posto) - posto);
+  const QString frase = RestoDellaFrase(testo, posto);
   return {.inizio = posto,
           .testo = frase,
           .spiegazione = QStringLiteral("Manca il segno che chiude: %1").arg(chiude),

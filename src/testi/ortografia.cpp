@@ -11,7 +11,7 @@ constexpr QChar kApostrofo = u'\'';
 
 QString Normale(QStringView parola) {
   QString normale = parola.toString().replace(u'’', kApostrofo);
-  // Only where it is needed: a part of a word is told by its place.
+  // Places in the word must stay: letters written with loose accents are left, and found wrong.
   const QString composta = normale.normalized(QString::NormalizationForm_C);
   return composta.size() == normale.size() ? composta : normale;
 }

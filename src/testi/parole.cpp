@@ -1,6 +1,7 @@
 #include "testi/parole.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 
 namespace torvi {
@@ -16,12 +17,12 @@ constexpr std::array kRumore = {
     // Short letters with points between them: d.lgs., c.p.c., S.p.A.
     R"((?<!\p{L})(?:\p{L}{1,4}\.)+\p{L}{1,4}(?![\p{L}\p{N}])\.?)",
     // A point that no sentence ends with: what stands before it is an abbreviation.
-    R"((?<!\p{L})\p{L}{1,6}\.(?=[ \x{A0}]*[,;:)\]»/]|[ \x{A0}]+[\p{Ll}\p{N}§]))",
+    R"((?<!\p{L})\p{L}{1,6}\.(?=[ \x{A0}]*[,;:/]|[ \x{A0}]+[\p{Ll}\p{N}§]))",
     // Abbreviations that a capital or the end of the text may follow.
     R"((?<!\p{L})(?i:artt?|cass|sez|un|civ|pen|cost|trib|app|cons|corr|pagg?|ecc|etc|cfr|cit|ss|segg?)"
     R"(|nn?|co|cpv|lett|par|cap|tit|vol|fasc|riv|prof|dott|avv|proc|rep|reg|dir|dec|sent|ord|min)"
     R"(|amm|giust|conv|mod|disp|att|trans|prel|ult|est|rel|pres|pubbl|racc|arts?|paras?|no|vs|dr|mr)"
-    R"(|mrs|ed|eds|pp)\.)",
+    R"(|mrs|ed|eds|pp|all|tab|conf|suppl)\.)",
     // All capitals, and short words with a capital inside: CEDU, SMEs, CdA, PhD.
     R"((?<!\p{L})\p{Lu}{2,}s?(?!\p{L}))",
     R"((?<!\p{L})(?=\p{L}{2,5}(?!\p{L}))\p{L}+\p{Lu}\p{L}*)",
@@ -52,8 +53,8 @@ std::vector<Tratto> Tratti(const QRegularExpression& espressione, const QString&
 
 std::vector<Tratto> ParoleDaControllare(const QString& testo) {
   static const std::vector<QRegularExpression> rumore = [] {
-    std::vector<QRegularExpression> espressioni;
-    for (const char* espressione : kRumore) espressioni.push_back(Espressione(espressione));
+    std::vector<QRegularExpression> espressioni(kRumore.size());
+    std::transform(kRumore.begin(), kRumore.end(), espressioni.begin(), Espressione);
     return espressioni;
   }();
   static const QRegularExpression parola = Espressione(kParola);

@@ -31,7 +31,7 @@ constexpr std::array kRegole = {
     Regola{"spazio prima della punteggiatura",
            R"((?<=[\p{L}\p{N})\]»”"'’%])[ \x{A0}]+([,;:!?]|\.(?![.\p{L}\p{N}])))", R"(\1)",
            "Prima di un segno di punteggiatura non va lo spazio."},
-    Regola{"spazio dopo la punteggiatura", R"(([,;:!?])(?=\p{L}))", R"(\1 )",
+    Regola{"spazio dopo la punteggiatura", R"(([,;:!?])(?<!\p{Lu}:)(?=\p{L}))", R"(\1 )",
            "Dopo un segno di punteggiatura va uno spazio."},
     Regola{"spazio dopo il punto", R"((?<=\p{Ll}{3}|[\p{N})»])\.(?=\p{Lu}\p{Ll}))", ". ",
            "Dopo il punto va uno spazio."},

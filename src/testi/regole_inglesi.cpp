@@ -12,7 +12,7 @@ constexpr std::array kRegole = {
            R"(.\1 \u\2)", "Dopo il punto fermo si comincia con la maiuscola."},
     Regola{
         "a davanti a vocale",
-        R"((?<!paragraph[ ])(?<!letter[ ])(?<!point[ ])(?<!section[ ])(?<![\p{L}.'’-])([Aa])[ ])"
+        R"((?<![Pp]aragraph[ ])(?<![Ll]etter[ ])(?<![Pp]oint[ ])(?<![Ss]ection[ ])(?<![\p{L}.'’-])([Aa])[ ])"
         R"((?=[aeiou]\p{Ll}+)(?!eu|one\b|once\b|u(?:nanim|ni(?!n|mp)|s[aeu]|tili|tens|biq|topi)))",
         R"(\1n )", "Davanti a suono vocalico l'articolo è «an»."},
     Regola{"a davanti a h muta", R"((?<![\p{L}.'’-])([Aa])[ ](?=hour|honest|honou?r|heir))",
@@ -30,7 +30,7 @@ constexpr std::array kRegole = {
         R"(|effects?|limits|case-law|judgments?|decisions?|members?|role|purpose|power|powers)"
         R"(|implementation|interpretation|jurisdiction)\b))",
         R"(\1s)", "Il possessivo è «its»; «it's» sta per «it is»."},
-    Regola{"its per it's", R"((?i)\b(it)s(?=[ ](?:an?|the|not|been|because)\b))", R"(\1's)",
+    Regola{"its per it's", R"((?i)\b(it)s(?=[ ](?:an?|the|not|been)\b))", R"(\1's)",
            "«It is» abbreviato si scrive «it's»; «its» è il possessivo."},
     Regola{"would of", R"((?i)\b(could|should|would|must|might)[ ]of\b(?![ ]course))", R"(\1 have)",
            "Dopo il verbo modale va «have»."},

@@ -135,7 +135,7 @@ constexpr const char* kItalianoGiusto[] = {
     "«[...] la Repubblica tutela il lavoro in tutte le sue forme [...]. Cura la formazione».",
     "Sommario: 1. Premessa. - 2. Il caso. - 3. (Segue): la decisione. - 4. Conclusioni.",
     "Il c.d. danno biologico è risarcibile ... ma non sempre (...).",
-    "La Corte di giustizia, causa C-131/12, ECLI:EU:C:2014:317, "
+    "La Corte di giustizia, causa C-131/12, EU:C:2014:317, ECLI:EU:C:2014:317, "
     "urn:nir:stato:legge:1990-08-07;241.",
     "Si veda http://www.cortecostituzionale.it/actionPronuncia.do?id=1,a oppure scrivi a x@y.it.",
     "Di per sé, né l'uno né l'altro; perché, poiché, affinché, sicché: c'è e cos'è. Qual è? Un "
