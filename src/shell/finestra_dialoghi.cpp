@@ -49,6 +49,12 @@ QString Titolo(const QString& titolo) {
   return titolo.isEmpty() ? QStringLiteral("TorviEditor") : titolo;
 }
 
+// Some words of the system end their lines in a carriage return, which a box would show as a blank.
+QString InLinee(QString testo) {
+  return testo.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+      .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
 Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {
   const QList<Pulsante>& voci = Voci(quali);
   for (const Pulsante& voce : voci) {
@@ -77,7 +83,7 @@ QWidget* DialoghiFinestra::Padre() const {
 void DialoghiFinestra::Messaggio(const QString& testo, const QString& titolo, Icona icona) {
   QMessageBox riquadro(
       icona == Icona::Informazione ? QMessageBox::Information : QMessageBox::NoIcon, Titolo(titolo),
-      testo, QMessageBox::NoButton, Padre());
+      InLinee(testo), QMessageBox::NoButton, Padre());
   riquadro.setTextFormat(Qt::PlainText);
   Chiedi(riquadro, Pulsanti::Ok);
 }
