@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 
+#include "document/frmRicerca.h"
+#include "document/frmSceltaDoc.h"
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
 #include "shell/archivio_comandi.h"
@@ -35,6 +37,9 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
   Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
   Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
+  Collega(ui_->mnuAggiornamentoEdita, &MDIEditorTorvi::mnuAggiornamentoEdita_Click);
+  Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
+  Collega(ui_->mnuAggiornamentoRicerca, &MDIEditorTorvi::mnuAggiornamentoRicerca_Click);
   statoDocumento_->setObjectName(QStringLiteral("statoDocumento"));
   statusBar()->addPermanentWidget(statoDocumento_);
   AdattaAlloSchermo(*this);
@@ -121,6 +126,19 @@ void MDIEditorTorvi::mnuAggiornamentoNuovo_Click() {
   stato_.RigheClasse.clear();
   stato_.RigheFonte.clear();
   MostraDocumento();
+}
+
+void MDIEditorTorvi::mnuAggiornamentoEdita_Click() {
+  if (frmSceltaDoc::ChiediDocumento(stato_, dialoghi_, this)) MostraDocumento();
+}
+
+void MDIEditorTorvi::mnuAggiornamentoCancella_Click() {
+  frmSceltaDoc::ApriCancellazione(stato_, dialoghi_, this);
+}
+
+void MDIEditorTorvi::mnuAggiornamentoRicerca_Click() {
+  frmRicerca(stato_, dialoghi_, this).exec();
+  if (!stato_.SqlRicerca.isEmpty() && stato_.ModoRicerca) MostraDocumento();
 }
 
 void MDIEditorTorvi::mnuFormatoASCIIStorico_Click() {

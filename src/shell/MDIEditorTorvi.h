@@ -39,6 +39,9 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuFileNuovo_Click();
   void mnuFileEsci_Click();
   void mnuAggiornamentoNuovo_Click();
+  void mnuAggiornamentoEdita_Click();
+  void mnuAggiornamentoCancella_Click();
+  void mnuAggiornamentoRicerca_Click();
   void mnuFormatoASCIIStorico_Click();
   void mnuFormatoASCIIIsis_Click();
   void mnuFormatoASCIICassazione_Click();

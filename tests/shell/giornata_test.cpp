@@ -65,6 +65,28 @@ class Giornata : public testing::Test {
     return righe.join(QLatin1Char('\n')).toStdString();
   }
 
+  // The lines that a search shows; a search without result is told.
+  [[nodiscard]] std::string Cerca(int campo, const QString& parole) const {
+    QStringList linee;
+    Passo cerca = [&](QWidget& modale) {
+      EXPECT_EQ(modale.windowTitle(), "Ricerca documento");
+      Batti(QStringLiteral("{Down}").repeated(campo + 1) + "{Tab}" + parole + "{Return}");
+      const auto& lista = Trova<QListWidget>(modale, "lstRisultato");
+      for (int i = 0; i < lista.count(); ++i) linee += lista.item(i)->text();
+      Batti(QStringLiteral("{Esc}"));
+    };
+    if (parole.startsWith(QLatin1Char('!'))) {
+      Fa("{Alt+A}r",
+         {cerca,
+          Riquadro("TorviEditor|Non esistono record che soddisfano la ricerca impostata|OK")});
+    } else {
+      Fa("{Alt+A}r", {cerca});
+    }
+    return linee.join(QLatin1Char('\n')).toStdString();
+  }
+
+  void CorreggeEDuplica() const;
+  void Cancella() const;
   void DocumentoDel2001() const;
   void DocumentoDel1998() const;
   void DocumentoDel2002() const;
@@ -81,10 +103,12 @@ void Giornata::DocumentoDel2001() const {
       "ingl{Tab}nota a{Tab}900{Tab}con note{Tab}L'usura \"bancaria\".{Tab}");
   Fa("{F7}", {Forma("Responsabilità", "D'Amico{Tab}Lucia{Tab}{Tab}{Return}")});
   Fa("{F7}", {Forma("Responsabilità", "Gruppo di studio{Tab}{Tab}{Right}{Tab}{Return}")});
+  Fa("{F7}", {Forma("Responsabilità", "Verdi{Tab}Ugo{Tab}{Right}{Tab}{Return}")});
   Fa("{F8}", {Forma("Classificazione", "AB001{Tab}00002{Return}00003{Return}{Alt+E}")});
   Fa("{F8}",
      {Forma("Classificazione", "AB001{Tab}{Tab}{Tab}{Tab}{Tab}*sviluppo sostenibile{Alt+E}")});
   Fa("{F10}", {Forma("Testo riassunto", "Un riassunto{Return} in due righe.{Alt+E}")});
+  Preme("cmdInTemaDi", {Forma("Testo 'In tema di'", "usura{Alt+E}")});
   Preme("cmdTraduzione", {Forma("Testo traduzione", "Usury.{Tab}{Return}")});
   Preme("cmdNota", {Forma("Campo nota", "Nota ambigua{Tab}{Return}")});
   Preme("cmdNotaDoc", {Forma("Testo nota al documento", "riga\\riga{Tab}{Return}")});
@@ -113,6 +137,30 @@ void Giornata::DocumentoDel2002() const {
   Fa("{F12}", {Riquadro(kSalvato)});
 }
 
+// The second document; what was corrected becomes a fourth one too.
+void Giornata::CorreggeEDuplica() const {
+  Fa("{Alt+A}e", {Forma("Scegli documento", "{Down}{Return}")});
+  VaiA("txtTitolo");
+  Batti("Le città");
+  Fa("{F4}", {Riquadro(kSalvato)});
+  Fa("{F2}", {Riquadro(kSalvato)});
+  Fa("{F3}");
+}
+
+// The third document, which leaves its links behind.
+void Giornata::Cancella() const {
+  Fa("{Alt+A}c{Return}");  // another entry has that letter too
+  auto* scelta = finestra->findChild<QDialog*>(QStringLiteral("frmSceltaDoc"));
+  ASSERT_NE(scelta, nullptr);
+  scelta->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(scelta));
+  Operatore::Esegue([] { Batti("{Down}{Down}{Tab} "); },
+                    {Riquadro("Attenzione!|Confermi cancellazione?|Sì|No")});
+  scelta->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(scelta));
+  Batti("{Esc}");
+}
+
 TEST_F(Giornata, FromAnEmptyDeliveryToItsExport) {
   DocumentoDel2001();
   DocumentoDel1998();
@@ -130,17 +178,54 @@ TEST_F(Giornata, FromAnEmptyDeliveryToItsExport) {
   EXPECT_EQ(Righe("IDDoc Tipo IDTesto testo",
                   "LegameDocTesto, TabTesto where LegameDocTesto.IDTesto = TabTesto.IDTesto"),
             "1|0|1|L'usura \"bancaria\"\n1|1|2|Un riassunto in due righe.\n1|3|3|Usury\n"
-            "1|5|4|riga\\riga\n1|6|5|Nota ambigua\n"
-            "2|0|6|Città e università\n2|4|7|desueto\n"
-            "3|0|8|Da togliere.\n3|2|9|1. Uno - 2. Due.");
+            "1|5|4|riga\\riga\n1|6|5|Nota ambigua\n1|7|6|usura\n"
+            "2|0|7|Città e università\n2|4|8|desueto\n"
+            "3|0|9|Da togliere.\n3|2|10|1. Uno - 2. Due.");
   EXPECT_EQ(
       Righe("IDResponsabilita PrimoElemento SecondoElemento flagCollettivo", "TabResponsabilita"),
-      "1|D'Amico|Lucia|0\n2|Gruppo di studio|Null|1");
-  EXPECT_EQ(Righe("IDDoc IDResponsabilita flagAutore", "LegameDocResp"), "1|1|1\n1|2|0");
+      "1|D'Amico|Lucia|0\n2|Gruppo di studio|Null|1\n3|Verdi|Ugo|0");
+  EXPECT_EQ(Righe("IDDoc IDResponsabilita flagAutore", "LegameDocResp"), "1|1|1\n1|2|0\n1|3|0");
   EXPECT_EQ(Righe("IDClasse2000 IDClasse2000-S IDClasse2000-D Classe2000-D Check", "TabClasse2000"),
             "1|1|2|Null|0\n2|1|3|Null|1\n3|1|0|*sviluppo sostenibile|2\n4|2|0|Null|0");
   EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass"), "1|1\n1|2\n1|3\n3|4");
   EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass1999"), "2|2");
+
+  CorreggeEDuplica();
+  EXPECT_EQ(Righe("IDDocumento IDRifBibl", "TabDocumento"), "1|1\n2|4\n3|3\n4|5");
+  EXPECT_EQ(Righe("IDDoc Tipo IDTesto testo",
+                  "LegameDocTesto, TabTesto where LegameDocTesto.IDTesto = TabTesto.IDTesto and "
+                  "LegameDocTesto.IDTesto > 10"),
+            "2|0|11|Le città\n2|4|12|desueto\n4|0|13|Le città\n4|4|14|desueto");
+  EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass1999"), "2|2\n4|2");
+
+  const std::string primo = "1 --> 2001A0012 ?";
+  const std::string secondoEQuarto = "2 --> 2001A0013 ?\n4 --> 2001A0015 ?";
+  const std::string terzo = "3 --> 2001A0014 ?";
+  EXPECT_EQ(Cerca(0, "acmt"), secondoEQuarto);
+  EXPECT_EQ(Cerca(1, "03/02/2001"), primo);
+  EXPECT_EQ(Cerca(2, "1-2"), primo);
+  EXPECT_EQ(Cerca(3, "d'amico"), primo);
+  EXPECT_EQ(Cerca(4, "lucia"), primo);
+  EXPECT_EQ(Cerca(5, "gruppo di studio"), primo);
+  EXPECT_EQ(Cerca(6, "ugo"), primo);
+  EXPECT_EQ(Cerca(7, "le città"), secondoEQuarto);
+  EXPECT_EQ(Cerca(8, "un riassunto in due righe."), primo);
+  EXPECT_EQ(Cerca(9, "1. uno - 2. due."), terzo);
+  EXPECT_EQ(Cerca(10, "usura"), primo);
+  EXPECT_EQ(Cerca(11, "desueto"), secondoEQuarto);
+  EXPECT_EQ(Cerca(12, "!"), "");
+  EXPECT_EQ(Cerca(13, "!"), "");
+  EXPECT_EQ(Cerca(14, "AB002"), terzo);
+  EXPECT_EQ(Cerca(15, "00002"), primo);
+
+  Cancella();
+  EXPECT_EQ(Righe("IDDocumento IDRifBibl", "TabDocumento"), "1|1\n2|4\n4|5");
+  EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass"), "1|1\n1|2\n1|3\n3|4");
+  Fa("{Alt+E}fi", {Riquadro("Esportazione per ISIS|Controllo presenza fonti?|Sì|No", Qt::Key_N),
+                   Riquadro("Esportazione|Accodare risultato dell'esportazione?|Sì|No", Qt::Key_N),
+                   Riquadro("TorviEditor|Fine esportazione della consegna A01|OK")});
+  EXPECT_EQ(Byte(cartella.Dump("lexxdump isis.A01")).toStdString(),
+            Byte(QStringLiteral(TORVI_RADICE "/tests/dati/giornata.isis")).toStdString());
 }
 
 }  // namespace
