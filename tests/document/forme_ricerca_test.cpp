@@ -80,6 +80,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
   EXPECT_EQ(Linee(*forma, "lstDocumento"), "1 --> 2001A0012|4 --> 2001A0013");
+  EXPECT_EQ(prova.Metti("TabDocumento", {{"IDRifBibl", 1}}), 5);  // never a number twice
   Clic(*forma, "cmdCancella");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Nessuna selezione effettuata");
   Trova<QListWidget>(*forma, "lstDocumento").setFocus();
@@ -87,8 +88,16 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
-  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Nessun documento presente!");
-  EXPECT_TRUE(forma->isVisible());
+  EXPECT_EQ(Linee(*forma, "lstDocumento"), "5 --> 2001A0012");
+  // The rows that belonged to the documents stay.
+  EXPECT_FALSE(stato.DbArchivio.OpenRecordset("LegameDocTesto").Eof());
+  stato.DbArchivio.Close();
+  Trova<QListWidget>(*forma, "lstDocumento").selectAll();
+  prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
+                                Risposta::Si);
+  Clic(*forma, "cmdCancella");
+  EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith("Error number: 3420\r"));
+  EXPECT_EQ(Linee(*forma, "lstDocumento"), "5 --> 2001A0012");
   Clic(*forma, "cmdAnnulla");
   EXPECT_TRUE(QTest::qWaitFor([&] { return forma.isNull(); }));
 }
