@@ -286,6 +286,13 @@ TEST_F(FormaRiassunto, UnderlinesWhatIsMisspelt) {
                      }});
 }
 
+TEST_F(FormaRiassunto, TheAbstractInEnglishHasItsOwnDictionary) {
+  stato.TipoTestoRiassunto = QStringLiteral("3");
+  stato.TestoEnglishAbstract = QStringLiteral("The judge and the giudice");
+  const frmRiassunto forma(stato, dialoghi, dizionari);
+  EXPECT_EQ(Sottolineate(Trova<QPlainTextEdit>(forma, "txtRiassunto")), "giudice");
+}
+
 TEST_F(FormaRiassunto, WithoutADictionaryOnlyTheSpellingIsMissing) {
   Dizionari nessuno(cartella.Percorso(), cartella.Percorso());
   stato.TestoRiassunto = QStringLiteral("Il provedimento");
