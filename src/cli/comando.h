@@ -48,6 +48,7 @@ extern const Comando kNuovo;
 extern const Comando kEsporta;
 extern const Comando kErrori;
 extern const Comando kCerca;
+extern const Comando kComponi;
 extern const Comando kConverti;
 extern const Comando kVerifica;
 extern const Comando kMaster;

@@ -76,18 +76,6 @@ constexpr std::array kCampi = {
                  u"[TabClasse2000-D].CodiceD", u"", false},
 };
 
-QString Condizione(const QString& colonna, ModoCampo modo, QString parole) {
-  parole.replace(QLatin1String("'"), QLatin1String("''"));
-  if (modo == ModoCampo::Intero) return colonna + QLatin1String(" = '") + parole + u'\'';
-  QStringList termini =
-      modo == ModoCampo::Sequenza ? QStringList(parole) : parole.split(QLatin1Char(' '));
-  for (QString& termine : termini) {
-    termine = colonna + QLatin1String(" like '*") + termine + QLatin1String("*'");
-  }
-  return termini.join(modo == ModoCampo::AlmenoUna ? QLatin1String(" OR ")
-                                                   : QLatin1String(" AND "));
-}
-
 // The delivery number is an estimate: a deleted document moves those after it.
 QString RigaRisultato(const StatoGlobale& stato, qint64 numero) {
   const QString progressivo = RiempiZeri(QString::number(numero + stato.ContatoreDoc - 1), 4);
@@ -110,7 +98,7 @@ std::span<const CampoRicerca> CampiRicerca() { return kCampi; }
 QString IstruzioneRicerca(const CampoRicerca& campo, ModoCampo modo, const QString& parole) {
   const auto parte = [](const char16_t* testo) { return QStringView(testo).toString(); };
   return parte(campo.seleziona) + parte(campo.da) + parte(campo.dove) +
-         Condizione(parte(campo.colonna), modo, parole) + parte(campo.chiusura) +
+         CondizioneParole(parte(campo.colonna), modo, parole) + parte(campo.chiusura) +
          QLatin1String(" order by TabDocumento.IDDocumento");
 }
 

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <span>
 
+#include "shell/condizione_parole.h"
 #include "shell/dialoghi.h"
 #include "shell/stato_globale.h"
 
@@ -25,12 +26,7 @@ struct CampoRicerca {
 // In the order of the form.
 [[nodiscard]] std::span<const CampoRicerca> CampiRicerca();
 
-// The whole field is equal to the text; or a part of it holds all words, one of them, or the text
-// as it stands. The last three are in the order of ComboParte.
-enum class ModoCampo { Intero, Tutte, AlmenoUna, Sequenza };
-
-// Words are cut at every blank, so that two blanks in a row make an empty one, which every value
-// matches. `*` and `?` keep their meaning in the parts of a field.
+// The whole statement, to the character.
 [[nodiscard]] QString IstruzioneRicerca(const CampoRicerca& campo, ModoCampo modo,
                                         const QString& parole);
 

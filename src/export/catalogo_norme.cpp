@@ -2,32 +2,12 @@
 
 #include <QDate>
 
+#include "fonti/abbreviazioni_catalogo.h"
 #include "shell/percorsi.h"
 #include "shell/valori.h"
 
 namespace torvi {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
-
-struct Abbreviazione {
-  QLatin1StringView fonteNorm;
-  QLatin1StringView catalogo;
-};
-
-// The kinds of act that the catalogue spells in its own way.
-constexpr Abbreviazione kAbbreviazioni[] = {
-    {"l. cost."_L1, "l.cost."_L1},
-    {"dir. p.c.m."_L1, "dir.p.c.m."_L1},
-    {"d.lg."_L1, "d.lgs."_L1},
-};
-
-QString AbbreviazioneCatalogo(const QString& fonteNorm) {
-  for (const Abbreviazione& voce : kAbbreviazioni) {
-    if (fonteNorm == voce.fonteNorm) return voce.catalogo;
-  }
-  return fonteNorm;
-}
 
 // dd/mm/yyyy, as the catalogue holds it; nothing for a day that is on no calendar.
 std::optional<QString> DataCatalogo(const AttoCercato& atto) {
@@ -71,7 +51,7 @@ bool CatalogoNorme::Cerca(const AttoCercato& atto, const QString& data) const {
       "select * from tabCatalogo where anno = ? and promulgazione = ? and abbreviazione = ?");
   QList<Campo> valori = {Val(atto.anno), data, AbbreviazioneCatalogo(atto.FonteNorm)};
   if (!atto.numero.isEmpty()) {
-    istruzione += " and numero = ?"_L1;
+    istruzione += QLatin1String(" and numero = ?");
     valori.append(atto.numero);
   }
   return !database_->OpenRecordset(istruzione, valori).Eof();
