@@ -14,5 +14,7 @@ namespace torvi {
 // it waits until the press is over, which would put the caret in the midst of the text.
 void SelezionaTutto(QLineEdit& campo, Qt::FocusReason motivo);
 void SelezionaTutto(QPlainTextEdit& campo, Qt::FocusReason motivo);
+// Does so each time that the operator comes to the field.
+void SelezionaConIlFuoco(QLineEdit& campo);
 
 }  // namespace torvi

@@ -1,0 +1,44 @@
+// The particulars and the divisions of an act, which every page of both source entry forms holds.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <memory>
+
+#include "fonti/controlli_fonte.h"
+
+namespace torvi {
+
+namespace Ui {
+class FinestraEstremi;
+}
+class ComboDiCodici;
+
+class FinestraEstremi : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit FinestraEstremi(QWidget* genitore = nullptr);
+  ~FinestraEstremi() override;
+
+  // Fills the combos of the adverbs and of the months.
+  void Prepara(const QStringList& articoli, const QStringList& commi);
+  // Shows either frame or leaves its place blank, so that what stands around does not jump.
+  void Mostra(bool estremi, bool ripartizioni);
+  // What the article and the paragraph are called.
+  void Etichette(const QString& articolo, const QString& comma);
+  void MettiData(const QString& giorno, const QString& mese, const QString& anno,
+                 const QString& numero);
+  void Leggi(ControlliFonte& controlli) const;
+  // Texts to empty, combos to their placeholder.
+  void Pulisci();
+
+ Q_SIGNALS:
+  void Cambiato();
+
+ private:
+  std::unique_ptr<Ui::FinestraEstremi> ui_;
+  std::array<ComboDiCodici*, 3> combo_;  // owned by their combos
+};
+
+}  // namespace torvi
