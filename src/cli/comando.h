@@ -47,6 +47,7 @@ struct Comando {
 extern const Comando kNuovo;
 extern const Comando kEsporta;
 extern const Comando kErrori;
+extern const Comando kStampa;
 extern const Comando kCerca;
 extern const Comando kComponi;
 extern const Comando kConverti;

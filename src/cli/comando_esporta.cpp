@@ -1,7 +1,7 @@
-#include <algorithm>
 #include <array>
 
 #include "cli/comando.h"
+#include "cli/per_nome.h"
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
 #include "shell/apertura.h"
@@ -31,16 +31,6 @@ constexpr std::array kFileErrori = {FileErrori{"generici", &kErroriGenerici},
                                     FileErrori{"classe", &kErroriClasse},
                                     FileErrori{"fonti", &kErroriFonti}};
 
-// The row of a table that the first argument names.
-template <typename Righe>
-const auto& PerNome(const Righe& righe, const QCommandLineParser& letto) {
-  const QString nome = letto.positionalArguments().constFirst();
-  const auto riga =
-      std::ranges::find_if(righe, [&](const auto& una) { return nome == QLatin1String(una.nome); });
-  if (riga == righe.end()) throw ErroreUso{QStringLiteral("non si conosce \"%1\"").arg(nome)};
-  return *riga;
-}
-
 void Rispondi(DialoghiConsole& dialoghi, const QCommandLineParser& righe) {
   const QString accoda = QStringLiteral("accoda");
   if (righe.isSet(accoda) && righe.value(accoda).isEmpty()) {
@@ -55,7 +45,7 @@ void Rispondi(DialoghiConsole& dialoghi, const QCommandLineParser& righe) {
 }
 
 Esito Esporta(Contesto& contesto, const QCommandLineParser& righe) {
-  const Formato& formato = PerNome(kFormati, righe);
+  const Formato& formato = PerNome(kFormati, righe.positionalArguments().constFirst());
   Rispondi(contesto.dialoghi, righe);
   contesto.stato.DbArchivio =
       ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
@@ -65,7 +55,7 @@ Esito Esporta(Contesto& contesto, const QCommandLineParser& righe) {
 
 // The viewer ends in silence, or with an advice, where it finds no file to show.
 Esito Errori(Contesto& contesto, const QCommandLineParser& righe) {
-  const VoceErrori& voce = *PerNome(kFileErrori, righe).voce;
+  const VoceErrori& voce = *PerNome(kFileErrori, righe.positionalArguments().constFirst()).voce;
   contesto.stato.DbArchivio =
       ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
   LeggiInfoConsegna(contesto.stato);

@@ -107,7 +107,7 @@ int LeggiComando(const Comando& comando, const QStringList& argomenti, const QSt
 }  // namespace
 
 std::span<const Comando> Comandi() {
-  static const std::array comandi = {kNuovo,    kEsporta,  kErrori, kCerca,    kComponi,
+  static const std::array comandi = {kNuovo,    kEsporta,  kErrori, kStampa,   kCerca,  kComponi,
                                      kConverti, kVerifica, kMaster, kCatalogo, kEsempio};
   return comandi;
 }

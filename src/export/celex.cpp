@@ -81,6 +81,17 @@ QString NumeroCelex(const DatiCelex& dati) {
   return {};
 }
 
+DatiCelex LeggiDatiCelex(const Recordset& fonte) {
+  return {.Settore = fonte.Fields("Settore").Testo(),
+          .Codice = fonte.Fields("Codice").Testo(),
+          .Articolo = fonte.Fields("articolo").TestoOVuoto(),
+          .AnnoF = fonte.Fields("AnnoF").TestoOVuoto(),
+          .Altro = fonte.Fields("altro").TestoOVuoto(),
+          .Numero = fonte.Fields("numero").TestoOVuoto(),
+          .Anno = fonte.Fields("anno").TestoOVuoto(),
+          .Ordinanza = fonte.Fields("ordinanza").Logico()};
+}
+
 QString CelexDaFonte(const StatoGlobale& stato, qint16 idFonte) {
   const Recordset fonte = stato.DbArchivio.OpenRecordset(
       QStringLiteral("SELECT TabFonte.*, tabFonteCom.IDFonteCom, tabFonteCom.FonteCom, "
@@ -90,16 +101,11 @@ QString CelexDaFonte(const StatoGlobale& stato, qint16 idFonte) {
       {Campo(idFonte)});
   if (fonte.Eof()) return kNonTrovato;
   if (!fonte.Fields("Settore").Presente()) return {};
-  const bool rinumerato = fonte.Fields("IDFonteCom").Intero() == kTrattatoRinumerato;
-  return NumeroCelex(
-      {.Settore = fonte.Fields("Settore").Testo(),
-       .Codice = fonte.Fields("Codice").Testo(),
-       .Articolo = fonte.Fields("articolo").TestoOVuoto(),
-       .AnnoF = rinumerato ? AnnoTrattato(stato.PrefissoDoc) : fonte.Fields("AnnoF").TestoOVuoto(),
-       .Altro = fonte.Fields("altro").TestoOVuoto(),
-       .Numero = fonte.Fields("numero").TestoOVuoto(),
-       .Anno = fonte.Fields("anno").TestoOVuoto(),
-       .Ordinanza = fonte.Fields("ordinanza").Logico()});
+  DatiCelex dati = LeggiDatiCelex(fonte);
+  if (fonte.Fields("IDFonteCom").Intero() == kTrattatoRinumerato) {
+    dati.AnnoF = AnnoTrattato(stato.PrefissoDoc);
+  }
+  return NumeroCelex(dati);
 }
 
 }  // namespace torvi

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "archive/recordset.h"
 #include "shell/stato_globale.h"
 
 namespace torvi {
@@ -19,6 +20,9 @@ struct DatiCelex {
   QString Anno;
   bool Ordinanza = false;
 };
+
+// The same from a row that joins a source with its kind, which has a sector.
+[[nodiscard]] DatiCelex LeggiDatiCelex(const Recordset& fonte);
 
 // By sector: treaties "1", derived law "3", case law "6". Empty for any other sector and for a
 // treaty without an article; a single blank for a case whose court or number is not to be found.

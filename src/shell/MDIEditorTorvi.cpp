@@ -7,6 +7,7 @@
 #include "document/frmSceltaDoc.h"
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
+#include "report/stampa_html.h"
 #include "shell/archivio_comandi.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
@@ -30,6 +31,8 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFileChiudi, &MDIEditorTorvi::mnuFileChiudi_Click);
   Collega(ui_->mnuFileNuovo, &MDIEditorTorvi::mnuFileNuovo_Click);
   Collega(ui_->mnuFileEsci, &MDIEditorTorvi::mnuFileEsci_Click);
+  Collega(ui_->mnuUtilitaHTML, &MDIEditorTorvi::mnuUtilitaHTML_Click);
+  Collega(ui_->mnuUtilitaHTML_HUDOC, &MDIEditorTorvi::mnuUtilitaHTML_HUDOC_Click);
   Collega(ui_->mnuFormatoASCIIStorico, &MDIEditorTorvi::mnuFormatoASCIIStorico_Click);
   Collega(ui_->mnuFormatoASCIIIsis, &MDIEditorTorvi::mnuFormatoASCIIIsis_Click);
   Collega(ui_->mnuFormatoASCIICassazione, &MDIEditorTorvi::mnuFormatoASCIICassazione_Click);
@@ -140,6 +143,10 @@ void MDIEditorTorvi::mnuAggiornamentoRicerca_Click() {
   frmRicerca(stato_, dialoghi_, this).exec();
   if (!stato_.SqlRicerca.isEmpty() && stato_.ModoRicerca) MostraDocumento();
 }
+
+void MDIEditorTorvi::mnuUtilitaHTML_Click() { StampaHTMLCelex(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuUtilitaHTML_HUDOC_Click() { StampaHTMLHudoc(stato_, dialoghi_); }
 
 void MDIEditorTorvi::mnuFormatoASCIIStorico_Click() {
   EsportaAscii(stato_, dialoghi_, kEsportaStorico);

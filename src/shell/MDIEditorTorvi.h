@@ -42,6 +42,8 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuAggiornamentoEdita_Click();
   void mnuAggiornamentoCancella_Click();
   void mnuAggiornamentoRicerca_Click();
+  void mnuUtilitaHTML_Click();
+  void mnuUtilitaHTML_HUDOC_Click();
   void mnuFormatoASCIIStorico_Click();
   void mnuFormatoASCIIIsis_Click();
   void mnuFormatoASCIICassazione_Click();

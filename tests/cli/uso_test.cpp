@@ -19,7 +19,7 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
   const Caso kCasi[] = {
       {"", "torvi: manca il comando"},
       {"esportare isis a.mdb", "torvi: comando sconosciuto: esportare"},
-      {"stampa completa a.mdb", "torvi: comando sconosciuto: stampa"},
+      {"stampare celex a.mdb", "torvi: comando sconosciuto: stampare"},
       {"--cartelle /tmp verifica a.mdb", "torvi: opzione sconosciuta: cartelle"},
       {"esporta isis a.mdb --accodare f", "torvi: opzione sconosciuta: accodare"},
       {"esporta isis a.mdb --accoda", "torvi: manca il valore di un'opzione"},
