@@ -77,7 +77,7 @@ void LeggiControllo(C& controlli, const QString& nome, const QJsonValue& valore)
   if (testo != std::end(kTesti) && valore.isString()) {
     controlli.*testo->campo = valore.toString();
   } else if (nome == QLatin1String("indice") && valore.isDouble()) {
-    controlli.indice = valore.toInt();
+    controlli.indice = valore.toInt(-1);
   } else if (nome == QLatin1String("lstFonte") && (valore.isString() || valore.isNull())) {
     if (valore.isString()) controlli.lstFonte = valore.toString();
   } else if (nome == QLatin1String("chkOrd") && valore.isBool()) {
@@ -147,7 +147,9 @@ Risposta DialoghiRegistrati::Domanda(const QString& testo, const QString& titolo
   if (risposte_.isEmpty()) throw ErroreEsecuzione(Errore::OperazioneAnnullata);
   const QString risposta = risposte_.takeAt(0).toString();
   if (risposta == QLatin1String("si")) return Risposta::Si;
-  return risposta == QLatin1String("no") ? Risposta::No : Risposta::Annulla;
+  if (risposta == QLatin1String("no")) return Risposta::No;
+  if (risposta == QLatin1String("annulla")) return Risposta::Annulla;
+  Inatteso(risposta);
 }
 
 }  // namespace torvi

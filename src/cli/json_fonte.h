@@ -18,7 +18,7 @@ namespace torvi {
 [[nodiscard]] QJsonObject JsonFonte(const RigaFonte& riga);
 
 // Messages and questions go to a list instead of the terminal. A question without an answer left:
-// error 32755, cancelled.
+// error 32755, cancelled; an answer that is none: error 13.
 class DialoghiRegistrati : public DialoghiConsole {
  public:
   explicit DialoghiRegistrati(QJsonArray risposte);

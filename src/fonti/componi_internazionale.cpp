@@ -49,7 +49,8 @@ EsitoFonte ComponiInternazionale(const ControlliFonte& controlli, const QString&
     return EsitoFonte::Mancata;
   }
   riga.Testo = SpaziSingoli(testo);
-  if (riga.FonteNorm.isEmpty()) riga.FonteNorm = controlli.lstFonte.value_or(QString());
+  // A treaty's name comes from its row, whatever the disabled list still shows.
+  if (tp != QLatin1String("NIT")) riga.FonteNorm = *controlli.lstFonte;
   riga.TP = tp;
   return EsitoFonte::Composta;
 }

@@ -19,8 +19,8 @@ EsitoFonte ComponiStorica(const ControlliFonte& controlli, const QString& voce, 
     dialoghi.Messaggio(QStringLiteral("Immettere testo libero per la fonte!"));
     return EsitoFonte::Mancata;
   }
-  riga.Testo = SpaziSingoli(controlli.txtLibero);
   riga.TP = Codice(voce);
+  riga.Testo = SpaziSingoli(controlli.txtLibero);
   return EsitoFonte::Composta;
 }
 

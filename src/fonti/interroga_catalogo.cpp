@@ -3,7 +3,6 @@
 #include "archive/errore.h"
 #include "archive/recordset.h"
 #include "fonti/abbreviazioni_catalogo.h"
-#include "fonti/controlli_fonte.h"
 #include "shell/percorsi.h"
 #include "shell/valori.h"
 

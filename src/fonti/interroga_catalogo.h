@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "archive/database.h"
+#include "fonti/controlli_fonte.h"
 #include "shell/condizione_parole.h"
 
 namespace torvi {
@@ -14,7 +15,7 @@ namespace torvi {
 struct DomandaCatalogo {
   QString ComboCatalogoFonte;
   QString txtCatalogoGiorno;
-  QString ComboCatalogoMese;
+  QString ComboCatalogoMese = kMese;
   QString txtCatalogoAnno;
   QString txtCatalogoNumero;
   QString txtCatalogoParola;

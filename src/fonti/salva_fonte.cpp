@@ -27,6 +27,12 @@ RigaFonte& NuovaRiga(StatoGlobale& stato) {
   return stato.RigheFonte.back();
 }
 
+// On the tabs of codes the kind is the act itself.
+bool VoceNota(const ControlliFonte& controlli) {
+  const bool codici = controlli.indice == 1 || controlli.indice == 4;
+  return codici || TrovaVoceInterna(controlli.indice, controlli.ComboFonte) != nullptr;
+}
+
 EsitoFonte ComponiInterna(const ControlliFonte& controlli, RigaFonte& riga, Dialoghi& dialoghi) {
   switch (controlli.indice) {
     case 2:
@@ -66,6 +72,7 @@ EsitoFonte SalvaFonteInterna(StatoGlobale& stato, Dialoghi& dialoghi,
   if (!FonteImmessa(controlli, QString::fromUtf16(scheda->titolo), dialoghi))
     return EsitoFonte::Tolta;
   if (!stato.NuovaFonte) return EsitoFonte::Tolta;
+  if (!VoceNota(controlli)) throw ErroreEsecuzione(Errore::ChiamataNonValida, controlli.ComboFonte);
   const EsitoFonte esito = ComponiInterna(controlli, NuovaRiga(stato), dialoghi);
   if (esito == EsitoFonte::Tolta) stato.RigheFonte.pop_back();
   return esito;

@@ -8,12 +8,15 @@
 
 namespace torvi {
 
-EsitoProgramma Torvi(const QStringList& argomenti, const QStringList& davanti) {
+EsitoProgramma Torvi(const QStringList& argomenti, const QStringList& davanti,
+                     const QByteArray& ingresso) {
   QStringList riga = davanti;
   riga.append(QStringLiteral(TORVI_PROGRAMMA));
   riga.append(argomenti);
   QProcess processo;
   processo.start(riga.takeFirst(), riga);
+  processo.write(ingresso);
+  processo.closeWriteChannel();
   EXPECT_TRUE(processo.waitForFinished(-1)) << processo.errorString().toStdString();
   EXPECT_EQ(processo.exitStatus(), QProcess::NormalExit);
   return {processo.exitCode(), QString::fromUtf8(processo.readAllStandardOutput()),

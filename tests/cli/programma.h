@@ -11,8 +11,10 @@ struct EsitoProgramma {
   QString errori;
 };
 
-// `torvi` with these arguments, after those of `davanti` ("setpriv", "--reuid=65534"...) if any.
-[[nodiscard]] EsitoProgramma Torvi(const QStringList& argomenti, const QStringList& davanti = {});
+// `torvi` with these arguments, after those of `davanti` ("setpriv", "--reuid=65534"...) if any,
+// and what it reads.
+[[nodiscard]] EsitoProgramma Torvi(const QStringList& argomenti, const QStringList& davanti = {},
+                                   const QByteArray& ingresso = {});
 
 // An archive's columns of `TabInfo` in the order of the schema, Null as "-".
 [[nodiscard]] QString Informazioni(const QString& archivio);

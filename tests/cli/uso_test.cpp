@@ -27,6 +27,8 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
       {"esporta isis", "torvi: gli argomenti di \"esporta\" sono 2"},
       {"esporta isis a.mdb b.mdb", "torvi: gli argomenti di \"esporta\" sono 2"},
       {"esporta rtf a.mdb", "torvi: non si conosce \"rtf\""},
+      {"componi estera a.mdb", "torvi: la forma deve essere interna o altra"},
+      {"componi interna", "torvi: gli argomenti di \"componi\" sono 2"},
       {"errori tutti a.mdb", "torvi: non si conosce \"tutti\""},
       {"cerca a.mdb --campo Titolo", "torvi: gli argomenti di \"cerca\" sono almeno 2"},
       {"cerca a.mdb parola", "torvi: manca --campo CAMPO"},
@@ -59,8 +61,8 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
 TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
   const QString generale = Torvi({QStringLiteral("--aiuto")}).uscita;
   EXPECT_TRUE(generale.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] COMANDO")));
-  for (const char* comando : {"nuovo", "esporta", "errori", "cerca", "converti", "verifica",
-                              "master", "catalogo", "esempio"}) {
+  for (const char* comando : {"nuovo", "esporta", "errori", "cerca", "componi", "converti",
+                              "verifica", "master", "catalogo", "esempio"}) {
     const QString nome = QString::fromLatin1(comando);
     EXPECT_TRUE(generale.contains(QStringLiteral("  torvi %1 ").arg(nome))) << comando;
     const EsitoProgramma esito = Torvi({nome, QStringLiteral("--aiuto")});

@@ -1,0 +1,24 @@
+// The save of one source on an entry form, asked for and answered in JSON: one line of `torvi
+// componi`.
+#pragma once
+
+#include "cli/json_fonte.h"
+#include "fonti/anteprima.h"
+
+namespace torvi {
+
+// A form, by the name that torvi gives it.
+struct FormaFonte {
+  const char* nome;
+  SalvaFonte salva;
+  ControlliFonte (*leggi)(const QJsonObject&);
+};
+// Null where there is no such form.
+[[nodiscard]] const FormaFonte* TrovaForma(const QString& nome);
+
+// Takes "controlli", "NuovaFonte" and "risposte"; gives "risultato", "messaggi" and "riga". A
+// run-time error is a message, with "errore" as the result. Nothing is thrown.
+[[nodiscard]] QJsonObject ComponiRichiesta(const FormaFonte& forma, StatoGlobale& stato,
+                                           const QJsonObject& richiesta);
+
+}  // namespace torvi
