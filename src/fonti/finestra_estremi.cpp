@@ -87,6 +87,10 @@ void FinestraEstremi::MettiData(const QString& giorno, const QString& mese, cons
   ui_->txtN->setText(numero);
 }
 
+void FinestraEstremi::Conferma() {
+  for (ComboDiCodici* combo : combo_) combo->Conferma();
+}
+
 void FinestraEstremi::Leggi(ControlliFonte& controlli) const {
   for (const Casella& casella : kCaselle) {
     controlli.*casella.valore = ((*ui_).*casella.campo)->text();

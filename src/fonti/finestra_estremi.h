@@ -29,6 +29,8 @@ class FinestraEstremi : public QWidget {
   void Etichette(const QString& articolo, const QString& comma);
   void MettiData(const QString& giorno, const QString& mese, const QString& anno,
                  const QString& numero);
+  // What is typed in a combo becomes its choice, before a command that reads it.
+  void Conferma();
   void Leggi(ControlliFonte& controlli) const;
   // Texts to empty, combos to their placeholder.
   void Pulisci();

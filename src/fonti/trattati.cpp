@@ -1,7 +1,6 @@
 #include "fonti/trattati.h"
 
 #include "archive/errore.h"
-#include "archive/recordset.h"
 #include "shell/valori.h"
 
 namespace torvi {
@@ -9,7 +8,7 @@ namespace {
 
 const QString kSegno = QStringLiteral(") ");
 
-QStringList Linee(Recordset righe) {
+QStringList Linee(Recordset& righe) {
   QStringList linee;
   for (; !righe.Eof(); righe.MoveNext()) {
     linee += righe.Fields("idnit").Testo() + kSegno + righe.Fields("fonte").TestoOVuoto();
@@ -24,14 +23,16 @@ QString SenzaZeri(QString cifre) {
 
 }  // namespace
 
-QStringList ElencaNIT(const Database& archivio) {
-  return Linee(archivio.OpenRecordset(QStringLiteral("TabNIT")));
+QStringList ElencaNIT(Recordset& tabNIT) {
+  if (!tabNIT.Bof() || !tabNIT.Eof()) tabNIT.MoveFirst();
+  return Linee(tabNIT);
 }
 
 QStringList CercaNIT(const Database& archivio, ModoCampo modo, const QString& parole) {
-  return Linee(
+  Recordset trovate =
       archivio.OpenRecordset(QStringLiteral("select * from tabNIT where ") +
-                             CondizioneParole(QStringLiteral(" tabNIT.fonte"), modo, parole)));
+                             CondizioneParole(QStringLiteral(" tabNIT.fonte"), modo, parole));
+  return Linee(trovate);
 }
 
 Trattato LeggiTrattato(const Database& archivio, const QString& linea) {

@@ -86,6 +86,10 @@ QStringList ListaFonteAltra(const Database& archivio, const VoceAltra& voce) {
   return Colonna(archivio, QLatin1String(voce.istruzione), voce.colonna);
 }
 
+QStringList ElencoStati(const Database& archivio) {
+  return Colonna(archivio, QStringLiteral("select Stato from tabStato order by Stato"), "Stato");
+}
+
 std::optional<QString> AttoScelto(const VoceAltra& voce, const std::optional<QString>& lstFonte,
                                   const QString& txtLibero) {
   switch (voce.atto) {

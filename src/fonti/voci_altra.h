@@ -35,6 +35,8 @@ struct VoceAltra {
 [[nodiscard]] QStringList ComboFonteAltra(int indice);
 // The items of lstFonte.
 [[nodiscard]] QStringList ListaFonteAltra(const Database& archivio, const VoceAltra& voce);
+// What cmdListaStati offers.
+[[nodiscard]] QStringList ElencoStati(const Database& archivio);
 
 // The name of the act that a composer takes: the item selected or, for the last three kinds of tab
 // 4, the kind itself. Empty where it is missing; kinds that need none have an empty name.
