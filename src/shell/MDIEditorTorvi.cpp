@@ -7,6 +7,7 @@
 #include "document/frmSceltaDoc.h"
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
+#include "report/estrazioni.h"
 #include "report/stampa_html.h"
 #include "shell/archivio_comandi.h"
 #include "shell/finestra_misure.h"
@@ -36,6 +37,8 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFormatoASCIIStorico, &MDIEditorTorvi::mnuFormatoASCIIStorico_Click);
   Collega(ui_->mnuFormatoASCIIIsis, &MDIEditorTorvi::mnuFormatoASCIIIsis_Click);
   Collega(ui_->mnuFormatoASCIICassazione, &MDIEditorTorvi::mnuFormatoASCIICassazione_Click);
+  Collega(ui_->mnuFileNotaDocumenti, &MDIEditorTorvi::mnuFileNotaDocumenti_Click);
+  Collega(ui_->mnuFileNuovi, &MDIEditorTorvi::mnuFileNuovi_Click);
   Collega(ui_->mnuFileErroriGenerici, &MDIEditorTorvi::mnuFileErroriGenerici_Click);
   Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
   Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
@@ -157,6 +160,10 @@ void MDIEditorTorvi::mnuFormatoASCIIIsis_Click() { EsportaAscii(stato_, dialoghi
 void MDIEditorTorvi::mnuFormatoASCIICassazione_Click() {
   EsportaAscii(stato_, dialoghi_, kEsportaCassazione);
 }
+
+void MDIEditorTorvi::mnuFileNotaDocumenti_Click() { EstraiNote(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuFileNuovi_Click() { EstraiNuovi(stato_, dialoghi_); }
 
 void MDIEditorTorvi::mnuFileErroriGenerici_Click() {
   VisualizzaErrori(stato_, dialoghi_, kErroriGenerici);

@@ -47,6 +47,8 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuFormatoASCIIStorico_Click();
   void mnuFormatoASCIIIsis_Click();
   void mnuFormatoASCIICassazione_Click();
+  void mnuFileNotaDocumenti_Click();
+  void mnuFileNuovi_Click();
   void mnuFileErroriGenerici_Click();
   void mnuFileErroriClasse_Click();
   void mnuFileErroriFonti_Click();
