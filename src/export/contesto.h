@@ -3,7 +3,9 @@
 
 #include <QString>
 
+#include "export/coppie_classe.h"
 #include "export/coppie_decodificate.h"
+#include "export/descrizioni_1999.h"
 #include "export/file_testo.h"
 #include "export/legami_in_ordine.h"
 #include "export/record.h"
@@ -16,12 +18,6 @@ namespace torvi {
 
 class CatalogoNorme;
 
-// What one row of the scheme 2000 gives: its codes, and the message that its state raises.
-struct CoppiaClasse {
-  QString codici;
-  QString messaggio;  // empty: none
-};
-
 struct ContestoEsportazione {
   StatoGlobale& stato;
   Record& record;
@@ -32,9 +28,9 @@ struct ContestoEsportazione {
   QString CodiciClasse = {};  // classification of the current document
   TabelleDiCodici codici{stato.DbArchivio};
   LegamiDocumento legami{stato.DbArchivio};
-  Ricordati<QString> nomi = {};                  // of people, as a record has them
-  Ricordati<CoppiaClasse> coppieClasse = {};     // pairs of the scheme 2000
-  QHash<QString, QString> descrizioni1999 = {};  // codes of the scheme before 2000
+  Ricordati<QString> nomi = {};  // of people, as a record has them
+  CoppieClasse coppieClasse{stato.DbArchivio, codici};
+  Descrizioni1999 descrizioni1999{stato.DbArchivio};
   CoppieDecodificate coppie = {};
   LettoreRiferimenti riferimenti = {};
 };

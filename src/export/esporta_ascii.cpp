@@ -4,6 +4,7 @@
 #include "export/catalogo_norme.h"
 #include "export/contesto.h"
 #include "export/esporta_documento.h"
+#include "export/giro_documenti.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 
@@ -85,39 +86,6 @@ Destinazione ChiediDestinazione(StatoGlobale& stato, Dialoghi& dialoghi,
           stato.SiglaConsegna, Apertura::Scrittura};
 }
 
-// A failure ends the run; the operator has to know on which document.
-ErroreEsecuzione NelDocumento(const ErroreEsecuzione& errore, const Recordset& documenti,
-                              const StatoGlobale& stato) {
-  return ErroreEsecuzione::ConDescrizione(
-      static_cast<Errore>(errore.Numero()),
-      QStringLiteral("%1 (documento %2, %3)")
-          .arg(errore.Descrizione(), documenti.Fields("IDDocumento").Testo(),
-               stato.PrefissoDoc + NumeroDoc(stato)));
-}
-
-void EsportaDocumenti(ContestoEsportazione& contesto, Dialoghi& dialoghi,
-                      const FlagEsportazione& flag, FileTesto& uscita) {
-  constexpr int kPasso = 100;
-  const Database& archivio = contesto.stato.DbArchivio;
-  const qint64 totale =
-      archivio.OpenRecordset(QStringLiteral("select count(*) as quanti from tabDocumento"))
-          .Fields("quanti")
-          .Intero();
-  Recordset documenti =
-      archivio.OpenRecordset(QStringLiteral("select * from tabDocumento order by IDDocumento"));
-  documenti.MoveFirst();
-  for (int fatto = 0; !documenti.Eof(); documenti.MoveNext(), ++fatto) {
-    if (fatto % kPasso == 0) {
-      dialoghi.Avanzamento(QStringLiteral("Esportazione"), fatto, static_cast<int>(totale));
-    }
-    try {
-      EsportaDocumento(contesto, flag, documenti, uscita);
-    } catch (const ErroreEsecuzione& errore) {
-      throw NelDocumento(errore, documenti, contesto.stato);
-    }
-  }
-}
-
 }  // namespace
 
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag) {
@@ -129,7 +97,10 @@ void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazion
   Record record;
   CatalogoNorme catalogo(stato.CartellaApplicazione);
   ContestoEsportazione contesto = file.Contesto(stato, record, catalogo);
-  EsportaDocumenti(contesto, dialoghi, flag, file.Uscita());
+  const int fatti = GiraDocumenti(
+      stato, dialoghi, QStringLiteral("Esportazione"), QStringLiteral("from tabDocumento"),
+      [&](const Recordset& riga) { EsportaDocumento(contesto, flag, riga, file.Uscita()); });
+  if (fatti == 0) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
   file.Chiudi();
   clessidra.Togli();
   dialoghi.Messaggio("Fine esportazione della consegna "_L1 + stato.SiglaConsegna);

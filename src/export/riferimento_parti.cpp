@@ -10,35 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 const QLatin1Char kTratto('-');
 const QLatin1String kZero("00");
 
-// Both sides of the first hyphen, each padded to four.
-QString Intervallo(const QString& testo) {
-  const qsizetype tratto = testo.indexOf(kTratto);
-  return RiempiZeri(testo.left(tratto), 4) + kTratto + RiempiZeri(testo.mid(tratto + 1), 4);
-}
-
-// Day and month between brackets, behind an issue.
-void AggiungiGiornoMese(const CifreData& data, Parte& parte) {
-  QString mese = data.Mese();
-  if (mese == kZero) return;
-  const QString nome = NomeMese(mese);
-  if (nome.isEmpty()) {
-    parte.messaggi += "Errore mese nel sottocampo DATA: "_L1;
-    return;
-  }
-  QString giorno = data.Giorno();
-  if (giorno == kZero) {
-    parte.citazione += " ("_L1 + nome + QLatin1Char(')');
-    return;
-  }
-  const double numero = Val(giorno);
-  if (numero < 1 || numero > 31) {
-    parte.messaggi += "Errore giorno nel sottocampo DATA: "_L1;
-    return;
-  }
-  if (giorno.startsWith(QLatin1Char('0'))) giorno.remove(0, 1);
-  parte.citazione += " ("_L1 + giorno + QLatin1Char(' ') + nome + QLatin1Char(')');
-}
-
 bool InOrdine(const QString& pagine) {
   const QString asterisco = QStringLiteral("*");
   const qsizetype tratto = pagine.indexOf(kTratto);
@@ -52,6 +23,28 @@ bool InOrdine(const QString& pagine) {
 void AggiungiSottocampo(QString& codificato, const char* nome, const QString& valore) {
   if (!codificato.isEmpty()) codificato += QLatin1Char(' ');
   codificato += QLatin1String(nome) + QLatin1Char('=') + valore;
+}
+
+QString Intervallo(const QString& testo) {
+  const qsizetype tratto = testo.indexOf(kTratto);
+  return RiempiZeri(testo.left(tratto), 4) + kTratto + RiempiZeri(testo.mid(tratto + 1), 4);
+}
+
+QString CodiceFascicolo(const QString& fascicolo) {
+  return fascicolo.contains(kTratto) ? Intervallo(fascicolo) : RiempiZeri(fascicolo, 9);
+}
+
+Parte ParteGiornoMese(const CifreData& data) {
+  QString mese = data.Mese();
+  if (mese == kZero) return {};
+  const QString nome = NomeMese(mese);
+  if (nome.isEmpty()) return {.messaggi = {"Errore mese nel sottocampo DATA: "_L1}};
+  QString giorno = data.Giorno();
+  if (giorno == kZero) return {.citazione = " ("_L1 + nome + QLatin1Char(')')};
+  const double numero = Val(giorno);
+  if (numero < 1 || numero > 31) return {.messaggi = {"Errore giorno nel sottocampo DATA: "_L1}};
+  if (giorno.startsWith(QLatin1Char('0'))) giorno.remove(0, 1);
+  return {.citazione = " ("_L1 + giorno + QLatin1Char(' ') + nome + QLatin1Char(')')};
 }
 
 Parte ParteData(const CifreData& data, const QString& annoProduzione) {
@@ -71,9 +64,10 @@ Parte ParteFascicolo(const QString& fascicolo, const CifreData& data) {
   if (fascicolo.contains(QLatin1Char('/'))) {
     parte.messaggi += "Fascicolo con '/': "_L1;
   }
-  parte.citazione = ", fasc"_L1 + kSegno + ". "_L1 + fascicolo;
-  AggiungiGiornoMese(data, parte);
-  parte.codice = fascicolo.contains(kTratto) ? Intervallo(fascicolo) : RiempiZeri(fascicolo, 9);
+  const Parte giornoMese = ParteGiornoMese(data);
+  parte.messaggi += giornoMese.messaggi;
+  parte.citazione = ", fasc"_L1 + kSegno + ". "_L1 + fascicolo + giornoMese.citazione;
+  parte.codice = CodiceFascicolo(fascicolo);
   return parte;
 }
 

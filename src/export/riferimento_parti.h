@@ -28,10 +28,17 @@ void AggiungiSottocampo(QString& codificato, const char* nome, const QString& va
 
 // What a part adds to the coded reference and to the citation, and the messages it raises.
 struct Parte {
-  QString codice;
-  QString citazione;
-  QStringList messaggi;
+  QString codice = {};
+  QString citazione = {};
+  QStringList messaggi = {};
 };
+
+// Day and month between brackets, as they stand behind an issue, and what is wrong with them.
+[[nodiscard]] Parte ParteGiornoMese(const CifreData& data);
+// Padded to nine; the two sides of a hyphen to four each.
+[[nodiscard]] QString CodiceFascicolo(const QString& fascicolo);
+// Both sides of the first hyphen, each padded to four.
+[[nodiscard]] QString Intervallo(const QString& testo);
 
 // The code is the bare value.
 [[nodiscard]] Parte ParteData(const CifreData& data, const QString& annoProduzione);

@@ -9,18 +9,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-std::unique_ptr<QString> LeggiNome(const Database& archivio, qint64 idResponsabilita) {
-  const Recordset riga = archivio.OpenRecordset(
-      QStringLiteral("select * from tabResponsabilita where IDResponsabilita = ?"),
-      {idResponsabilita});
-  if (riga.Eof()) return nullptr;
-  auto nome = std::make_unique<QString>(Trim(riga.Fields("PrimoElemento").Testo()));
-  if (!riga.Fields("flagCollettivo").Logico()) {
-    *nome += QLatin1Char('+') + Trim(riga.Fields("SecondoElemento").Testo());
-  }
-  return nome;
-}
-
 // A pair of blanks or a backslash. Looks at every place, without a branch: faster than stopping at
 // the first on texts that are long and seldom have any.
 bool DaNormalizzare(const QString& testo) {
@@ -73,8 +61,23 @@ QString MessaggioMancanza(const CampoTesto& campo, const QString& td, const QStr
 
 }  // namespace
 
+std::unique_ptr<QString> LeggiNome(const Database& archivio, qint64 idResponsabilita,
+                                   const char* fra) {
+  const Recordset riga = archivio.OpenRecordset(
+      QStringLiteral("select * from tabResponsabilita where IDResponsabilita = ?"),
+      {idResponsabilita});
+  if (riga.Eof()) return nullptr;
+  auto nome = std::make_unique<QString>(Trim(riga.Fields("PrimoElemento").Testo()));
+  if (!riga.Fields("flagCollettivo").Logico()) {
+    *nome += QLatin1StringView(fra) + Trim(riga.Fields("SecondoElemento").Testo());
+  }
+  return nome;
+}
+
 void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
-  const auto leggi = [&contesto](qint64 id) { return LeggiNome(contesto.stato.DbArchivio, id); };
+  const auto leggi = [&contesto](qint64 id) {
+    return LeggiNome(contesto.stato.DbArchivio, id, "+");
+  };
   LegamiInOrdine& legami = contesto.legami.responsabilita;
   QString tag;
   QStringList nomi;

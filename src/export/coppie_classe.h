@@ -1,0 +1,31 @@
+// The pairs of the scheme 2000 that the documents of a run have, by their keys.
+#pragma once
+
+#include "export/ricordati.h"
+#include "export/tabelle_di_codici.h"
+
+namespace torvi {
+
+// What one row of the scheme 2000 gives: its codes, and the message that its state raises.
+struct CoppiaClasse {
+  QString codici;     // the systematic code and, behind ";", the descriptor
+  QString messaggio;  // empty: none
+};
+
+class CoppieClasse {
+ public:
+  CoppieClasse(const Database& archivio, TabelleDiCodici& codici)
+      : archivio_(archivio), codici_(codici) {}
+  CoppieClasse(const CoppieClasse&) = delete;
+  CoppieClasse& operator=(const CoppieClasse&) = delete;
+
+  // Nothing where no row has that key. A descriptor without row: error 3021.
+  [[nodiscard]] std::shared_ptr<CoppiaClasse> Cerca(const Campo& idClasse);
+
+ private:
+  Database archivio_;
+  TabelleDiCodici& codici_;
+  Ricordati<CoppiaClasse> note_;
+};
+
+}  // namespace torvi
