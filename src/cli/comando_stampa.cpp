@@ -3,23 +3,39 @@
 #include "cli/comando.h"
 #include "cli/per_nome.h"
 #include "report/stampa_html.h"
+#include "report/stampa_rtf.h"
 #include "shell/apertura.h"
 
 namespace torvi {
 
 namespace {
 
+constexpr std::array kOpzioni = {Opzione{"filtro", nullptr}};
+
 struct Stampa {
   const char* nome;
   void (*esegui)(StatoGlobale& stato, Dialoghi& dialoghi);
+  void (*conFiltro)(StatoGlobale& stato, Dialoghi& dialoghi) = nullptr;
 };
-constexpr std::array kStampe = {Stampa{"celex", StampaHTMLCelex}, Stampa{"hudoc", StampaHTMLHudoc}};
+
+template <bool completa, bool filtro>
+void EseguiRTF(StatoGlobale& stato, Dialoghi& dialoghi) {
+  StampaRTF(stato, dialoghi, completa, filtro);
+}
+
+constexpr std::array kStampe = {Stampa{"completa", EseguiRTF<true, false>},
+                                Stampa{"testi", EseguiRTF<false, false>, EseguiRTF<false, true>},
+                                Stampa{"celex", StampaHTMLCelex}, Stampa{"hudoc", StampaHTMLHudoc}};
 
 Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
   const Stampa& stampa = PerNome(kStampe, righe.positionalArguments().constFirst());
+  const bool filtro = righe.isSet(QStringLiteral("filtro"));
+  if (filtro && stampa.conFiltro == nullptr) {
+    throw ErroreUso{QStringLiteral("--filtro vale solo per la stampa dei testi")};
+  }
   contesto.stato.DbArchivio =
       ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
-  stampa.esegui(contesto.stato, contesto.dialoghi);
+  (filtro ? stampa.conFiltro : stampa.esegui)(contesto.stato, contesto.dialoghi);
   return Esito::Fatto;
 }
 
@@ -27,14 +43,19 @@ Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
 
 const Comando kStampa = {
     "stampa",
-    "celex|hudoc ARCHIVIO",
+    "completa|testi|celex|hudoc ARCHIVIO [--filtro]",
     "Scrive in dump/ una stampa della consegna. Un archivio in formato Jet viene prima\n"
     "convertito; l'originale resta accanto come ARCHIVIO.jet.\n\n"
-    "  celex  fonti comunitarie con il collegamento a CELEX, in dump/stampaHTML SIGLA.htm\n"
-    "  hudoc  sentenze della Corte europea dei diritti dell'uomo con il collegamento a\n"
-    "         HUDOC, in dump/stampaHTML_GEI SIGLA.htm\n",
+    "  completa  tutti i campi dei documenti, in dump/stampaRTF-C-SIGLA.rtf\n"
+    "  testi     i soli campi testo, in dump/stampaRTF-T-SIGLA.rtf\n"
+    "  celex     fonti comunitarie con il collegamento a CELEX, in dump/stampaHTML SIGLA.htm\n"
+    "  hudoc     sentenze della Corte europea dei diritti dell'uomo con il collegamento a\n"
+    "            HUDOC, in dump/stampaHTML_GEI SIGLA.htm\n\n"
+    "  --filtro  dei testi, solo i documenti con una ] nella traduzione del titolo\n\n"
+    "Le stampe RTF cominciano con un modello della cartella dell'applicazione, \"testata "
+    "new.rtf\".\n",
     2,
-    {},
+    kOpzioni,
     Esegui};
 
 }  // namespace torvi

@@ -9,6 +9,7 @@
 #include "export/esporta_ascii.h"
 #include "report/estrazioni.h"
 #include "report/stampa_html.h"
+#include "report/stampa_rtf.h"
 #include "shell/archivio_comandi.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
@@ -42,6 +43,8 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFileErroriGenerici, &MDIEditorTorvi::mnuFileErroriGenerici_Click);
   Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
   Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
+  Collega(ui_->mnuStampaCompleta, &MDIEditorTorvi::mnuStampaCompleta_Click);
+  Collega(ui_->mnuStampaSoloTesti, &MDIEditorTorvi::mnuStampaSoloTesti_Click);
   Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
   Collega(ui_->mnuAggiornamentoEdita, &MDIEditorTorvi::mnuAggiornamentoEdita_Click);
   Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
@@ -150,6 +153,10 @@ void MDIEditorTorvi::mnuAggiornamentoRicerca_Click() {
 void MDIEditorTorvi::mnuUtilitaHTML_Click() { StampaHTMLCelex(stato_, dialoghi_); }
 
 void MDIEditorTorvi::mnuUtilitaHTML_HUDOC_Click() { StampaHTMLHudoc(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuStampaCompleta_Click() { StampaRTF(stato_, dialoghi_, true, false); }
+
+void MDIEditorTorvi::mnuStampaSoloTesti_Click() { ComandoStampaSoloTesti(stato_, dialoghi_); }
 
 void MDIEditorTorvi::mnuFormatoASCIIStorico_Click() {
   EsportaAscii(stato_, dialoghi_, kEsportaStorico);

@@ -44,6 +44,8 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuAggiornamentoRicerca_Click();
   void mnuUtilitaHTML_Click();
   void mnuUtilitaHTML_HUDOC_Click();
+  void mnuStampaCompleta_Click();
+  void mnuStampaSoloTesti_Click();
   void mnuFormatoASCIIStorico_Click();
   void mnuFormatoASCIIIsis_Click();
   void mnuFormatoASCIICassazione_Click();

@@ -110,6 +110,31 @@ TEST_F(Comandi, ErroriShowsWhatTheExportFound) {
   EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 1 - - - - - 1 1 1"));
 }
 
+TEST_F(Comandi, StampaWritesAPrintAndMarksTheDelivery) {
+  PreparaEsempio(12);
+  struct Caso {
+    const char* stampa;
+    const char* messaggi;
+    const char* file;
+  };
+  constexpr Caso kCasi[] = {{"completa", "Fine stampa\n", "stampaRTF-C-A01.rtf"},
+                            {"testi", "Fine stampa\n", "stampaRTF-T-A01.rtf"}};
+  for (const char* nome : {"testata new.rtf", "testata prospetto.rtf"}) {
+    QFile::copy(QStringLiteral(TORVI_RADICE "/risorse/") + QLatin1String(nome),
+                cartella_.Percorso() + QLatin1Char('/') + QLatin1String(nome));
+  }
+  for (const Caso& caso : kCasi) {
+    Riesce({QStringLiteral("stampa"), QString::fromLatin1(caso.stampa), Archivio()},
+           QString::fromUtf8(caso.messaggi));
+    EXPECT_FALSE(Uscita(caso.file).isEmpty()) << caso.file;
+  }
+  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 - - 1 1 - - - - -"));
+  Riesce(
+      {QStringLiteral("stampa"), QStringLiteral("testi"), Archivio(), QStringLiteral("--filtro")},
+      QStringLiteral("Fine stampa\n"));
+  EXPECT_FALSE(Uscita("stampaRTF-T-A01.rtf").contains("2001A"));
+}
+
 TEST_F(Comandi, CercaWritesTheNumbersFound) {
   PreparaEsempio(12);
   const QStringList cerca{QStringLiteral("cerca"), Archivio(), QStringLiteral("--campo"),

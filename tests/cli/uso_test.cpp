@@ -20,6 +20,8 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
       {"", "torvi: manca il comando"},
       {"esportare isis a.mdb", "torvi: comando sconosciuto: esportare"},
       {"stampare celex a.mdb", "torvi: comando sconosciuto: stampare"},
+      {"stampa tutto a.mdb", "torvi: non si conosce \"tutto\""},
+      {"stampa completa a.mdb --filtro", "torvi: --filtro vale solo per la stampa dei testi"},
       {"--cartelle /tmp verifica a.mdb", "torvi: opzione sconosciuta: cartelle"},
       {"esporta isis a.mdb --accodare f", "torvi: opzione sconosciuta: accodare"},
       {"esporta isis a.mdb --accoda", "torvi: manca il valore di un'opzione"},

@@ -1,0 +1,28 @@
+// What the sections of one RTF print share.
+#pragma once
+
+#include "export/coppie_classe.h"
+#include "export/coppie_decodificate.h"
+#include "export/descrizioni_1999.h"
+#include "export/legami_in_ordine.h"
+#include "export/ricordati.h"
+#include "export/tabelle_di_codici.h"
+#include "report/stampa_fascicolo.h"
+#include "shell/stato_globale.h"
+
+namespace torvi {
+
+struct ContestoStampa {
+  StatoGlobale& stato;
+  bool completa = false;
+  QString CodiciClasse = {};  // classification of the current document
+  TabelleDiCodici codici{stato.DbArchivio};
+  LegamiDocumento legami{stato.DbArchivio};
+  Ricordati<QString> nomi = {};  // of people, as the print has them
+  CoppieClasse coppieClasse{stato.DbArchivio, codici};
+  CoppieDecodificate coppie = {};
+  Descrizioni1999 descrizioni1999{stato.DbArchivio};
+  LettoreFascicoli fascicoli = {};
+};
+
+}  // namespace torvi
