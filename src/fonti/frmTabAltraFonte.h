@@ -21,7 +21,7 @@ class frmTabAltraFonte : public QDialog {
   Q_OBJECT
 
  public:
-  // An archive without treaties' table: error 3011 or 3078.
+  // An archive without the table of treaties: error 3078.
   frmTabAltraFonte(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre = nullptr);
   ~frmTabAltraFonte() override;
 

@@ -34,6 +34,10 @@ void MantieniPosto(QWidget& controllo) {
   return scelte.isEmpty() ? std::nullopt : std::optional<QString>(scelte.first()->text());
 }
 
+[[nodiscard]] QString Testata(int indice) {
+  return QString::fromUtf16(SchedeAltra()[static_cast<std::size_t>(indice)]);
+}
+
 // Whether an event goes over the items of a closed combo.
 [[nodiscard]] bool Sorvola(const QEvent& evento) {
   if (evento.type() == QEvent::Wheel) return true;
@@ -70,8 +74,7 @@ frmTabAltraFonte_pagina::~frmTabAltraFonte_pagina() = default;
 void frmTabAltraFonte_pagina::PreparaListe() {
   const Database& archivio = stato_.DbArchivio;
   ui_->ComboFonte->addItems(ComboFonteAltra(indice_));
-  comboFonte_ = new ComboDiCodici(
-      *ui_->ComboFonte, QString::fromUtf16(SchedeAltra()[static_cast<std::size_t>(indice_)]));
+  comboFonte_ = new ComboDiCodici(*ui_->ComboFonte, Testata(indice_));
   ui_->ComboRegione->addItems(Regioni());
   comboRegione_ = new ComboDiCodici(*ui_->ComboRegione, kRegione);
   ui_->estremi->Prepara(RipartizioniAltroDiritto(), RipartizioniAltroDiritto());
@@ -80,6 +83,8 @@ void frmTabAltraFonte_pagina::PreparaListe() {
 }
 
 void frmTabAltraFonte_pagina::Collega() {
+  CollegaComandi();
+  CollegaCampi();
   CollegaCampoALista(*ui_->txtInfo1, *ui_->lstElenco1);
   CollegaCampoALista(*ui_->txtInfo2, *ui_->lstElenco2);
   for (QListWidget* lista : {ui_->lstFonte, ui_->lstElenco1, ui_->lstElenco2}) {
@@ -93,7 +98,9 @@ void frmTabAltraFonte_pagina::Collega() {
   connect(ui_->ComboFonte, &QComboBox::currentIndexChanged, this,
           &frmTabAltraFonte_pagina::SegnalaScelta);
   connect(ui_->lstFonte, &QListWidget::itemClicked, this, &frmTabAltraFonte_pagina::lstFonte_Click);
+}
 
+void frmTabAltraFonte_pagina::CollegaComandi() {
   for (const auto& [pulsante, gestore] : std::initializer_list<std::pair<QPushButton*, Gestore>>{
            {ui_->cmdListaStati, &frmTabAltraFonte_pagina::cmdListaStati_Click},
            {ui_->cmdSalva, &frmTabAltraFonte_pagina::cmdSalva_Click},
@@ -104,7 +111,10 @@ void frmTabAltraFonte_pagina::Collega() {
     connect(pulsante, &QPushButton::clicked, this,
             [this, gestore] { Esegui(dialoghi_, [this, gestore] { (this->*gestore)(); }); });
   }
+}
 
+// All that the citation is composed of.
+void frmTabAltraFonte_pagina::CollegaCampi() {
   for (QLineEdit* campo : {ui_->txtInfo1, ui_->txtInfo2, ui_->txtLibero, ui_->txtStato}) {
     connect(campo, &QLineEdit::textChanged, this, &frmTabAltraFonte_pagina::Cambiato);
   }
@@ -143,7 +153,7 @@ void frmTabAltraFonte_pagina::MettiTrattato(const QString& linea) {
 }
 
 void frmTabAltraFonte_pagina::PulisciTab() {
-  comboFonte_->Mostra(QString::fromUtf16(SchedeAltra()[static_cast<std::size_t>(indice_)]));
+  comboFonte_->Mostra(Testata(indice_));
   ui_->estremi->Pulisci();
   for (QCheckBox* scelta : {ui_->chkOrd, ui_->chkDecr}) scelta->setChecked(false);
   for (QLineEdit* campo : {ui_->txtInfo1, ui_->txtInfo2, ui_->txtLibero}) campo->clear();

@@ -41,6 +41,8 @@ class frmTabAltraFonte_pagina : public QWidget {
  private:
   using Gestore = void (frmTabAltraFonte_pagina::*)();
   void Collega();
+  void CollegaComandi();
+  void CollegaCampi();
   void PreparaListe();
 
   void ComboFonte_Click();
