@@ -99,18 +99,25 @@ QStringList LegamiSospesi(Connessione& motore, const Legame& legame) {
                    QLatin1String(legame.destinazione), primi.join(QLatin1String(", ")))};
 }
 
-}  // namespace
-
-void RichiediArchivio(const Database& database) {
+void Richiedi(const Database& database, const std::vector<Tabella>& schema, const QString& cosa) {
   const QStringList presenti = database.Tabelle();
-  for (const Tabella& attesa : SchemaArchivio()) {
+  for (const Tabella& attesa : schema) {
     if (Contiene(presenti, attesa.nome)) continue;
     throw ErroreEsecuzione::ConDescrizione(
         Errore::OggettoNonTrovato,
-        QStringLiteral(
-            "Il file %1 non è un archivio: manca la tabella %2. Scegliere un altro file.")
-            .arg(database.Name(), attesa.nome));
+        QStringLiteral("Il file %1 non è %2: manca la tabella %3. Scegliere un altro file.")
+            .arg(database.Name(), cosa, attesa.nome));
   }
+}
+
+}  // namespace
+
+void RichiediArchivio(const Database& database) {
+  Richiedi(database, SchemaArchivio(), QStringLiteral("un archivio"));
+}
+
+void RichiediCatalogo(const Database& database) {
+  Richiedi(database, SchemaCatalogo(), QStringLiteral("un catalogo di norme"));
 }
 
 QStringList VerificaArchivio(const Database& database) {

@@ -59,6 +59,10 @@ QString DialoghiConsole::ScegliDaLista(const QStringList& /*voci*/) {
   throw Rifiuto{QStringLiteral("Lista")};
 }
 
+bool DialoghiConsole::ChiediLogin(const QString& /*passwordRiservata*/) {
+  throw Rifiuto{QStringLiteral("Login")};
+}
+
 void DialoghiConsole::Attesa(bool attiva) {
   if (!attiva) TogliAvanzamento();
 }

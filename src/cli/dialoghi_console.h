@@ -39,6 +39,7 @@ class DialoghiConsole : public Dialoghi {
   void MostraErrori(const QString& testo) override;
   [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
   [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
+  [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
   void Attesa(bool attiva) override;
   // One line that writes over itself, only where standard error is a terminal.
   void Avanzamento(const QString& cosa, int fatto, int totale) override;

@@ -31,6 +31,7 @@ class DialoghiMuti : public Dialoghi {
   void MostraErrori(const QString& /*testo*/) override {}
   [[nodiscard]] QString ChiediTestoEsteso(const QString& /*etichetta*/) override { return {}; }
   [[nodiscard]] QString ScegliDaLista(const QStringList& /*voci*/) override { return {}; }
+  [[nodiscard]] bool ChiediLogin(const QString& /*passwordRiservata*/) override { return false; }
   void Attesa(bool /*attiva*/) override {}
   void Avanzamento(const QString& /*cosa*/, int /*fatto*/, int /*totale*/) override {}
 

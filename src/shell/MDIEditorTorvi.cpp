@@ -3,10 +3,12 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 
+#include "classificazione/caricatori.h"
 #include "document/frmRicerca.h"
 #include "document/frmSceltaDoc.h"
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
+#include "report/controllo_uso.h"
 #include "report/estrazioni.h"
 #include "report/stampa_html.h"
 #include "report/stampa_rtf.h"
@@ -45,6 +47,13 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
   Collega(ui_->mnuStampaCompleta, &MDIEditorTorvi::mnuStampaCompleta_Click);
   Collega(ui_->mnuStampaSoloTesti, &MDIEditorTorvi::mnuStampaSoloTesti_Click);
+  Collega(ui_->mnuCaricaTabLegami, &MDIEditorTorvi::mnuCaricaTabLegami_Click);
+  Collega(ui_->mnuCaricaTabDescrittori, &MDIEditorTorvi::mnuCaricaTabDescrittori_Click);
+  Collega(ui_->mnuCaricaTabDescrittoriAsteriscati,
+          &MDIEditorTorvi::mnuCaricaTabDescrittoriAsteriscati_Click);
+  Collega(ui_->mnuCaricaTabSistematici, &MDIEditorTorvi::mnuCaricaTabSistematici_Click);
+  Collega(ui_->mnuCatalogoNorme, &MDIEditorTorvi::mnuCatalogoNorme_Click);
+  Collega(ui_->mnuUtilitaControllo, &MDIEditorTorvi::mnuUtilitaControllo_Click);
   Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
   Collega(ui_->mnuAggiornamentoEdita, &MDIEditorTorvi::mnuAggiornamentoEdita_Click);
   Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
@@ -183,5 +192,19 @@ void MDIEditorTorvi::mnuFileErroriClasse_Click() {
 void MDIEditorTorvi::mnuFileErroriFonti_Click() {
   VisualizzaErrori(stato_, dialoghi_, kErroriFonti);
 }
+
+void MDIEditorTorvi::mnuCaricaTabLegami_Click() { CaricaTabLegami(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuCaricaTabDescrittori_Click() { CaricaTabDescrittori(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuCaricaTabDescrittoriAsteriscati_Click() {
+  CaricaTabDescrittoriAsteriscati(stato_, dialoghi_);
+}
+
+void MDIEditorTorvi::mnuCaricaTabSistematici_Click() { CaricaTabSistematici(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuCatalogoNorme_Click() { CaricaTabNorme(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuUtilitaControllo_Click() { ControllaUso(stato_, dialoghi_); }
 
 }  // namespace torvi

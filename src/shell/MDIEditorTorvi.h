@@ -54,6 +54,12 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuFileErroriGenerici_Click();
   void mnuFileErroriClasse_Click();
   void mnuFileErroriFonti_Click();
+  void mnuCaricaTabLegami_Click();
+  void mnuCaricaTabDescrittori_Click();
+  void mnuCaricaTabDescrittoriAsteriscati_Click();
+  void mnuCaricaTabSistematici_Click();
+  void mnuCatalogoNorme_Click();
+  void mnuUtilitaControllo_Click();
 
   // The document form; the one that is open where there is one.
   void MostraDocumento();

@@ -15,9 +15,11 @@ namespace torvi {
 
 namespace {
 
-void Converti(const QString& percorso, Dialoghi& dialoghi) {
-  // Any Jet file can be converted; only an archive should be.
-  RichiediArchivio(OpenDatabase(percorso, Accesso::SolaLettura));
+using Requisito = void (*)(const Database&);
+
+void Converti(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) {
+  // Any Jet file can be converted; only one of that kind should be.
+  requisito(OpenDatabase(percorso, Accesso::SolaLettura));
   Clessidra clessidra(dialoghi);
   ConvertiInLoco(percorso, [&dialoghi](const QString& cosa, int fatto, int totale) {
     dialoghi.Avanzamento(cosa, fatto, totale);
@@ -25,6 +27,14 @@ void Converti(const QString& percorso, Dialoghi& dialoghi) {
   clessidra.Togli();
   dialoghi.Messaggio(
       QStringLiteral("Archivio convertito; l'originale è conservato come %1.jet").arg(percorso));
+}
+
+Database Apri(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) {
+  const QString trovato = TrovaPercorso(percorso);
+  if (EFileJet(trovato)) Converti(trovato, requisito, dialoghi);
+  Database database = OpenDatabase(trovato);
+  requisito(database);
+  return database;
 }
 
 // Found wanting before anything is copied over an archive that is there.
@@ -56,11 +66,11 @@ void TogliAltraGrafia(const QString& trovato, const QString& percorso) {
 }  // namespace
 
 Database ApriArchivio(const QString& percorso, Dialoghi& dialoghi) {
-  const QString trovato = TrovaPercorso(percorso);
-  if (EFileJet(trovato)) Converti(trovato, dialoghi);
-  Database archivio = OpenDatabase(trovato);
-  RichiediArchivio(archivio);
-  return archivio;
+  return Apri(percorso, RichiediArchivio, dialoghi);
+}
+
+Database ApriCatalogo(const QString& percorso, Dialoghi& dialoghi) {
+  return Apri(percorso, RichiediCatalogo, dialoghi);
 }
 
 QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
@@ -69,7 +79,7 @@ QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString
   QString destinazione = NomeMaiuscolo(percorso);
   const QString precedente = TrovaPercorso(destinazione);
   RichiediMaster(master, precedente);
-  if (EFileJet(master)) Converti(master, dialoghi);
+  if (EFileJet(master)) Converti(master, RichiediArchivio, dialoghi);
   FileNuovo nuovo(destinazione);
   nuovo.Copia(master);
   try {

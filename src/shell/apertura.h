@@ -13,6 +13,10 @@ namespace torvi {
 // table of an archive: error 3011. Nothing is changed then.
 [[nodiscard]] Database ApriArchivio(const QString& percorso, Dialoghi& dialoghi);
 
+// The same for a norm catalogue that is to be written to. A database that lacks one of its tables:
+// error 3011.
+[[nodiscard]] Database ApriCatalogo(const QString& percorso, Dialoghi& dialoghi);
+
 // A new delivery: a copy of the master archive under the upper-cased name, taking the place of a
 // file of that name, with its row of `TabInfo` from `informazione` ("consegna|inizio|centro|anno").
 // DbArchivio is left closed. A master in Jet form is converted first. The file appears when it is

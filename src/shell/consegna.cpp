@@ -1,31 +1,14 @@
 #include "shell/consegna.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "archive/errore.h"
+#include "shell/marcatori.h"
 #include "shell/valori.h"
 
 namespace torvi {
 namespace {
-
-struct Marcatore {
-  const char16_t* codice;
-  const char* colonna;
-};
-
-constexpr std::array kMarcatori = {
-    Marcatore{u"1", "Storico"},
-    Marcatore{u"2", "CELEX"},
-    Marcatore{u"3", "StampaCompleta"},
-    Marcatore{u"4", "StampaSoloTesto"},
-    Marcatore{u"5", "StampaConsistenze"},
-    Marcatore{u"6", "StampaProspetto"},
-    Marcatore{u"7", "VisualizzaErroriGenerici"},
-    Marcatore{u"8", "VisualizzaErroriClasse"},
-    Marcatore{u"9", "VisualizzaErroriFonti"},
-};
 
 // Halves go to the even number, and what no 16-bit counter can hold must not wrap on the way.
 qint16 NumeroIniziale(const QString& testo) {
@@ -67,7 +50,7 @@ void RegistraUsoFunzione(const StatoGlobale& stato, const QString& codice) {
   Recordset info = ApriInfo(stato);
   info.Edit();
   for (const Marcatore& marcatore : kMarcatori) {
-    if (codice == QStringView(marcatore.codice)) info.Assegna(marcatore.colonna, "1");
+    if (codice == marcatore.codice) info.Assegna(marcatore.colonna, "1");
   }
   info.Update();
 }

@@ -50,6 +50,9 @@ class Dialoghi {
   // The line chosen; empty when the operator cancels.
   [[nodiscard]] virtual QString ScegliDaLista(const QStringList& voci) = 0;
 
+  // The login of the restricted commands. True once the right password was given.
+  [[nodiscard]] virtual bool ChiediLogin(const QString& passwordRiservata) = 0;
+
   // Hourglass or arrow.
   virtual void Attesa(bool attiva) = 0;
   // How far a long run has come; `totale` 0 where it is not known. Ends with Attesa(false).

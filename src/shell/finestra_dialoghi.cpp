@@ -9,6 +9,7 @@
 
 #include "archive/errore.h"
 #include "classificazione/frmLista.h"
+#include "classificazione/frmLogin.h"
 #include "document/frmImmissioneTesto.h"
 #include "export/frmWndErrori.h"
 #include "report/frmSceltaFileOut.h"
@@ -136,6 +137,12 @@ QString DialoghiFinestra::ScegliDaLista(const QStringList& voci) {
   frmLista forma(voci, Padre());
   forma.exec();
   return forma.ValoreLista;
+}
+
+bool DialoghiFinestra::ChiediLogin(const QString& passwordRiservata) {
+  frmLogin forma(*this, passwordRiservata, Padre());
+  forma.exec();
+  return forma.LoginRiservato;
 }
 
 void DialoghiFinestra::Attesa(bool attiva) { attesa_.Imposta(attiva); }

@@ -23,6 +23,7 @@ class DialoghiFinestra : public Dialoghi {
   void MostraErrori(const QString& testo) override;
   [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
   [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
+  [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
   void Attesa(bool attiva) override;
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
 

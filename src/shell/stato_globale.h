@@ -12,7 +12,8 @@ namespace torvi {
 
 struct StatoGlobale {
   Database DbArchivio;           // stays assigned, closed, after an archive is closed
-  QString PathArchivio;          // path returned by the last file dialog
+  QString PathArchivio;          // path returned by the last file dialog, or of the catalogue
+  Database DbCatalogo;           // the norm catalogue, open since its reduced table was loaded
   QString CartellaApplicazione;  // folder of the executable, without a final separator
 
   QString InfoNuovoArchivio;  // the four fields of frmInformazione joined by '|'; empty: cancelled
@@ -45,7 +46,8 @@ struct StatoGlobale {
   QString TestoEsteso;
   QString ValoreLista;
 
-  QString PasswordRiservata;  // what the restricted login compares against, set at start-up
+  QString PasswordRiservata;    // what the restricted login compares against, set at start-up
+  bool LoginRiservato = false;  // result of the last login
 
   bool ModoBatch = false;  // set by the first batch and never reset: exports ask nothing and append
   QString FileBatch;       // the chosen list file, then the common output file

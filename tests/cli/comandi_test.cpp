@@ -135,6 +135,32 @@ TEST_F(Comandi, StampaWritesAPrintAndMarksTheDelivery) {
   EXPECT_FALSE(Uscita("stampaRTF-T-A01.rtf").contains("2001A"));
 }
 
+TEST_F(Comandi, PrintsAndExtractionsNameTheDeliveryAndControlloTellsOfThem) {
+  PreparaEsempio();
+  struct Caso {
+    const char* comando;
+    const char* fine;
+    const char* file;
+    const char* contenuto;
+  };
+  const Caso kCasi[] = {
+      {"stampa hudoc", "Fine stampa HTML_ GEI (consegna A01)\n", "stampaHTML_GEI A01.htm", "<h1>"},
+      {"stampa celex", "Fine stampa HTML (consegna A01)\n", "stampaHTML A01.htm", "CELEX:3"},
+      {"estrai note", "Fine estrazione note ai documenti (consegna A01)\n", "note.A01",
+       "(Record: "},
+      {"estrai nuovi", "Fine estrazione nuovi ai documenti (consegna A01)\n", "nuovi.A01",
+       "Nuovi inserimenti in tabStato\r\n"},
+  };
+  for (const Caso& caso : kCasi) {
+    Riesce(QString::fromLatin1(caso.comando).split(u' ') + QStringList{Archivio()},
+           QString::fromLatin1(caso.fine));
+    EXPECT_TRUE(Uscita(caso.file).contains(caso.contenuto)) << Uscita(caso.file).toStdString();
+  }
+  EXPECT_EQ(Esegui({QStringLiteral("controllo"), Archivio()}).uscita,
+            QStringLiteral("Sono stati utilizzate le seguenti funzioni:\r\n"
+                           "'Stampa HTML per controllo Celex'\r\n"));
+}
+
 TEST_F(Comandi, CercaWritesTheNumbersFound) {
   PreparaEsempio(12);
   const QStringList cerca{QStringLiteral("cerca"), Archivio(), QStringLiteral("--campo"),

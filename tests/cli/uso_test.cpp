@@ -63,8 +63,9 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
 TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
   const QString generale = Torvi({QStringLiteral("--aiuto")}).uscita;
   EXPECT_TRUE(generale.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] COMANDO")));
-  for (const char* comando : {"nuovo", "esporta", "errori", "cerca", "componi", "converti",
-                              "verifica", "master", "catalogo", "esempio"}) {
+  for (const char* comando :
+       {"nuovo", "esporta", "errori", "stampa", "estrai", "controllo", "cerca", "componi",
+        "converti", "verifica", "master", "catalogo", "esempio"}) {
     const QString nome = QString::fromLatin1(comando);
     EXPECT_TRUE(generale.contains(QStringLiteral("  torvi %1 ").arg(nome))) << comando;
     const EsitoProgramma esito = Torvi({nome, QStringLiteral("--aiuto")});

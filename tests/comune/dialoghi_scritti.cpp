@@ -69,6 +69,11 @@ void DialoghiScritti::AttendeLista(const QString& risposta) {
   copione_.push_back({{Genere::Lista, {}, {}, {}, {}}, {}, risposta, false, {}, {}});
 }
 
+void DialoghiScritti::AttendeLogin(bool riuscito) {
+  const Risposta risposta = riuscito ? Risposta::Ok : Risposta::Annulla;
+  copione_.push_back({{Genere::Login, {}, {}, {}, {}}, risposta, {}, false, {}, {}});
+}
+
 QStringList DialoghiScritti::Messaggi() const {
   QStringList testi;
   for (const Parola& parola : parole_) {
@@ -140,6 +145,10 @@ QString DialoghiScritti::ScegliDaLista(const QStringList& voci) {
   const Battuta battuta = Prossima({Genere::Lista, {}, {}, {}, {}});
   EXPECT_EQ(voci, battuta.voci.value_or(voci));
   return battuta.testo;
+}
+
+bool DialoghiScritti::ChiediLogin(const QString& /*passwordRiservata*/) {
+  return Prossima({Genere::Login, {}, {}, {}, {}}).risposta == Risposta::Ok;
 }
 
 void DialoghiScritti::Attesa(bool attiva) { attese_ += attiva ? 1 : -1; }

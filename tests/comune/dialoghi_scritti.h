@@ -25,7 +25,8 @@ struct Parola {
     FileUscita,
     Errori,
     TestoEsteso,
-    Lista
+    Lista,
+    Login
   };
   Genere genere = Genere::Messaggio;
   QString testo;
@@ -56,6 +57,8 @@ class DialoghiScritti : public Dialoghi {
   void AttendeLista(const QStringList& voci, const QString& risposta);
   void AttendeLista(const QString& risposta);
 
+  void AttendeLogin(bool riuscito);
+
   // What was shown or asked so far.
   [[nodiscard]] const QList<Parola>& Parole() const { return parole_; }
   // The texts of the messages alone.
@@ -83,6 +86,7 @@ class DialoghiScritti : public Dialoghi {
   void MostraErrori(const QString& testo) override;
   [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
   [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
+  [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
   void Attesa(bool attiva) override;
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
