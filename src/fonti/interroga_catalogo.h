@@ -13,12 +13,12 @@ namespace torvi {
 
 // What is asked for; a combo on its placeholder and an empty field ask nothing.
 struct DomandaCatalogo {
-  QString ComboCatalogoFonte;
-  QString txtCatalogoGiorno;
+  QString ComboCatalogoFonte = {};
+  QString txtCatalogoGiorno = {};
   QString ComboCatalogoMese = kMese;
-  QString txtCatalogoAnno;
-  QString txtCatalogoNumero;
-  QString txtCatalogoParola;
+  QString txtCatalogoAnno = {};
+  QString txtCatalogoNumero = {};
+  QString txtCatalogoParola = {};
   ModoCampo modo = ModoCampo::Intero;
 };
 

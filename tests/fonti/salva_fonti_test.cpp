@@ -178,6 +178,21 @@ TEST_F(SalvataggioFonti, FindsAgainOnlyWhatHasNoCatalogueOrItsNumber) {
   }
 }
 
+TEST_F(SalvataggioFonti, FindsAgainAnyTextWithQuotes) {
+  using R = RigaFonte;
+  for (auto campo : {&R::Testo, &R::Articolo, &R::Comma, &R::Lettera, &R::Allegato, &R::RipA,
+                     &R::RipC, &R::Numero, &R::NumeroP, &R::Giorno, &R::Anno, &R::Altro}) {
+    RigaFonte riga = Fonte("FSI", "t");
+    riga.*campo = "l'\"a\" [b]?#1";
+    Salva({riga});
+    const qsizetype prima = QuanteFonti();
+    Salva({riga});
+    EXPECT_EQ(QuanteFonti(), prima);
+    static_cast<void>(CaricaFonti(stato, 7));
+    EXPECT_EQ(stato.RigheFonte.at(0).*campo, riga.*campo);
+  }
+}
+
 TEST_F(SalvataggioFonti, RewritesTheLinksOfAStoredDocumentAlone) {
   RigaFonte tolta = Fonte("FSI", "uno");
   tolta.Cancellata = true;
@@ -213,28 +228,28 @@ const std::vector<NomeNuovo>& NomiNuovi() {
        &R::Ministero,
        "TabMinistero",
        "Ministero nuovo: aggiungere?",
-       "Ministero: z",
+       "Ministero: l'\"z\"",
        {"MinisteroNorm", "ministero"},
        "IDMinistero"},
       {"AC",
        &R::Amministrazione,
        "TabAmministrazione",
        "Amministrazione nuova: aggiungere?",
-       "Amministrazione: z",
+       "Amministrazione: l'\"z\"",
        {"AmministrazioneNorm", "amministrazione"},
        "IDAmministrazione"},
       {"LIP",
        &R::Autorita,
        "TabAutorita",
        "Autorità nuova: aggiungere?",
-       "Autorita: z",
+       "Autorita: l'\"z\"",
        {"AutoritaNorm", "autorita"},
        "IDAutorita"},
       {"GEI",
        &R::Sezione,
        "TabSezione",
        "Sezione nuova: aggiungere?",
-       "Sezione: z",
+       "Sezione: l'\"z\"",
        {"sigla", "sezione"},
        "IDSezione"},
       {"GS", &R::Stato, "TabStato", "Stato nuovo: aggiungere?", nullptr, {"stato"}, "IDStato"},
@@ -248,12 +263,12 @@ TEST_F(SalvataggioFonti, AddsANewNameOnceIfTheOperatorSaysYes) {
     dialoghi.AttendeDomanda(nome.domanda, "Attenzione", Pulsanti::SiNo, Risposta::Si);
     if (nome.etichetta != nullptr) dialoghi.AttendeTestoEsteso(nome.etichetta, "Zeta");
     RigaFonte riga = Fonte(nome.tp, "t", "c");
-    riga.*nome.campo = "z";
+    riga.*nome.campo = "l'\"z\"";
     Salva({riga, riga});
     std::vector<const char*> colonne = nome.colonne;
     colonne.push_back("nuovo");
-    EXPECT_TRUE(
-        Righe(nome.tabella, colonne).ends_with(nome.etichetta != nullptr ? ";z|Zeta|1" : ";z|1"));
+    EXPECT_TRUE(Righe(nome.tabella, colonne)
+                    .ends_with(nome.etichetta != nullptr ? ";l'\"z\"|Zeta|1" : ";l'\"z\"|1"));
     EXPECT_TRUE(Righe("tabFonte", {nome.chiave}).ends_with("4"));
   }
 }
@@ -265,7 +280,7 @@ TEST_F(SalvataggioFonti, AsksTwiceAboutARefusedNameAndSavesWithoutIt) {
       dialoghi.AttendeDomanda(nome.domanda, "Attenzione", Pulsanti::SiNo, Risposta::No);
     }
     RigaFonte riga = Fonte(nome.tp, "t", "c");
-    riga.*nome.campo = "z";
+    riga.*nome.campo = "l'\"z\"";
     const std::string prima = Righe(nome.tabella, nome.colonne);
     Salva({riga});
     EXPECT_EQ(Righe(nome.tabella, nome.colonne), prima);
