@@ -51,10 +51,10 @@ constexpr VoceAltra kVoci[] = {
 constexpr const char* kDivise[] = {"FSR", "FSG", "FSB", "FSA"};
 
 QStringList Suddivisioni(const QString& gruppo) {
-  return {QStringLiteral("giuridiche (*") + gruppo + QStringLiteral("G*)"),
-          QStringLiteral("papirologiche (*") + gruppo + QStringLiteral("P*)"),
-          QStringLiteral("epigrafiche (*") + gruppo + QStringLiteral("E*)"),
-          QStringLiteral("letterarie (*") + gruppo + QStringLiteral("L*)")};
+  QStringList voci = {"giuridiche (*%1G*)", "papirologiche (*%1P*)", "epigrafiche (*%1E*)",
+                      "letterarie (*%1L*)"};
+  for (QString& voce : voci) voce = voce.arg(gruppo);
+  return voci;
 }
 
 }  // namespace
