@@ -96,10 +96,15 @@ TEST_F(Elenchi, ListActsOfOtherLawByTheirType) {
 }
 
 TEST_F(Elenchi, TreatiesAreListedAndFoundByTheirName) {
+  Recordset vuota = archivio.OpenRecordset("TabNIT");
+  EXPECT_EQ(ElencaNIT(vuota).join('|'), "");
   AggiungiTrattati(archivio);
   Riga("TabNIT", {{"fonte", "Conv. L'Aja"}});
-  EXPECT_EQ(ElencaNIT(archivio).join('|'),
-            "1) Conv. Alfa 1950|2) Tratt. Beta|3) Acc. Gamma|4) Conv. L'Aja");
+  Recordset tabNIT = archivio.OpenRecordset("TabNIT");
+  for (int volta = 0; volta < 2; ++volta) {
+    EXPECT_EQ(ElencaNIT(tabNIT).join('|'),
+              "1) Conv. Alfa 1950|2) Tratt. Beta|3) Acc. Gamma|4) Conv. L'Aja");
+  }
   for (const auto& [modo, parole, trovati] :
        {std::tuple{ModoCampo::Intero, "tratt. beta", "2) Tratt. Beta"},
         std::tuple{ModoCampo::Intero, "Beta", ""},
