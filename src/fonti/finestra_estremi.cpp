@@ -74,6 +74,12 @@ void FinestraEstremi::Mostra(bool estremi, bool ripartizioni) {
   ui_->FrameRipartizioni->setVisible(ripartizioni);
 }
 
+void FinestraEstremi::SoloRipartizioni() {
+  QSizePolicy misura = ui_->FrameEstremi->sizePolicy();
+  misura.setRetainSizeWhenHidden(false);
+  ui_->FrameEstremi->setSizePolicy(misura);
+}
+
 void FinestraEstremi::Etichette(const QString& articolo, const QString& comma) {
   ui_->LabelArt->setText(articolo);
   ui_->LabelComma->setText(comma);
@@ -98,6 +104,10 @@ void FinestraEstremi::Leggi(ControlliFonte& controlli) const {
   for (const Scelta& scelta : kScelte) {
     controlli.*scelta.valore = ((*ui_).*scelta.campo)->currentText();
   }
+}
+
+void FinestraEstremi::Conferma() {
+  for (ComboDiCodici* combo : combo_) combo->Conferma();
 }
 
 void FinestraEstremi::Pulisci() {

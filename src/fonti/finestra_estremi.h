@@ -25,6 +25,8 @@ class FinestraEstremi : public QWidget {
   void Prepara(const QStringList& articoli, const QStringList& commi);
   // Shows either frame or leaves its place blank, so that what stands around does not jump.
   void Mostra(bool estremi, bool ripartizioni);
+  // For pages that never show the particulars: no place is kept for them.
+  void SoloRipartizioni();
   // What the article and the paragraph are called.
   void Etichette(const QString& articolo, const QString& comma);
   void MettiData(const QString& giorno, const QString& mese, const QString& anno,
@@ -32,6 +34,8 @@ class FinestraEstremi : public QWidget {
   // What is typed in a combo becomes its choice, before a command that reads it.
   void Conferma();
   void Leggi(ControlliFonte& controlli) const;
+  // What is typed in a combo becomes one of its items: for commands that leave the focus there.
+  void Conferma();
   // Texts to empty, combos to their placeholder.
   void Pulisci();
 

@@ -6,6 +6,21 @@
 #include "shell/finestra_fuoco.h"
 
 namespace torvi {
+namespace {
+
+// Where Tab leads from a control.
+QWidget* CampoSeguente(const QWidget& campo) {
+  QWidget* seguente = campo.nextInFocusChain();
+  while (seguente != &campo &&
+         (!seguente->isVisible() || !seguente->isEnabled() || seguente->focusProxy() != nullptr ||
+          (seguente->focusPolicy() & Qt::TabFocus) == 0)) {
+    seguente = seguente->nextInFocusChain();
+  }
+  return seguente;
+}
+
+}  // namespace
+
 ComboDiCodici::ComboDiCodici(QComboBox& combo, QString segnaposto)
     : QObject(&combo), combo_(combo), segnaposto_(std::move(segnaposto)) {
   QCompleter* completamento = combo.completer();
@@ -46,7 +61,12 @@ bool ComboDiCodici::eventFilter(QObject* oggetto, QEvent* evento) {
     if (entra) {
       SelezionaTutto(*combo_.lineEdit(), motivo);
     } else {
+      const int voce = combo_.currentIndex();
       Conferma();
+      // The choice may have brought up the field that comes next.
+      if (motivo == Qt::TabFocusReason && voce != combo_.currentIndex()) {
+        CampoSeguente(combo_)->setFocus(motivo);
+      }
     }
   }
   return QObject::eventFilter(oggetto, evento);

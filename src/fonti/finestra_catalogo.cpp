@@ -1,0 +1,131 @@
+#include "fonti/finestra_catalogo.h"
+
+#include <QKeyEvent>
+#include <array>
+
+#include "archive/errore.h"
+#include "fonti/controlli_fonte.h"
+#include "fonti/elenchi_fonte.h"
+#include "shell/finestra_combo.h"
+#include "shell/guardia.h"
+#include "ui_finestra_catalogo.h"
+
+namespace torvi {
+namespace {
+
+// The items of ComboParte.
+constexpr std::array kParti = {ModoCampo::Tutte, ModoCampo::AlmenoUna, ModoCampo::Sequenza};
+
+}  // namespace
+
+FinestraCatalogo::FinestraCatalogo(Dialoghi& dialoghi, QWidget* padre)
+    : QWidget(padre), ui_(std::make_unique<Ui::FinestraCatalogo>()), dialoghi_(dialoghi) {
+  ui_->setupUi(this);
+  ui_->ComboCatalogoFonte->addItems(VociCatalogo());
+  ui_->ComboCatalogoFonte->lineEdit()->setPlaceholderText(SegnapostoProvvedimento());
+  ui_->ComboCatalogoMese->addItem(kMese);
+  ui_->ComboCatalogoMese->addItems(NomiMesi());
+  mese_ = new ComboDiCodici(*ui_->ComboCatalogoMese, kMese);
+  setFocusProxy(ui_->ComboCatalogoFonte);
+  connect(ui_->optParte, &QRadioButton::toggled, this, &FinestraCatalogo::optParte_Click);
+  connect(ui_->cmdCercaCatalogo, &QPushButton::clicked, this,
+          &FinestraCatalogo::cmdCercaCatalogo_Click);
+  connect(ui_->lstRisultato, &QListWidget::itemSelectionChanged, this,
+          &FinestraCatalogo::lstRisultato_Click);
+  connect(ui_->lstRisultato, &QListWidget::itemDoubleClicked, this,
+          &FinestraCatalogo::lstRisultato_DblClick);
+  connect(ui_->cmdAbbandonaCatalogo, &QPushButton::clicked, this,
+          &FinestraCatalogo::cmdAbbandonaCatalogo_Click);
+}
+
+FinestraCatalogo::~FinestraCatalogo() = default;
+
+void FinestraCatalogo::Apri(const QString& cartellaApplicazione) {
+  ui_->lstRisultato->clear();
+  ui_->txtRisultato->clear();
+  ui_->ComboCatalogoFonte->setCurrentIndex(-1);
+  ui_->ComboCatalogoFonte->clearEditText();
+  for (QLineEdit* campo : {ui_->txtCatalogoGiorno, ui_->txtCatalogoAnno, ui_->txtCatalogoNumero}) {
+    campo->clear();
+  }
+  try {
+    catalogo_.Apri(cartellaApplicazione);
+  } catch (const ErroreEsecuzione&) {
+    catalogo_.Chiudi();
+  }
+}
+
+DomandaCatalogo FinestraCatalogo::Domanda() const {
+  return {.ComboCatalogoFonte = ui_->ComboCatalogoFonte->currentText(),
+          .txtCatalogoGiorno = ui_->txtCatalogoGiorno->text(),
+          .ComboCatalogoMese = ui_->ComboCatalogoMese->currentText(),
+          .txtCatalogoAnno = ui_->txtCatalogoAnno->text(),
+          .txtCatalogoNumero = ui_->txtCatalogoNumero->text(),
+          .txtCatalogoParola = ui_->txtCatalogoParola->text(),
+          .modo = ui_->optIntero->isChecked()
+                      ? ModoCampo::Intero
+                      : kParti.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()))};
+}
+
+void FinestraCatalogo::optParte_Click(bool scelta) {
+  if (scelta) ui_->ComboParte->setCurrentIndex(0);
+  ui_->ComboParte->setEnabled(scelta);
+}
+
+void FinestraCatalogo::cmdCercaCatalogo_Click() {
+  mese_->Conferma();
+  Esegui(dialoghi_, [this] {
+    const QString istruzione = IstruzioneCatalogo(Domanda());
+    if (istruzione.isEmpty()) return;
+    const QStringList linee = catalogo_.Cerca(istruzione);
+    if (linee.isEmpty()) {
+      dialoghi_.Messaggio(QStringLiteral(
+          "Non ci sono provvedimenti che soddisfano la ricerca - cambiare e riprovare"));
+      return;
+    }
+    ui_->lstRisultato->clear();
+    ui_->lstRisultato->addItems(linee);
+    ui_->lstRisultato->setFocus();
+  });
+}
+
+QString FinestraCatalogo::LineaScelta() const {
+  const auto scelti = ui_->lstRisultato->selectedItems();
+  return scelti.isEmpty() ? QString() : scelti.first()->text();
+}
+
+void FinestraCatalogo::lstRisultato_Click() {
+  const QString linea = LineaScelta();
+  if (linea.isEmpty()) return;
+  Esegui(dialoghi_, [&] { ui_->txtRisultato->setPlainText(catalogo_.Descrivi(linea)); });
+}
+
+void FinestraCatalogo::lstRisultato_DblClick() {
+  const QString linea = LineaScelta();
+  if (linea.isEmpty()) return;
+  Esegui(dialoghi_, [&] {
+    const AttoTrovato atto = catalogo_.Trasferisci(linea);
+    catalogo_.Chiudi();
+    Q_EMIT Trasferito(atto);
+  });
+}
+
+void FinestraCatalogo::cmdAbbandonaCatalogo_Click() {
+  catalogo_.Chiudi();
+  Q_EMIT Chiuso();
+}
+
+void FinestraCatalogo::keyPressEvent(QKeyEvent* evento) {
+  const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+  if (evento->key() == Qt::Key_Escape) {
+    cmdAbbandonaCatalogo_Click();
+  } else if (invio && ui_->lstRisultato->hasFocus()) {
+    lstRisultato_DblClick();
+  } else if (invio && ui_->txtCatalogoParola->hasFocus()) {
+    ui_->cmdCercaCatalogo->click();
+  } else {
+    QWidget::keyPressEvent(evento);
+  }
+}
+
+}  // namespace torvi
