@@ -6,6 +6,7 @@
 #include "archive/errore.h"
 #include "fonti/controlli_fonte.h"
 #include "fonti/elenchi_fonte.h"
+#include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
 #include "shell/guardia.h"
 #include "ui_finestra_catalogo.h"
@@ -26,6 +27,7 @@ FinestraCatalogo::FinestraCatalogo(Dialoghi& dialoghi, QWidget* padre)
   ui_->ComboCatalogoMese->addItem(kMese);
   ui_->ComboCatalogoMese->addItems(NomiMesi());
   mese_ = new ComboDiCodici(*ui_->ComboCatalogoMese, kMese);
+  SceglieDallaPrima(*ui_->lstRisultato);
   setFocusProxy(ui_->ComboCatalogoFonte);
   connect(ui_->optParte, &QRadioButton::toggled, this, &FinestraCatalogo::optParte_Click);
   connect(ui_->cmdCercaCatalogo, &QPushButton::clicked, this,

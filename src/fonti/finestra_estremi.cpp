@@ -80,6 +80,8 @@ void FinestraEstremi::SoloRipartizioni() {
   ui_->FrameEstremi->setSizePolicy(misura);
 }
 
+void FinestraEstremi::EntraRipartizioni() { ui_->txtArt->setFocus(); }
+
 void FinestraEstremi::Etichette(const QString& articolo, const QString& comma) {
   ui_->LabelArt->setText(articolo);
   ui_->LabelComma->setText(comma);

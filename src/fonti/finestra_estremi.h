@@ -27,6 +27,8 @@ class FinestraEstremi : public QWidget {
   void Mostra(bool estremi, bool ripartizioni);
   // For pages that never show the particulars: no place is kept for them.
   void SoloRipartizioni();
+  // The focus to the article.
+  void EntraRipartizioni();
   // What the article and the paragraph are called.
   void Etichette(const QString& articolo, const QString& comma);
   void MettiData(const QString& giorno, const QString& mese, const QString& anno,

@@ -1,6 +1,5 @@
 #include "fonti/finestra_pagina_interna.h"
 
-#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include "fonti/elenchi_fonte.h"
@@ -70,7 +69,8 @@ FinestraPaginaInterna::FinestraPaginaInterna(const StatoGlobale& stato, Dialoghi
   PreparaListe();
   CollegaCambiamenti();
   CollegaComandi();
-  ui_->lstFonte->installEventFilter(this);
+  for (QListWidget* lista : {ui_->lstFonte, ui_->lstElenco1, ui_->lstElenco2})
+    SceglieDallaPrima(*lista);
   Mostra({});
 }
 
@@ -221,20 +221,10 @@ void FinestraPaginaInterna::MettiAtto(const AttoTrovato& atto) {
     fonte_->Mostra(atto.ComboFonte);
   }
   ComboFonte_Click();
+  ui_->estremi->EntraRipartizioni();
   if (!atto.lstFonte) return;
   const auto atti = ui_->lstFonte->findItems(*atto.lstFonte, Qt::MatchExactly);
   if (!atti.isEmpty()) ui_->lstFonte->setCurrentItem(atti.first());
-}
-
-// Down on a list without a choice chooses its first line instead of passing it by.
-bool FinestraPaginaInterna::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Down &&
-      ui_->lstFonte->selectedItems().isEmpty() && ui_->lstFonte->count() > 0) {
-    ui_->lstFonte->setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
-    return true;
-  }
-  return QWidget::eventFilter(oggetto, evento);
 }
 
 }  // namespace torvi

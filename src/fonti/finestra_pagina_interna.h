@@ -39,9 +39,8 @@ class FinestraPaginaInterna : public QWidget {
   void Pulisci();
   // To the kind of act, for the next source.
   void Entra();
-  // An act found in the catalogue.
+  // An act found in the catalogue; the operator goes on with its divisions.
   void MettiAtto(const AttoTrovato& atto);
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  Q_SIGNALS:
   void Cambiato();
