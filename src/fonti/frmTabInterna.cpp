@@ -3,8 +3,8 @@
 #include <QTabBar>
 
 #include "fonti/anteprima.h"
-#include "fonti/finestra_catalogo.h"
-#include "fonti/finestra_pagina_interna.h"
+#include "fonti/frmTabInterna_catalogo.h"
+#include "fonti/frmTabInterna_pagina.h"
 #include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
@@ -29,7 +29,7 @@ frmTabInterna::frmTabInterna(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* p
 frmTabInterna::~frmTabInterna() = default;
 
 void frmTabInterna::PreparaSchede() {
-  using Pagina = FinestraPaginaInterna;
+  using Pagina = frmTabInterna_pagina;
   const std::pair<void (Pagina::*)(), Gestore> comandi[] = {
       {&Pagina::Salva, &frmTabInterna::cmdSalva_Click},
       {&Pagina::SalvaEPulisci, &frmTabInterna::cmdClear_Click},
@@ -37,7 +37,7 @@ void frmTabInterna::PreparaSchede() {
       {&Pagina::ConsultaCatalogo, &frmTabInterna::cmdCatalogoFonti_Click}};
   for (const SchedaInterna& scheda : SchedeInterna()) {
     auto* pagina =
-        new FinestraPaginaInterna(stato_, dialoghi_, static_cast<int>(pagine_.size()), this);
+        new frmTabInterna_pagina(stato_, dialoghi_, static_cast<int>(pagine_.size()), this);
     pagine_.push_back(pagina);
     ui_->SSTabInterna->addTab(pagina, QString::fromUtf16(scheda.titolo));
     connect(pagina, &Pagina::Cambiato, this, &frmTabInterna::MostraAnteprima);
@@ -50,13 +50,13 @@ void frmTabInterna::PreparaSchede() {
 }
 
 void frmTabInterna::PreparaCatalogo() {
-  catalogo_ = new FinestraCatalogo(dialoghi_, this);
+  catalogo_ = new frmTabInterna_catalogo(dialoghi_, this);
   ui_->fogli->addWidget(catalogo_);
-  connect(catalogo_, &FinestraCatalogo::Trasferito, this, &frmTabInterna::Trasferisci);
-  connect(catalogo_, &FinestraCatalogo::Chiuso, this, &frmTabInterna::ChiudiCatalogo);
+  connect(catalogo_, &frmTabInterna_catalogo::Trasferito, this, &frmTabInterna::Trasferisci);
+  connect(catalogo_, &frmTabInterna_catalogo::Chiuso, this, &frmTabInterna::ChiudiCatalogo);
 }
 
-FinestraPaginaInterna& frmTabInterna::Pagina() const {
+frmTabInterna_pagina& frmTabInterna::Pagina() const {
   return *pagine_.at(static_cast<std::size_t>(ui_->SSTabInterna->currentIndex()));
 }
 

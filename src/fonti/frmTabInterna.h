@@ -14,8 +14,8 @@ namespace torvi {
 namespace Ui {
 class frmTabInterna;
 }
-class FinestraCatalogo;
-class FinestraPaginaInterna;
+class frmTabInterna_catalogo;
+class frmTabInterna_pagina;
 
 class frmTabInterna : public QDialog {
   Q_OBJECT
@@ -42,13 +42,13 @@ class frmTabInterna : public QDialog {
   EsitoFonte SalvaFonte();
   void MostraAnteprima();
   // The page that is shown.
-  [[nodiscard]] FinestraPaginaInterna& Pagina() const;
+  [[nodiscard]] frmTabInterna_pagina& Pagina() const;
 
   std::unique_ptr<Ui::frmTabInterna> ui_;
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
-  std::vector<FinestraPaginaInterna*> pagine_;
-  FinestraCatalogo* catalogo_ = nullptr;
+  std::vector<frmTabInterna_pagina*> pagine_;
+  frmTabInterna_catalogo* catalogo_ = nullptr;
 };
 
 }  // namespace torvi

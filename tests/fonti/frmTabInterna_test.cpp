@@ -32,30 +32,16 @@ class FormaTabInterna : public testing::Test {
       Aggiungi(stato.DbArchivio, QLatin1String(tabella), {valori...});
     };
     using Valore = std::pair<const char*, Campo>;
-    for (const auto& [nome, liv1, liv2] : {std::tuple{"Cost.", "0", ""},
-                                           {"c.c.", "1", ""},
-                                           {"Norme bancarie uniformi", "1", ""},
-                                           {"l.", "2", "1"},
-                                           {"d.lg.", "2", "1"},
-                                           {"l.p.", "2", "2"},
-                                           {"l.r.", "2", "3"},
-                                           {"d.m.", "2", "6"},
-                                           {"dir. p.c.m.", "2", "6"},
-                                           {"d.p.c.m.", "2", "6"},
-                                           {"circ.", "2", "7"},
-                                           {"reg. r.", "2", "8"},
-                                           {"provv.", "2", "9"},
-                                           {"c.c.n.l.", "2", "a"},
-                                           {"Trib.", "3", "3"},
-                                           {"App.", "3", "3"},
-                                           {"Comm. trib.", "3", "4"},
-                                           {"C. Stato", "3", "6"},
-                                           {"Trib. Acque", "3", "7"},
-                                           {"Comm. brevetti", "3", "8"},
-                                           {"Coll. arb.", "3", "9"},
-                                           {"ABF", "3", "a"}}) {
-      riga("TabFonteInterna", Valore("FonteNorm", nome), Valore("liv1", liv1),
-           Valore("liv2", liv2));
+    // Both levels, and the name.
+    for (const QString& atto :
+         QString(
+             "0  Cost.|1  c.c.|1  Norme bancarie uniformi|21 l.|21 d.lg.|22 l.p.|23 l.r.|26 d.m.|"
+             "26 dir. p.c.m.|26 d.p.c.m.|27 circ.|28 reg. r.|29 provv.|2a c.c.n.l.|33 Trib.|"
+             "33 App.|34 Comm. trib.|36 C. Stato|37 Trib. Acque|38 Comm. brevetti|39 Coll. arb.|"
+             "3a ABF")
+             .split('|')) {
+      riga("TabFonteInterna", Valore("FonteNorm", atto.mid(3)), Valore("liv1", atto.left(1)),
+           Valore("liv2", atto.mid(1, 1).trimmed()));
     }
     for (const char* citta : {"Roma", "Asti", "Rovigo"}) riga("TabCitta", Valore("citta", citta));
     for (const char* sezione : {"s.u.", "I"}) riga("TabSezione", Valore("sigla", sezione));
@@ -128,18 +114,18 @@ class FormaTabInterna : public testing::Test {
     CreaDatabase(percorso, SchemaCatalogo());
     const Database catalogo = OpenDatabase(percorso);
     int anno = 2000;
-    for (const auto& [abbreviazione, data, numero] : {std::tuple{"l.", "01/08/2000", Campo("241")},
-                                                      {"d.lgs.", "02/12/2001", Campo("9")},
-                                                      {"l.cost.", "03/01/2002", Campo("3")},
-                                                      {"dir.p.c.m.", "14/10/2003", Campo()},
-                                                      {"d.p.c.m.", "15/06/2004", Campo("15")},
-                                                      {"reg. ce", "16/07/2005", Campo("6")}}) {
+    for (const QString& atto :
+         QString("01/08 l. 241|02/12 d.lgs. 9|03/01 l.cost. 3|14/10 dir.p.c.m.|"
+                 "15/06 d.p.c.m. 15|16/07 regio_d. 6")
+             .split('|')) {
+      const QStringList dati = atto.split(' ');
+      const Campo numero = dati.size() > 2 ? Campo(dati.last()) : Campo();
       Aggiungi(catalogo, QStringLiteral("tabCatalogo"),
                {{"anno", anno},
                 {"numero", numero},
-                {"abbreviazione", abbreviazione},
-                {"promulgazione", data},
-                {"estremi", QString("%1 %2").arg(abbreviazione).arg(anno)},
+                {"abbreviazione", dati.at(1)},
+                {"promulgazione", QString("%1/%2").arg(dati.first()).arg(anno)},
+                {"estremi", QString("%1 %2").arg(dati.at(1)).arg(anno)},
                 {"titolo", "Norme sull'atto"}});
       ++anno;
     }

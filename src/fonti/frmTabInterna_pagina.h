@@ -17,18 +17,18 @@
 namespace torvi {
 
 namespace Ui {
-class FinestraPaginaInterna;
+class frmTabInterna_pagina;
 }
 class ComboDiCodici;
 
-class FinestraPaginaInterna : public QWidget {
+class frmTabInterna_pagina : public QWidget {
   Q_OBJECT
 
  public:
   // `scheda` counts the pages from 0. Reads the lists of the archive; throws what that throws.
-  FinestraPaginaInterna(const StatoGlobale& stato, Dialoghi& dialoghi, int scheda,
-                        QWidget* padre = nullptr);
-  ~FinestraPaginaInterna() override;
+  frmTabInterna_pagina(const StatoGlobale& stato, Dialoghi& dialoghi, int scheda,
+                       QWidget* padre = nullptr);
+  ~frmTabInterna_pagina() override;
 
   [[nodiscard]] ControlliFonte Leggi() const;
   // What is typed in a combo becomes one of its items. A command runs it before it reads, since a
@@ -67,7 +67,7 @@ class FinestraPaginaInterna : public QWidget {
   void MostraInfo(int numero, const char16_t* titolo);
   [[nodiscard]] QString Testata() const;
 
-  std::unique_ptr<Ui::FinestraPaginaInterna> ui_;
+  std::unique_ptr<Ui::frmTabInterna_pagina> ui_;
   const StatoGlobale& stato_;
   Dialoghi& dialoghi_;
   const SchedaInterna& scheda_;

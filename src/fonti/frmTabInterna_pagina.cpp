@@ -1,4 +1,4 @@
-#include "fonti/finestra_pagina_interna.h"
+#include "fonti/frmTabInterna_pagina.h"
 
 #include <QSignalBlocker>
 
@@ -6,7 +6,7 @@
 #include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
 #include "shell/guardia.h"
-#include "ui_finestra_pagina_interna.h"
+#include "ui_frmTabInterna_pagina.h"
 
 namespace torvi {
 namespace {
@@ -52,10 +52,10 @@ void Svuota(QLineEdit& campo, QListWidget* lista) {
 
 }  // namespace
 
-FinestraPaginaInterna::FinestraPaginaInterna(const StatoGlobale& stato, Dialoghi& dialoghi,
-                                             int scheda, QWidget* padre)
+frmTabInterna_pagina::frmTabInterna_pagina(const StatoGlobale& stato, Dialoghi& dialoghi,
+                                           int scheda, QWidget* padre)
     : QWidget(padre),
-      ui_(std::make_unique<Ui::FinestraPaginaInterna>()),
+      ui_(std::make_unique<Ui::frmTabInterna_pagina>()),
       stato_(stato),
       dialoghi_(dialoghi),
       scheda_(SchedeInterna()[static_cast<std::size_t>(scheda)]) {
@@ -74,11 +74,11 @@ FinestraPaginaInterna::FinestraPaginaInterna(const StatoGlobale& stato, Dialoghi
   Mostra({});
 }
 
-FinestraPaginaInterna::~FinestraPaginaInterna() = default;
+frmTabInterna_pagina::~frmTabInterna_pagina() = default;
 
-QString FinestraPaginaInterna::Testata() const { return QString::fromUtf16(scheda_.titolo); }
+QString frmTabInterna_pagina::Testata() const { return QString::fromUtf16(scheda_.titolo); }
 
-void FinestraPaginaInterna::PreparaPosti() {
+void frmTabInterna_pagina::PreparaPosti() {
   // The other pages never list an act nor ask for anything but the divisions.
   if (scheda_.indice != kNormativa && scheda_.indice != kGiurisprudenza) {
     ui_->atti->hide();
@@ -93,7 +93,7 @@ void FinestraPaginaInterna::PreparaPosti() {
   }
 }
 
-void FinestraPaginaInterna::PreparaListe() {
+void frmTabInterna_pagina::PreparaListe() {
   ui_->ComboFonte->addItem(Testata());
   ui_->ComboFonte->addItems(ComboFonteInterna(stato_.DbArchivio, scheda_.indice));
   fonte_ = new ComboDiCodici(*ui_->ComboFonte, Testata());
@@ -107,37 +107,36 @@ void FinestraPaginaInterna::PreparaListe() {
   ui_->lstElenco2->addItems(VociSezione(stato_.DbArchivio));
 }
 
-void FinestraPaginaInterna::CollegaCambiamenti() {
+void frmTabInterna_pagina::CollegaCambiamenti() {
   for (const Info& info : info_) {
     if (info.lista != nullptr) CollegaCampoALista(*info.campo, *info.lista);
-    connect(info.campo, &QLineEdit::textChanged, this, &FinestraPaginaInterna::Cambiato);
+    connect(info.campo, &QLineEdit::textChanged, this, &frmTabInterna_pagina::Cambiato);
   }
   for (const QComboBox* combo : {ui_->ComboFonte, ui_->ComboRegione}) {
-    connect(combo, &QComboBox::currentTextChanged, this, &FinestraPaginaInterna::Cambiato);
+    connect(combo, &QComboBox::currentTextChanged, this, &frmTabInterna_pagina::Cambiato);
   }
   for (const QCheckBox* casella : {ui_->chkOrd, ui_->chkDecr}) {
-    connect(casella, &QCheckBox::toggled, this, &FinestraPaginaInterna::Cambiato);
+    connect(casella, &QCheckBox::toggled, this, &frmTabInterna_pagina::Cambiato);
   }
-  connect(ui_->lstFonte, &QListWidget::itemSelectionChanged, this,
-          &FinestraPaginaInterna::Cambiato);
-  connect(ui_->estremi, &FinestraEstremi::Cambiato, this, &FinestraPaginaInterna::Cambiato);
+  connect(ui_->lstFonte, &QListWidget::itemSelectionChanged, this, &frmTabInterna_pagina::Cambiato);
+  connect(ui_->estremi, &FinestraEstremi::Cambiato, this, &frmTabInterna_pagina::Cambiato);
   connect(ui_->ComboFonte, &QComboBox::currentIndexChanged, this,
-          &FinestraPaginaInterna::ComboFonte_Click);
+          &frmTabInterna_pagina::ComboFonte_Click);
 }
 
-void FinestraPaginaInterna::CollegaComandi() {
-  using Segnale = void (FinestraPaginaInterna::*)();
+void frmTabInterna_pagina::CollegaComandi() {
+  using Segnale = void (frmTabInterna_pagina::*)();
   for (const auto& [pulsante, segnale] :
-       {std::pair<QPushButton*, Segnale>{ui_->cmdSalva, &FinestraPaginaInterna::Salva},
-        {ui_->cmdClear, &FinestraPaginaInterna::SalvaEPulisci},
-        {ui_->cmdEsciSalva, &FinestraPaginaInterna::EsciESalva},
-        {ui_->cmdAbbandona, &FinestraPaginaInterna::Abbandona},
-        {ui_->cmdCatalogoFonti, &FinestraPaginaInterna::ConsultaCatalogo}}) {
+       {std::pair<QPushButton*, Segnale>{ui_->cmdSalva, &frmTabInterna_pagina::Salva},
+        {ui_->cmdClear, &frmTabInterna_pagina::SalvaEPulisci},
+        {ui_->cmdEsciSalva, &frmTabInterna_pagina::EsciESalva},
+        {ui_->cmdAbbandona, &frmTabInterna_pagina::Abbandona},
+        {ui_->cmdCatalogoFonti, &frmTabInterna_pagina::ConsultaCatalogo}}) {
     connect(pulsante, &QPushButton::clicked, this, segnale);
   }
 }
 
-void FinestraPaginaInterna::ComboFonte_Click() {
+void frmTabInterna_pagina::ComboFonte_Click() {
   const QString voce = ui_->ComboFonte->currentText();
   if (voce == Testata()) return;
   const VoceInterna* trovata = TrovaVoceInterna(scheda_.indice, voce);
@@ -145,7 +144,7 @@ void FinestraPaginaInterna::ComboFonte_Click() {
   Q_EMIT Cambiato();
 }
 
-void FinestraPaginaInterna::Mostra(const VoceInterna& voce) {
+void frmTabInterna_pagina::Mostra(const VoceInterna& voce) {
   ui_->estremi->Mostra(voce.estremi, voce.ripartizioni);
   ui_->FrameAltro->setVisible(voce.altro);
   ui_->FrameRegione->setVisible(voce.regione);
@@ -164,7 +163,7 @@ void FinestraPaginaInterna::Mostra(const VoceInterna& voce) {
   ui_->lstElenco1->addItems(VociElenco(stato_.DbArchivio, voce.elenco));
 }
 
-void FinestraPaginaInterna::MostraInfo(int numero, const char16_t* titolo) {
+void frmTabInterna_pagina::MostraInfo(int numero, const char16_t* titolo) {
   const Info& info = info_.at(static_cast<std::size_t>(numero));
   MostraSe(titolo != nullptr, {info.etichetta, info.campo, info.lista});
   if (titolo == nullptr) return;
@@ -172,7 +171,7 @@ void FinestraPaginaInterna::MostraInfo(int numero, const char16_t* titolo) {
   Svuota(*info.campo, info.lista);
 }
 
-ControlliFonte FinestraPaginaInterna::Leggi() const {
+ControlliFonte frmTabInterna_pagina::Leggi() const {
   ControlliFonte controlli;
   controlli.indice = scheda_.indice;
   controlli.ComboFonte = ui_->ComboFonte->currentText();
@@ -188,13 +187,13 @@ ControlliFonte FinestraPaginaInterna::Leggi() const {
   return controlli;
 }
 
-void FinestraPaginaInterna::Conferma() {
+void frmTabInterna_pagina::Conferma() {
   fonte_->Conferma();
   regione_->Conferma();
   ui_->estremi->Conferma();
 }
 
-void FinestraPaginaInterna::Pulisci() {
+void frmTabInterna_pagina::Pulisci() {
   fonte_->Mostra(Testata());
   regione_->Mostra(kRegione);
   ui_->estremi->Pulisci();
@@ -208,12 +207,12 @@ void FinestraPaginaInterna::Pulisci() {
   Q_EMIT Cambiato();
 }
 
-void FinestraPaginaInterna::Entra() {
+void frmTabInterna_pagina::Entra() {
   ui_->ComboFonte->setFocus();
   ui_->ComboFonte->lineEdit()->selectAll();
 }
 
-void FinestraPaginaInterna::MettiAtto(const AttoTrovato& atto) {
+void frmTabInterna_pagina::MettiAtto(const AttoTrovato& atto) {
   ui_->estremi->MettiData(atto.txtGG, atto.ComboMese, atto.txtAA, atto.txtN);
   {
     // The kind counts as chosen anew also where it stood there before.

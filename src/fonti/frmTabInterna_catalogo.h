@@ -10,16 +10,16 @@
 namespace torvi {
 
 namespace Ui {
-class FinestraCatalogo;
+class frmTabInterna_catalogo;
 }
 class ComboDiCodici;
 
-class FinestraCatalogo : public QWidget {
+class frmTabInterna_catalogo : public QWidget {
   Q_OBJECT
 
  public:
-  explicit FinestraCatalogo(Dialoghi& dialoghi, QWidget* padre = nullptr);
-  ~FinestraCatalogo() override;
+  explicit frmTabInterna_catalogo(Dialoghi& dialoghi, QWidget* padre = nullptr);
+  ~frmTabInterna_catalogo() override;
 
   // Forgets the last search but for its month and words, and opens the catalogue. A catalogue that
   // is not there is told only by the search, as error 91.
@@ -41,7 +41,7 @@ class FinestraCatalogo : public QWidget {
   [[nodiscard]] DomandaCatalogo Domanda() const;
   [[nodiscard]] QString LineaScelta() const;
 
-  std::unique_ptr<Ui::FinestraCatalogo> ui_;
+  std::unique_ptr<Ui::frmTabInterna_catalogo> ui_;
   Dialoghi& dialoghi_;
   InterrogazioneCatalogo catalogo_;
   ComboDiCodici* mese_;  // owned by its combo

@@ -1,4 +1,4 @@
-#include "fonti/finestra_catalogo.h"
+#include "fonti/frmTabInterna_catalogo.h"
 
 #include <QKeyEvent>
 #include <array>
@@ -9,7 +9,7 @@
 #include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
 #include "shell/guardia.h"
-#include "ui_finestra_catalogo.h"
+#include "ui_frmTabInterna_catalogo.h"
 
 namespace torvi {
 namespace {
@@ -19,8 +19,8 @@ constexpr std::array kParti = {ModoCampo::Tutte, ModoCampo::AlmenoUna, ModoCampo
 
 }  // namespace
 
-FinestraCatalogo::FinestraCatalogo(Dialoghi& dialoghi, QWidget* padre)
-    : QWidget(padre), ui_(std::make_unique<Ui::FinestraCatalogo>()), dialoghi_(dialoghi) {
+frmTabInterna_catalogo::frmTabInterna_catalogo(Dialoghi& dialoghi, QWidget* padre)
+    : QWidget(padre), ui_(std::make_unique<Ui::frmTabInterna_catalogo>()), dialoghi_(dialoghi) {
   ui_->setupUi(this);
   ui_->ComboCatalogoFonte->addItems(VociCatalogo());
   ui_->ComboCatalogoFonte->lineEdit()->setPlaceholderText(SegnapostoProvvedimento());
@@ -29,20 +29,20 @@ FinestraCatalogo::FinestraCatalogo(Dialoghi& dialoghi, QWidget* padre)
   mese_ = new ComboDiCodici(*ui_->ComboCatalogoMese, kMese);
   SceglieDallaPrima(*ui_->lstRisultato);
   setFocusProxy(ui_->ComboCatalogoFonte);
-  connect(ui_->optParte, &QRadioButton::toggled, this, &FinestraCatalogo::optParte_Click);
+  connect(ui_->optParte, &QRadioButton::toggled, this, &frmTabInterna_catalogo::optParte_Click);
   connect(ui_->cmdCercaCatalogo, &QPushButton::clicked, this,
-          &FinestraCatalogo::cmdCercaCatalogo_Click);
+          &frmTabInterna_catalogo::cmdCercaCatalogo_Click);
   connect(ui_->lstRisultato, &QListWidget::itemSelectionChanged, this,
-          &FinestraCatalogo::lstRisultato_Click);
+          &frmTabInterna_catalogo::lstRisultato_Click);
   connect(ui_->lstRisultato, &QListWidget::itemDoubleClicked, this,
-          &FinestraCatalogo::lstRisultato_DblClick);
+          &frmTabInterna_catalogo::lstRisultato_DblClick);
   connect(ui_->cmdAbbandonaCatalogo, &QPushButton::clicked, this,
-          &FinestraCatalogo::cmdAbbandonaCatalogo_Click);
+          &frmTabInterna_catalogo::cmdAbbandonaCatalogo_Click);
 }
 
-FinestraCatalogo::~FinestraCatalogo() = default;
+frmTabInterna_catalogo::~frmTabInterna_catalogo() = default;
 
-void FinestraCatalogo::Apri(const QString& cartellaApplicazione) {
+void frmTabInterna_catalogo::Apri(const QString& cartellaApplicazione) {
   ui_->lstRisultato->clear();
   ui_->txtRisultato->clear();
   ui_->ComboCatalogoFonte->setCurrentIndex(-1);
@@ -57,7 +57,7 @@ void FinestraCatalogo::Apri(const QString& cartellaApplicazione) {
   }
 }
 
-DomandaCatalogo FinestraCatalogo::Domanda() const {
+DomandaCatalogo frmTabInterna_catalogo::Domanda() const {
   return {.ComboCatalogoFonte = ui_->ComboCatalogoFonte->currentText(),
           .txtCatalogoGiorno = ui_->txtCatalogoGiorno->text(),
           .ComboCatalogoMese = ui_->ComboCatalogoMese->currentText(),
@@ -69,12 +69,12 @@ DomandaCatalogo FinestraCatalogo::Domanda() const {
                       : kParti.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()))};
 }
 
-void FinestraCatalogo::optParte_Click(bool scelta) {
+void frmTabInterna_catalogo::optParte_Click(bool scelta) {
   if (scelta) ui_->ComboParte->setCurrentIndex(0);
   ui_->ComboParte->setEnabled(scelta);
 }
 
-void FinestraCatalogo::cmdCercaCatalogo_Click() {
+void frmTabInterna_catalogo::cmdCercaCatalogo_Click() {
   mese_->Conferma();
   Esegui(dialoghi_, [this] {
     const QString istruzione = IstruzioneCatalogo(Domanda());
@@ -91,18 +91,18 @@ void FinestraCatalogo::cmdCercaCatalogo_Click() {
   });
 }
 
-QString FinestraCatalogo::LineaScelta() const {
+QString frmTabInterna_catalogo::LineaScelta() const {
   const auto scelti = ui_->lstRisultato->selectedItems();
   return scelti.isEmpty() ? QString() : scelti.first()->text();
 }
 
-void FinestraCatalogo::lstRisultato_Click() {
+void frmTabInterna_catalogo::lstRisultato_Click() {
   const QString linea = LineaScelta();
   if (linea.isEmpty()) return;
   Esegui(dialoghi_, [&] { ui_->txtRisultato->setPlainText(catalogo_.Descrivi(linea)); });
 }
 
-void FinestraCatalogo::lstRisultato_DblClick() {
+void frmTabInterna_catalogo::lstRisultato_DblClick() {
   const QString linea = LineaScelta();
   if (linea.isEmpty()) return;
   Esegui(dialoghi_, [&] {
@@ -112,12 +112,12 @@ void FinestraCatalogo::lstRisultato_DblClick() {
   });
 }
 
-void FinestraCatalogo::cmdAbbandonaCatalogo_Click() {
+void frmTabInterna_catalogo::cmdAbbandonaCatalogo_Click() {
   catalogo_.Chiudi();
   Q_EMIT Chiuso();
 }
 
-void FinestraCatalogo::keyPressEvent(QKeyEvent* evento) {
+void frmTabInterna_catalogo::keyPressEvent(QKeyEvent* evento) {
   const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
   if (evento->key() == Qt::Key_Escape) {
     cmdAbbandonaCatalogo_Click();
