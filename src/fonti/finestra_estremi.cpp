@@ -108,10 +108,6 @@ void FinestraEstremi::Leggi(ControlliFonte& controlli) const {
   }
 }
 
-void FinestraEstremi::Conferma() {
-  for (ComboDiCodici* combo : combo_) combo->Conferma();
-}
-
 void FinestraEstremi::Pulisci() {
   for (const Casella& casella : kCaselle) ((*ui_).*casella.campo)->clear();
   for (std::size_t i = 0; i < kScelte.size(); ++i) combo_.at(i)->Mostra(kScelte.at(i).segnaposto);

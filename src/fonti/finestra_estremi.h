@@ -36,8 +36,6 @@ class FinestraEstremi : public QWidget {
   // What is typed in a combo becomes its choice, before a command that reads it.
   void Conferma();
   void Leggi(ControlliFonte& controlli) const;
-  // What is typed in a combo becomes one of its items: for commands that leave the focus there.
-  void Conferma();
   // Texts to empty, combos to their placeholder.
   void Pulisci();
 

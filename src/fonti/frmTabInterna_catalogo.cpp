@@ -6,8 +6,8 @@
 #include "archive/errore.h"
 #include "fonti/controlli_fonte.h"
 #include "fonti/elenchi_fonte.h"
-#include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
+#include "shell/finestra_frecce.h"
 #include "shell/guardia.h"
 #include "ui_frmTabInterna_catalogo.h"
 
@@ -27,7 +27,7 @@ frmTabInterna_catalogo::frmTabInterna_catalogo(Dialoghi& dialoghi, QWidget* padr
   ui_->ComboCatalogoMese->addItem(kMese);
   ui_->ComboCatalogoMese->addItems(NomiMesi());
   mese_ = new ComboDiCodici(*ui_->ComboCatalogoMese, kMese);
-  SceglieDallaPrima(*ui_->lstRisultato);
+  new PrimaFreccia(*ui_->lstRisultato);
   setFocusProxy(ui_->ComboCatalogoFonte);
   connect(ui_->optParte, &QRadioButton::toggled, this, &frmTabInterna_catalogo::optParte_Click);
   connect(ui_->cmdCercaCatalogo, &QPushButton::clicked, this,

@@ -5,6 +5,7 @@
 #include "fonti/elenchi_fonte.h"
 #include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
+#include "shell/finestra_frecce.h"
 #include "shell/guardia.h"
 #include "ui_frmTabInterna_pagina.h"
 
@@ -70,7 +71,7 @@ frmTabInterna_pagina::frmTabInterna_pagina(const StatoGlobale& stato, Dialoghi& 
   CollegaCambiamenti();
   CollegaComandi();
   for (QListWidget* lista : {ui_->lstFonte, ui_->lstElenco1, ui_->lstElenco2})
-    SceglieDallaPrima(*lista);
+    new PrimaFreccia(*lista);
   Mostra({});
 }
 

@@ -14,7 +14,4 @@ void CercaNellaLista(QListWidget& lista, const QString& inizio);
 // it.
 void CollegaCampoALista(QLineEdit& campo, QListWidget& lista);
 
-// Down on a list without a selection selects its first item, which it would pass by otherwise.
-void SceglieDallaPrima(QListWidget& lista);
-
 }  // namespace torvi
