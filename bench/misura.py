@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Measures export and conversion against public tools, in alternating pairs of whole processes.
+"""Measures export, prints and conversion against public tools, in alternating pairs of whole processes.
 
 usage: bench/misura.py [--torvi build/release/bin/torvi] [--coppie 5] [--jet FILE.mdb]
 
@@ -9,6 +9,7 @@ Run by hand on a quiet machine; scripts/pacchetti.sh misure installs what it cal
 import argparse
 import os
 import pathlib
+import shutil
 import statistics
 import subprocess
 import tempfile
@@ -52,6 +53,9 @@ class Cartella:
         self.radice = radice
         for nome in ("mdb", "dump"):
             (radice / nome).mkdir()
+        risorse = pathlib.Path(__file__).resolve().parent.parent / "risorse"
+        for testata in risorse.glob("testata*.rtf"):
+            shutil.copy(testata, radice)
         self.fai("catalogo", radice / "mdb" / "catalogo norme.mdb")
 
     def fai(self, *argomenti):
@@ -82,6 +86,24 @@ def esportazione(cartella, coppie):
     # What a run costs before its first document does not grow with them.
     rapporto = (venti - avvio) / (due - avvio) / 10
     print(f"  per documento 20.000 / 2.000 {rapporto:6.2f}   (tra 0,8 e 1,2)")
+    return grande
+
+
+STAMPE = {"completa": 2, "testi": 2, "prospetto-rtf": 1, "prospetto-html": 1, "consistenza": 1}
+
+
+def stampe(cartella, archivio, coppie):
+    print("Stampe e sqlite3 .dump, 20.000 documenti")
+    prove = {nome: [] for nome in ("dump", *STAMPE)}
+    for _ in range(coppie):
+        prove["dump"].append(
+            Prova(["sqlite3", archivio, ".dump"], cartella.radice / "dump.sql"))
+        for nome in STAMPE:
+            prove[nome].append(cartella.fai("stampa", nome, archivio))
+    dump = stampa("sqlite3 .dump", prove["dump"])
+    for nome, limite in STAMPE.items():
+        secondi = stampa(f"torvi stampa {nome}", prove[nome])
+        print(f"  {nome + ' / .dump':<28} {secondi / dump:6.2f}   (al più {limite})")
 
 
 def conversione(cartella, jet, coppie):
@@ -107,7 +129,8 @@ def main():
     scelte = argomenti.parse_args()
     with tempfile.TemporaryDirectory(dir=scelte.torvi.parent) as temporanea:
         cartella = Cartella(scelte.torvi, pathlib.Path(temporanea))
-        esportazione(cartella, scelte.coppie)
+        grande = esportazione(cartella, scelte.coppie)
+        stampe(cartella, grande, scelte.coppie)
         if scelte.jet.exists():
             conversione(cartella, scelte.jet, scelte.coppie)
 

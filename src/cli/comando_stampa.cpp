@@ -2,6 +2,8 @@
 
 #include "cli/comando.h"
 #include "cli/per_nome.h"
+#include "report/consistenza.h"
+#include "report/prospetto.h"
 #include "report/stampa_html.h"
 #include "report/stampa_rtf.h"
 #include "shell/apertura.h"
@@ -25,7 +27,11 @@ void EseguiRTF(StatoGlobale& stato, Dialoghi& dialoghi) {
 
 constexpr std::array kStampe = {Stampa{"completa", EseguiRTF<true, false>},
                                 Stampa{"testi", EseguiRTF<false, false>, EseguiRTF<false, true>},
-                                Stampa{"celex", StampaHTMLCelex}, Stampa{"hudoc", StampaHTMLHudoc}};
+                                Stampa{"prospetto-rtf", ProspettoRTF},
+                                Stampa{"prospetto-html", ProspettoHTML},
+                                Stampa{"consistenza", StampaConsistenza},
+                                Stampa{"celex", StampaHTMLCelex},
+                                Stampa{"hudoc", StampaHTMLHudoc}};
 
 Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
   const Stampa& stampa = PerNome(kStampe, righe.positionalArguments().constFirst());
@@ -43,17 +49,21 @@ Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
 
 const Comando kStampa = {
     "stampa",
-    "completa|testi|celex|hudoc ARCHIVIO [--filtro]",
+    "completa|testi|prospetto-rtf|prospetto-html|consistenza|celex|hudoc ARCHIVIO [--filtro]",
     "Scrive in dump/ una stampa della consegna. Un archivio in formato Jet viene prima\n"
     "convertito; l'originale resta accanto come ARCHIVIO.jet.\n\n"
-    "  completa  tutti i campi dei documenti, in dump/stampaRTF-C-SIGLA.rtf\n"
-    "  testi     i soli campi testo, in dump/stampaRTF-T-SIGLA.rtf\n"
-    "  celex     fonti comunitarie con il collegamento a CELEX, in dump/stampaHTML SIGLA.htm\n"
-    "  hudoc     sentenze della Corte europea dei diritti dell'uomo con il collegamento a\n"
-    "            HUDOC, in dump/stampaHTML_GEI SIGLA.htm\n\n"
-    "  --filtro  dei testi, solo i documenti con una ] nella traduzione del titolo\n\n"
-    "Le stampe RTF cominciano con un modello della cartella dell'applicazione, \"testata "
-    "new.rtf\".\n",
+    "  completa        tutti i campi dei documenti, in dump/stampaRTF-C-SIGLA.rtf\n"
+    "  testi           i soli campi testo, in dump/stampaRTF-T-SIGLA.rtf\n"
+    "  prospetto-rtf   documenti per rivista, fascicolo e TABS, in dump/prospetto SIGLA.rtf\n"
+    "  prospetto-html  lo stesso con i totali, in dump/prospetto SIGLA.html\n"
+    "  consistenza     documenti per fascicolo, in dump/consistenza.SIGLA\n"
+    "  celex           fonti comunitarie con il collegamento a CELEX, in\n"
+    "                  dump/stampaHTML SIGLA.htm\n"
+    "  hudoc           sentenze della Corte europea dei diritti dell'uomo con il\n"
+    "                  collegamento a HUDOC, in dump/stampaHTML_GEI SIGLA.htm\n\n"
+    "  --filtro        dei testi, solo i documenti con una ] nella traduzione del titolo\n\n"
+    "Le stampe RTF cominciano con un modello della cartella dell'applicazione:\n"
+    "\"testata new.rtf\" o \"testata prospetto.rtf\".\n",
     2,
     kOpzioni,
     Esegui};

@@ -80,10 +80,15 @@ const Tavola& TavolaOem() {
   return tavola;
 }
 
-Tavola TavolaAnsi() {
+Tavola CostruisciAnsi() {
   Tavola tavola;
   tavola.MettiDa(kCp1252);
   for (char16_t c = 0xA0; c <= 0xFF; ++c) tavola.Metti(c, static_cast<char>(c));
+  return tavola;
+}
+
+const Tavola& TavolaAnsi() {
+  static const Tavola tavola = CostruisciAnsi();
   return tavola;
 }
 
@@ -97,9 +102,12 @@ void AccodaOem(std::string& byte, QStringView testo) {
   TavolaOem().Converti(testo, byte.data() + inizio);
 }
 
-QByteArray ConvertiAnsi(QStringView testo) {
-  static const Tavola tavola = TavolaAnsi();
-  return tavola.Converti(testo);
+QByteArray ConvertiAnsi(QStringView testo) { return TavolaAnsi().Converti(testo); }
+
+void AccodaAnsi(QByteArray& byte, QStringView testo) {
+  const qsizetype inizio = byte.size();
+  byte.resize(inizio + testo.size());
+  TavolaAnsi().Converti(testo, byte.data() + inizio);
 }
 
 QString DaAnsi(QByteArrayView byte) {

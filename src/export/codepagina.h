@@ -14,6 +14,8 @@ namespace torvi {
 void AccodaOem(std::string& byte, QStringView testo);
 // Windows-1252, '?' for what it lacks.
 [[nodiscard]] QByteArray ConvertiAnsi(QStringView testo);
+// The same behind what is there.
+void AccodaAnsi(QByteArray& byte, QStringView testo);
 [[nodiscard]] QString DaAnsi(QByteArrayView byte);
 
 }  // namespace torvi

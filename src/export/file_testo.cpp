@@ -69,13 +69,17 @@ FileTesto::~FileTesto() {
 }
 
 void FileTesto::Print(const QString& riga) {
-  QByteArray byte = ConvertiAnsi(riga);
-  byte += "\r\n";
-  ScriviBlocco(byte);
+  AccodaAnsi(pendenti_, riga);
+  pendenti_ += "\r\n";
+  ChiudiBlocco();
 }
 
 void FileTesto::ScriviBlocco(QByteArrayView byte) {
   pendenti_ += byte;
+  ChiudiBlocco();
+}
+
+void FileTesto::ChiudiBlocco() {
   blocchi_.push_back(pendenti_.size());
   if (pendenti_.size() >= kMassimoPendenti) Svuota();
 }

@@ -34,6 +34,7 @@ class FileTesto {
   [[nodiscard]] QString Percorso() const { return file_.fileName(); }
 
  private:
+  void ChiudiBlocco();
   void RiduciAiBlocchiInteri(qsizetype scritti);
   [[nodiscard]] bool Leggi();
 

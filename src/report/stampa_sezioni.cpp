@@ -70,7 +70,8 @@ QString RigaTesto(const TestiDocumento& testi, QLatin1StringView tipo, QLatin1St
   if (trovato == nullptr) return {};
   const auto* voce = std::ranges::find(kEtichette, tag, &Etichetta::tag);
   QString testo = trovato->Testo();
-  testo.replace(QLatin1Char('\\'), "\\\\"_L1);
+  // To look first is faster: few of the long texts have any.
+  if (testo.contains(QLatin1Char('\\'))) testo.replace(QLatin1Char('\\'), "\\\\"_L1);
   return rtf::kParagrafo + voce->etichetta + testo + rtf::kFineParagrafo;
 }
 

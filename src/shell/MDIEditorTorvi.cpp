@@ -8,8 +8,10 @@
 #include "document/frmSceltaDoc.h"
 #include "export/errori_consegna.h"
 #include "export/esporta_ascii.h"
+#include "report/consistenza.h"
 #include "report/controllo_uso.h"
 #include "report/estrazioni.h"
+#include "report/prospetto.h"
 #include "report/stampa_html.h"
 #include "report/stampa_rtf.h"
 #include "shell/archivio_comandi.h"
@@ -54,6 +56,8 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuCaricaTabSistematici, &MDIEditorTorvi::mnuCaricaTabSistematici_Click);
   Collega(ui_->mnuCatalogoNorme, &MDIEditorTorvi::mnuCatalogoNorme_Click);
   Collega(ui_->mnuUtilitaControllo, &MDIEditorTorvi::mnuUtilitaControllo_Click);
+  Collega(ui_->mnuStampaProspetto, &MDIEditorTorvi::mnuStampaProspetto_Click);
+  Collega(ui_->mnuStampaConsistenza, &MDIEditorTorvi::mnuStampaConsistenza_Click);
   Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
   Collega(ui_->mnuAggiornamentoEdita, &MDIEditorTorvi::mnuAggiornamentoEdita_Click);
   Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
@@ -166,6 +170,10 @@ void MDIEditorTorvi::mnuUtilitaHTML_HUDOC_Click() { StampaHTMLHudoc(stato_, dial
 void MDIEditorTorvi::mnuStampaCompleta_Click() { StampaRTF(stato_, dialoghi_, true, false); }
 
 void MDIEditorTorvi::mnuStampaSoloTesti_Click() { ComandoStampaSoloTesti(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuStampaProspetto_Click() { ComandoStampaProspetto(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuStampaConsistenza_Click() { StampaConsistenza(stato_, dialoghi_); }
 
 void MDIEditorTorvi::mnuFormatoASCIIStorico_Click() {
   EsportaAscii(stato_, dialoghi_, kEsportaStorico);

@@ -46,6 +46,8 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuUtilitaHTML_HUDOC_Click();
   void mnuStampaCompleta_Click();
   void mnuStampaSoloTesti_Click();
+  void mnuStampaProspetto_Click();
+  void mnuStampaConsistenza_Click();
   void mnuFormatoASCIIStorico_Click();
   void mnuFormatoASCIIIsis_Click();
   void mnuFormatoASCIICassazione_Click();

@@ -117,8 +117,13 @@ TEST_F(Comandi, StampaWritesAPrintAndMarksTheDelivery) {
     const char* messaggi;
     const char* file;
   };
-  constexpr Caso kCasi[] = {{"completa", "Fine stampa\n", "stampaRTF-C-A01.rtf"},
-                            {"testi", "Fine stampa\n", "stampaRTF-T-A01.rtf"}};
+  constexpr Caso kCasi[] = {
+      {"completa", "Fine stampa\n", "stampaRTF-C-A01.rtf"},
+      {"testi", "Fine stampa\n", "stampaRTF-T-A01.rtf"},
+      {"prospetto-rtf", "Fine stampa prospetto\n", "prospetto A01.rtf"},
+      {"prospetto-html", "Fine stampa prospetto\n", "prospetto A01.html"},
+      {"consistenza", "TotTAbs: 12 --- Num. docc.: 12\nFine stampa consistenza\n",
+       "consistenza.A01"}};
   for (const char* nome : {"testata new.rtf", "testata prospetto.rtf"}) {
     QFile::copy(QStringLiteral(TORVI_RADICE "/risorse/") + QLatin1String(nome),
                 cartella_.Percorso() + QLatin1Char('/') + QLatin1String(nome));
@@ -128,7 +133,7 @@ TEST_F(Comandi, StampaWritesAPrintAndMarksTheDelivery) {
            QString::fromUtf8(caso.messaggi));
     EXPECT_FALSE(Uscita(caso.file).isEmpty()) << caso.file;
   }
-  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 - - 1 1 - - - - -"));
+  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 - - 1 1 1 1 - - -"));
   Riesce(
       {QStringLiteral("stampa"), QStringLiteral("testi"), Archivio(), QStringLiteral("--filtro")},
       QStringLiteral("Fine stampa\n"));

@@ -7,7 +7,6 @@ namespace torvi {
 ConsegnaDaStampare::ConsegnaDaStampare() {
   ScriviByte(cartella.Percorso() + "/Testata New.rtf",
              "{\\rtf1 Consegna xxx,\r\n consegna XXX\r\n");
-  ScriviByte(cartella.Percorso() + "/testata prospetto.rtf", "{\\rtf1\r\n\\a CONSEGNA xxx\r\n");
   Riga("TabRivista", {{"CPER", "AAB"}, {"TitoloRivista", "<A> & \"B\""}, {"IDPeriodicita", 9}});
   Completo();
   Vecchio();

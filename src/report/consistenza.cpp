@@ -1,0 +1,87 @@
+#include "report/consistenza.h"
+
+#include "export/file_testo.h"
+#include "report/testo_citato.h"
+#include "shell/consegna.h"
+#include "shell/percorsi.h"
+#include "shell/valori.h"
+
+namespace torvi {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+qint16 ContaDocumentiFascicolo(const Database& archivio, const Campo& fascicolo,
+                               const QString& data, const Campo& idRivista) {
+  const QChar apostrofo(u'\'');
+  QList<Campo> parametri = {TestoCitato(data, apostrofo), idRivista};
+  if (!fascicolo.Nullo()) parametri.prepend(TestoCitato(fascicolo.Testo(), apostrofo));
+  const Recordset conto = archivio.OpenRecordset(
+      fascicolo.Nullo()
+          ? QStringLiteral("SELECT count(TabDocumento.IDdocumento) as n FROM TabRifBibl INNER JOIN "
+                           "TabDocumento ON TabRifBibl.IDRifBibl = TabDocumento.IDRifBibl WHERE "
+                           "TabRifBibl.Fascicolo is null and TabRifBibl.Data = ? and "
+                           "TabRifBibl.IDRivista = ?")
+          : QStringLiteral("SELECT count(TabDocumento.IDdocumento) as n FROM TabRifBibl INNER JOIN "
+                           "TabDocumento ON TabRifBibl.IDRifBibl = TabDocumento.IDRifBibl WHERE "
+                           "TabRifBibl.Fascicolo = ? and TabRifBibl.Data = ? and "
+                           "TabRifBibl.IDRivista = ?"),
+      parametri);
+  return conto.Fields("n").Intero16();
+}
+
+// Result: the documents of all issues, which may not be all there are.
+qint64 StampaFascicoli(const Database& archivio, Dialoghi& dialoghi, FileTesto& uscita,
+                       qint64 documenti) {
+  qint64 totale = 0;
+  Recordset riga = archivio.OpenRecordset(QStringLiteral(
+      "SELECT DISTINCT TabRifBibl.Fascicolo, TabRifBibl.Data, TabRifBibl.IDRivista, "
+      "TabRivista.CPER, TabRivista.IDPeriodicita FROM TabRivista INNER JOIN (TabRifBibl INNER JOIN "
+      "TabDocumento ON TabRifBibl.IDRifBibl = TabDocumento.IDRifBibl) ON TabRivista.IDRivista = "
+      "TabRifBibl.IDRivista ORDER BY TabRivista.CPER, TabRifBibl.Data, TabRifBibl.Fascicolo"));
+  for (int fatto = 0; !riga.Eof(); riga.MoveNext(), ++fatto) {
+    const Campo fascicolo = riga.Fields("Fascicolo");
+    const QString data = riga.Fields("Data").TestoOVuoto();
+    const qint16 n = ContaDocumentiFascicolo(archivio, fascicolo, data, riga.Fields("IDRivista"));
+    totale += n;
+    uscita.Print(QString::number(n).rightJustified(7) + "###"_L1 + riga.Fields("CPER").Testo() +
+                 QLatin1Char(' ') + data.right(4) + QLatin1Char(' ') +
+                 riga.Fields("IDPeriodicita").Testo() + QLatin1Char(' ') + fascicolo.TestoOVuoto());
+    if (fatto % 100 != 0) continue;
+    dialoghi.Avanzamento(QStringLiteral("Consistenza"), static_cast<int>(totale),
+                         static_cast<int>(documenti));
+  }
+  return totale;
+}
+
+QString Numero(const StatoGlobale& stato, qint64 numero) {
+  return stato.PrefissoDoc + RiempiZeri(QString::number(numero), 4);
+}
+
+}  // namespace
+
+void StampaConsistenza(StatoGlobale& stato, Dialoghi& dialoghi) {
+  Clessidra clessidra(dialoghi);
+  LeggiInfoConsegna(stato);
+  RegistraUsoFunzione(stato, QStringLiteral("5"));
+  const Database& archivio = stato.DbArchivio;
+  const qint64 documenti =
+      archivio.OpenRecordset(QStringLiteral("select count(*) as quanti from TabDocumento"))
+          .Fields("quanti")
+          .Intero();
+  FileTesto uscita(FileUscita(stato.CartellaApplicazione, "consistenza."_L1 + stato.SiglaConsegna),
+                   Apertura::Scrittura);
+  const QString totale = QString::number(StampaFascicoli(archivio, dialoghi, uscita, documenti));
+  const QString quanti = QString::number(documenti);
+  uscita.Print({});
+  uscita.Print("Documenti: "_L1 + totale);
+  uscita.Print({});
+  uscita.Print("Num. iniziale: "_L1 + Numero(stato, stato.ContatoreDoc) + "   Num. finale: "_L1 +
+               Numero(stato, stato.ContatoreDoc + documenti - 1) + "   Num. docc.: "_L1 + quanti);
+  dialoghi.Messaggio("TotTAbs: "_L1 + totale + " --- Num. docc.: "_L1 + quanti);
+  uscita.Close();
+  clessidra.Togli();
+  dialoghi.Messaggio(QStringLiteral("Fine stampa consistenza"));
+}
+
+}  // namespace torvi
