@@ -1,140 +1,230 @@
 #!/usr/bin/env bash
 # Makes the pictures of docs/manuale.md: an operator's session on a virtual screen, by keys alone.
-# usage: scripts/schermate.sh [FOLDER OF THE BUILT PROGRAMS]
+# usage: scripts/schermate.sh [FOLDER OF THE BUILT PROGRAMS [FOLDER OF THE PICTURES]]
+# SCHERMO=2732x1536 SCALA=2 scripts/schermate.sh BIN DIR   shows the forms at double scale.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 scripts/pacchetti.sh schermate
+. scripts/schermo.sh
 programmi=${1:-build/release/bin}
-immagini=$PWD/docs/immagini
+immagini=${2:-$PWD/docs/immagini}
 lavoro=$(mktemp -d /tmp/torvi.XXXX)
 cartella=$lavoro/TorviEditor
-mkdir -p "$lavoro/operatore"
-processi=()
 pulisci() {
-  for processo in "${processi[@]}"; do kill "$processo" 2>/dev/null || true; done
+  spegni
   rm -rf "$lavoro"
 }
 trap pulisci EXIT
 
-mkdir -p "$cartella" "$immagini"
+mkdir -p "$cartella" "$immagini" "$lavoro/operatore"
+export HOME=$lavoro/operatore
 cp "$programmi/TorviEditor" "$programmi/torvi" "$cartella/"
 scripts/prepara.sh "$cartella"
 echo "Questo file non è un archivio." >"$cartella/mdb/appunti.mdb"
+accendi "$lavoro"
 
-mkfifo "$lavoro/schermo"
-Xvfb -displayfd 1 -screen 0 1100x760x24 >"$lavoro/schermo" 2>/dev/null &
-processi+=($!)
-read -r numero <"$lavoro/schermo"
-export DISPLAY=:$numero HOME=$lavoro/operatore LANG=it_IT.UTF-8 QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
-openbox >/dev/null 2>&1 &
-processi+=($!)
-sleep 1
+principale="Editore Torvi"
+aperto="Torvi Editor ($cartella/mdb/A01.MDB)"
+documento="$aperto - [Documento]"
 
-# Waits until a window with that title is there and has the focus.
-finestra() {
-  for _ in $(seq 100); do
-    if [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; then
-      sleep 0.4
-      return
-    fi
-    sleep 0.1
-  done
-  echo "schermate: la finestra \"$1\" non si è aperta" >&2
-  exit 1
+scatta() { immagine "$immagini/$1.png"; }
+
+# ritratto NOME TITOLO TASTI [COPIONE [FINE]]: the keys open that form; its picture is taken after
+# the script was typed in it; the keys of the end, Escape unless told, leave it.
+ritratto() {
+  batti "$3"
+  finestra "$2"
+  [ -z "${4:-}" ] || batti "$4"
+  immagine_finestra "$immagini/$1.png"
+  batti "${5:-{Escape\}}"
 }
-tasti() { xdotool key --delay 150 "$@"; sleep 0.3; }
-scrivi() { xdotool type --delay 40 "$1"; sleep 0.3; }
-immagine() { import -window root png:- | convert - -trim +repage "$immagini/$1.png"; }
+
+consegna_nuova() {
+  finestra "$principale"
+  xdotool getactivewindow windowsize --sync $((900 * SCALA)) $((560 * SCALA))
+  ferma
+  scatta avvio
+  batti '{alt+f}'
+  scatta menu_file
+  batti n
+  finestra "Nuovo archivio"
+  batti 'b01{Return}'
+  finestra "Nuovo archivio"
+  scatta nuovo_conferma
+  batti '{Return}'
+  ritratto informazione "Informazione consegna" '' 'A{Tab}{Down}{Down}{Tab}b01{Tab}1' '{Return}'
+  finestra "$principale"
+}
+
+apertura() {
+  batti '{alt+f}a'
+  finestra "Apri archivio"
+  scatta apri
+  batti 'A01.MDB{Return}'
+  finestra "$aperto"
+}
+
+esportazione() {
+  batti '{alt+e}f'
+  scatta aperto
+  batti i
+  finestra "Esportazione per ISIS"
+  scatta controllo_fonti
+  batti s
+  finestra "Esportazione"
+  scatta accoda
+  batti n
+  finestra "TorviEditor"
+  scatta fine_esportazione
+  batti '{Return}'
+  finestra "$aperto"
+  ritratto errori "Visualizzazione errori" '{alt+e}eg'
+  finestra "$aperto"
+}
+
+accodamento() {
+  batti '{alt+e}fc'
+  finestra "Esportazione per ISIS"
+  batti n
+  finestra "Esportazione"
+  ritratto scelta_file "Scelta file di uscita" s '{Down}{space}' '{alt+a}'
+  finestra "TorviEditor"
+  batti '{Return}'
+  finestra "$aperto"
+  batti '{alt+e}fc'
+  finestra "Esportazione per ISIS"
+  batti n
+  finestra "Esportazione"
+  batti s
+  finestra "Scelta file di uscita"
+  batti '{alt+a}'
+  finestra "TorviEditor"
+  scatta errore_runtime
+  batti '{Return}'
+  finestra "$aperto"
+}
+
+# volte N COPIONE: the script so many times.
+volte() { printf "%.0s$2" $(seq "$1"); }
+
+# scegli N: opens the document at that place of the list.
+scegli() {
+  batti '{alt+a}e'
+  finestra "Scegli documento"
+  batti "$(volte $(($1 - 1)) '{Down}')"
+}
+
+# The document form fills the main window, which fills the screen.
+documento() {
+  batti '{alt+space}x'
+  scegli 5
+  ritratto frmSceltaDoc "Scegli documento" '' '' '{Return}'
+  finestra "$documento"
+  scatta frmDocumento
+  ritratto frmHelpTastiFunzione "Help su tasti funzione" '{F1}'
+  finestra "$documento"
+  ritratto frmResponsabilita "Responsabilità" '{F7}' "D'Amico{Tab}Lucia"
+  finestra "$documento"
+}
+
+classificazione() {
+  batti '{F8}'
+  finestra "Classificazione"
+  batti 'AB001{Tab}00002{Return}00009{Return}'
+  ritratto frmClassificazione "Classificazione" '' '' '{alt+l}'
+  ritratto frmAsteriscati "Lista asteriscati con i sistematici" ''
+  finestra "Classificazione"
+  batti '{Escape}'
+  finestra "$documento"
+}
+
+riassunto() {
+  batti '{F10}'
+  finestra "Testo riassunto"
+  batti "{ctrl+a}Il comento distingue fra nullità ed  annullabilità. Ci si chiede qual'è il termine per agire e perchè la corte non lo dica"
+  ritratto frmRiassunto "Testo riassunto" '' '' '{alt+o}'
+  ritratto frmCorrezione_ortografia "Controllo ortografico: italiano" ''
+  finestra "TorviEditor"
+  batti '{Return}{alt+g}'
+  ritratto frmCorrezione_grammatica "Controllo grammaticale: italiano" ''
+  finestra "TorviEditor"
+  batti '{Return}{Escape}'
+  finestra "$documento"
+}
+
+testi_brevi() {
+  ritratto frmTraduzione "Testo traduzione" "$(volte 11 '{shift+Tab}'){space}"
+  finestra "$documento"
+  ritratto frmNotaAmb "Campo nota" '{Tab}{space}' 'Vedi anche il documento precedente'
+  finestra "$documento"
+  ritratto frmNota "Testo nota al documento" '{Tab}{space}' \
+    'Controllare la classificazione\chiedere la data alla redazione'
+  finestra "$documento"
+  batti "$(volte 9 '{Tab}')"
+}
+
+combo_e_periodico() {
+  batti '{F6}'
+  batti "$(volte 14 '{Tab}')nota"
+  scatta frmDocumento_combo
+  batti '{Escape}'
+  batti "$(volte 13 '{shift+Tab}')"
+  batti 'XXXX{Tab}'
+  finestra "Attenzione!"
+  scatta frmDocumento_periodico
+  batti '{Return}{F3}'
+  finestra "$aperto"
+}
+
+ante_2000() {
+  scegli 21
+  batti '{Return}'
+  finestra "$documento"
+  ritratto frmClassificazione1999 "Classifcazione ante 2000" '{F8}' 'A121{Tab}'
+  finestra "$documento"
+  batti '{F3}'
+  finestra "$aperto"
+}
+
+cancellazione() {
+  batti '{alt+a}c{Return}'
+  finestra "Scegli documento"
+  batti '{Down}{shift+Down}{Tab}{space}'
+  finestra "Attenzione!"
+  scatta frmSceltaDoc_cancella
+  batti n
+  finestra "Scegli documento"
+  batti '{Escape}'
+  finestra "$aperto"
+}
+
+ricerca() {
+  ritratto frmRicerca "Ricerca documento" '{alt+a}r' \
+    "$(volte 8 '{Down}'){Tab}tutela{Tab}{Right}{Tab}{Tab}{space}" '{alt+i}'
+  finestra "$documento"
+  batti '{F3}'
+  finestra "$aperto"
+}
+
+uscita() {
+  batti '{alt+f}c{alt+f}a'
+  finestra "Apri archivio"
+  batti 'appunti.mdb{Return}'
+  finestra "TorviEditor"
+  scatta non_archivio
+  batti '{Return}'
+  finestra "$aperto"
+  batti '{alt+f}e'
+  finestra "TorviEditor"
+  scatta esci
+  batti '{Return}'
+}
 
 "$cartella/TorviEditor" 2>"$lavoro/messaggi" &
 processi+=($!)
-finestra "Editore Torvi"
-xdotool getactivewindow windowsize --sync 900 560
-immagine avvio
-tasti alt+f
-immagine menu_file
-
-tasti n
-finestra "Nuovo archivio"
-scrivi b01
-tasti Return
-finestra "Nuovo archivio"
-immagine nuovo_conferma
-tasti Return
-finestra "Informazione consegna"
-scrivi A
-tasti Tab Down Down Tab
-scrivi b01
-tasti Tab
-scrivi 1
-immagine informazione
-tasti Return
-finestra "Editore Torvi"
-
-tasti alt+f a
-finestra "Apri archivio"
-immagine apri
-scrivi A01.MDB
-tasti Return
-aperto="Torvi Editor ($cartella/mdb/A01.MDB)"
-finestra "$aperto"
-tasti alt+e f
-immagine aperto
-
-tasti i
-finestra "Esportazione per ISIS"
-immagine controllo_fonti
-tasti s
-finestra "Esportazione"
-immagine accoda
-tasti n
-finestra "TorviEditor"
-immagine fine_esportazione
-tasti Return
-finestra "$aperto"
-
-tasti alt+e e g
-finestra "Visualizzazione errori"
-immagine errori
-tasti Escape
-finestra "$aperto"
-
-tasti alt+e f c
-finestra "Esportazione per ISIS"
-tasti n
-finestra "Esportazione"
-tasti s
-finestra "Scelta file di uscita"
-tasti Down space
-immagine scelta_file
-tasti alt+a
-finestra "TorviEditor"
-tasti Return
-finestra "$aperto"
-
-tasti alt+e f c
-finestra "Esportazione per ISIS"
-tasti n
-finestra "Esportazione"
-tasti s
-finestra "Scelta file di uscita"
-tasti alt+a
-finestra "TorviEditor"
-immagine errore_runtime
-tasti Return
-finestra "$aperto"
-
-tasti alt+f c alt+f a
-finestra "Apri archivio"
-scrivi appunti.mdb
-tasti Return
-finestra "TorviEditor"
-immagine non_archivio
-tasti Return
-finestra "$aperto"
-tasti alt+f e
-finestra "TorviEditor"
-immagine esci
-tasti Return
+for passo in consegna_nuova apertura esportazione accodamento documento classificazione riassunto \
+  testi_brevi combo_e_periodico ante_2000 cancellazione ricerca uscita; do
+  "$passo"
+done
 ls "$immagini"

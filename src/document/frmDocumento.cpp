@@ -76,7 +76,7 @@ void frmDocumento::Corri(Gestore gestore) {
   for (ComboDiCodici* combo : combo_) combo->Conferma();
   LeggiCampi();
   Esegui(dialoghi_, [this, gestore] { (this->*gestore)(); });
-  MostraCampi();
+  if (!uscendo_) MostraCampi();
 }
 
 struct frmDocumento::Tasto {

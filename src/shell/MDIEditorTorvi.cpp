@@ -63,6 +63,7 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
   Collega(ui_->mnuAggiornamentoRicerca, &MDIEditorTorvi::mnuAggiornamentoRicerca_Click);
   statoDocumento_->setObjectName(QStringLiteral("statoDocumento"));
+  statoDocumento_->setContentsMargins(0, 0, 8, 0);
   statusBar()->addPermanentWidget(statoDocumento_);
   AdattaAlloSchermo(*this);
   ImpostaFase(FaseMenu::NessunArchivio);

@@ -76,9 +76,12 @@ Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {
 DialoghiFinestra::DialoghiFinestra(QMainWindow& finestra)
     : finestra_(finestra), attesa_(finestra) {}
 
+// The window that is left for a box gets the focus back from it, also one that is not modal.
 QWidget* DialoghiFinestra::Padre() const {
-  QWidget* modale = QApplication::activeModalWidget();
-  return modale != nullptr ? modale : &finestra_;
+  for (QWidget* finestra : {QApplication::activeModalWidget(), QApplication::activeWindow()}) {
+    if (finestra != nullptr && finestra->isVisible()) return finestra;
+  }
+  return &finestra_;
 }
 
 void DialoghiFinestra::Messaggio(const QString& testo, const QString& titolo, Icona icona) {

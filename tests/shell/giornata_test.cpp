@@ -2,6 +2,7 @@
 // exported.
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -144,7 +145,10 @@ void Giornata::CorreggeEDuplica() const {
   Batti("Le città");
   Fa("{F4}", {Riquadro(kSalvato)});
   Fa("{F2}", {Riquadro(kSalvato)});
+  const auto& scritta = Trova<QLabel>(*finestra, "statoDocumento");
+  EXPECT_EQ(scritta.text(), "Documento 4: esistente, non modificato");
   Fa("{F3}");
+  EXPECT_EQ(scritta.text(), "");
 }
 
 // The third document, which leaves its links behind.
@@ -154,8 +158,11 @@ void Giornata::Cancella() const {
   ASSERT_NE(scelta, nullptr);
   scelta->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(scelta));
-  Operatore::Esegue([] { Batti("{Down}{Down}{Tab} "); },
-                    {Riquadro("Attenzione!|Confermi cancellazione?|Sì|No")});
+  const Passo conferma = [scelta](QWidget& domanda) {
+    EXPECT_EQ(domanda.parentWidget(), scelta);  // which gets the focus back
+    Riquadro("Attenzione!|Confermi cancellazione?|Sì|No")(domanda);
+  };
+  Operatore::Esegue([] { Batti("{Down}{Down}{Tab} "); }, {conferma});
   scelta->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(scelta));
   Batti("{Esc}");
