@@ -46,6 +46,8 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
   const std::string_view testo = guasto.what();
   if (testo.find("no such column") != std::string_view::npos) return Errore::ParametriInsufficienti;
   if (testo.find("no such table") != std::string_view::npos) return Errore::TabellaNonTrovata;
+  // The file was moved or deleted while it was open.
+  if (guasto.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) return Errore::DatabaseNonTrovato;
   for (const VoceGuasto& voce : kGuasti) {
     if (voce.codice == (guasto.getErrorCode() & 0xff)) return voce.numero;
   }

@@ -1,5 +1,7 @@
 #include "document/comandi.h"
 
+#include <utility>
+
 #include "document/carica.h"
 #include "document/salva.h"
 #include "document/testi_documento.h"
@@ -9,11 +11,25 @@ namespace {
 
 const QString kAttenzione = QStringLiteral("Attenzione!");
 
-// The number that a new document is expected to get.
-void NumeraComeUltimo(Documento& documento) {
+qint64 UltimoNumero(Documento& documento) {
   documento.Documenti().MoveLast();
-  const qint64 ultimo = documento.Documenti().Fields("IDDocumento").Intero();
-  documento.campi.txtID = QString::number(ultimo + 1);
+  return documento.Documenti().Fields("IDDocumento").Intero();
+}
+
+// Saves under the number that a new document is expected to get. A failure before there is a new
+// row leaves the number as it was: the next save is not to look for a document that never came to
+// be.
+bool SalvaComeUltimo(Documento& documento) {
+  documento.SalvaComeNuovo = true;
+  const qint64 ultimo = UltimoNumero(documento);
+  QString numero = std::exchange(documento.campi.txtID, QString::number(ultimo + 1));
+  try {
+    return SalvaDocumento(documento);
+  } catch (const ErroreEsecuzione&) {
+    documento.campi.txtID.swap(numero);
+    if (UltimoNumero(documento) != ultimo) documento.campi.txtID.swap(numero);
+    throw;
+  }
 }
 
 void AzzeraRighe(StatoGlobale& stato) {
@@ -29,10 +45,10 @@ void OffreSalvataggio(Documento& documento) {
                                  QStringLiteral("Salvataggio"), Pulsanti::SiNoAnnulla);
   if (risposta == Risposta::Annulla) return;
   if (risposta == Risposta::No) {
-    documento.SalvaComeNuovo = true;
-    NumeraComeUltimo(documento);
+    SalvaComeUltimo(documento);
+  } else {
+    SalvaDocumento(documento);
   }
-  SalvaDocumento(documento);
 }
 
 template <typename Riga>
@@ -77,9 +93,7 @@ void ComandoNew(Documento& documento) {
 }
 
 bool ComandoDuplica(Documento& documento) {
-  documento.SalvaComeNuovo = true;
-  NumeraComeUltimo(documento);
-  const bool salvato = SalvaDocumento(documento);
+  const bool salvato = SalvaComeUltimo(documento);
   documento.fuoco = QStringLiteral("txtID");
   return salvato;
 }

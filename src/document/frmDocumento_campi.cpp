@@ -81,6 +81,7 @@ void frmDocumento::CollegaCampi() {
   for (const CampoRiga& campo : kRighe) {
     QLineEdit* controllo = (*ui_).*campo.controllo;
     if (campo.tasti) controllo->installEventFilter(this);
+    TieneInUnaRiga(*controllo);
     connect(controllo, &QLineEdit::textChanged, this, &frmDocumento::AggiornaStato);
     connect(controllo, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
   }

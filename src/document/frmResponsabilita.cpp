@@ -2,6 +2,7 @@
 
 #include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
+#include "shell/finestra_testo.h"
 #include "shell/guardia.h"
 #include "ui_frmResponsabilita.h"
 
@@ -16,6 +17,7 @@ frmResponsabilita::frmResponsabilita(StatoGlobale& stato, Dialoghi& dialoghi,
       indiceResponsabilita_(indiceResponsabilita) {
   ui_->setupUi(this);
   PreparaResponsabilitaNuova();
+  for (QLineEdit* nome : {ui_->txtElementoPr, ui_->txtElementoSec}) TieneInUnaRiga(*nome);
   AdattaAlloSchermo(*this);
   connect(ui_->cmdEsci, &QPushButton::clicked, this,
           [this] { Esegui(dialoghi_, [this] { cmdEsci_Click(); }); });

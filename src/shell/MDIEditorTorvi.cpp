@@ -84,6 +84,8 @@ void MDIEditorTorvi::ImpostaFase(FaseMenu fase) {
     if (auto* menu = findChild<QMenu*>(nome)) menu->setEnabled(abilitato);
     if (auto* voce = findChild<QAction*>(nome)) voce->setEnabled(abilitato);
   }
+  // A document on screen keeps its lock, whatever becomes of the archive meanwhile.
+  if (documento_) AbilitaMenu(false);
 }
 
 void MDIEditorTorvi::closeEvent(QCloseEvent* evento) {
@@ -101,10 +103,7 @@ void MDIEditorTorvi::mnuFileApri_Click() {
 // The caption keeps the name of the closed archive.
 void MDIEditorTorvi::mnuFileChiudi_Click() {
   ComandoChiudi(stato_);
-  // While a document is on screen its lock of this menu stays.
-  const bool utilita = ui_->mnuUtilita->isEnabled();
   ImpostaFase(FaseMenu::NessunArchivio);
-  ui_->mnuUtilita->setEnabled(utilita);
 }
 
 void MDIEditorTorvi::mnuFileNuovo_Click() {

@@ -51,9 +51,13 @@ QString Titolo(const QString& titolo) {
 }
 
 // Some words of the system end their lines in a carriage return, which a box would show as a blank.
+// What an operator typed may stand in an error, however long: its box has to fit the screen.
 QString InLinee(QString testo) {
-  return testo.replace(QLatin1String("\r\n"), QLatin1String("\n"))
-      .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  constexpr int kCaratteri = 1000;
+  constexpr int kLinee = 25;
+  testo.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+  const QString mostrato = testo.left(kCaratteri).section(u'\n', 0, kLinee - 1);
+  return mostrato.size() < testo.size() ? mostrato + QLatin1String("...") : testo;
 }
 
 Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {

@@ -1,5 +1,6 @@
 #include "shell/finestra_testo.h"
 
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QVariant>
 
@@ -23,6 +24,14 @@ QString TestoMostrato(const QPlainTextEdit& controllo) {
   QString testo = documento.toRawText();
   testo.replace(QChar::LineSeparator, QChar::ParagraphSeparator);
   return testo.replace(QString(QChar(QChar::ParagraphSeparator)), QLatin1String("\r\n"));
+}
+
+void TieneInUnaRiga(QLineEdit& campo) {
+  QObject::connect(&campo, &QLineEdit::textEdited, &campo, [&campo](const QString& testo) {
+    static const QRegularExpression fineRiga(QStringLiteral("\\r\\n|[\\r\\n\u2028\u2029]"));
+    if (!testo.contains(fineRiga)) return;
+    campo.setText(QString(testo).replace(fineRiga, QStringLiteral(" ")));
+  });
 }
 
 }  // namespace torvi

@@ -1,6 +1,7 @@
 // Texts of several lines between the archive, where a line ends in CR LF, and the screen.
 #pragma once
 
+#include <QLineEdit>
 #include <QPlainTextEdit>
 
 namespace torvi {
@@ -10,5 +11,8 @@ void MostraTesto(QPlainTextEdit& controllo, const QString& testo);
 // What stands in the control, lines ended by CR LF. A text that nobody changed since MostraTesto
 // comes back as it was given, single CR and LF included.
 [[nodiscard]] QString TestoMostrato(const QPlainTextEdit& controllo);
+// A text of several lines that is pasted into the field becomes one, with blanks: line ends that
+// nobody sees there would tear the record that is exported.
+void TieneInUnaRiga(QLineEdit& campo);
 
 }  // namespace torvi

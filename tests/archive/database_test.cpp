@@ -81,6 +81,13 @@ TEST(DatabaseTest, InSolaLetturaSiLeggeENonSiScrive) {
   EXPECT_EQ(3027, NumeroErrore([&] { const UnitaDiScrittura unita(sola); }));
 }
 
+TEST(DatabaseTest, UnArchivioToltoDiMezzoSiDiceChiaramente) {
+  const CartellaDiProva cartella;
+  const Database mia = cartella.NuovaConsegna();
+  ASSERT_TRUE(QFile::remove(mia.Name()));
+  EXPECT_EQ(3024, NumeroErrore([&] { AggiungiTesto(mia, QStringLiteral("x")); }));
+}
+
 TEST(DatabaseTest, UnUnitaLasciataPerUnErroreTieneIPassiFatti) {
   const CartellaDiProva cartella;
   const Database mia = cartella.NuovaConsegna();

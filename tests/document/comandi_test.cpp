@@ -57,6 +57,29 @@ TEST(Comandi, DuplicateLeavesTheSourceAndTurnsToTheCopy) {
   }
 }
 
+// What fails before there is a copy leaves the document what it was; later, the copy is what stands
+// on screen, to be mended and saved.
+TEST(Comandi, AFailedDuplicateIsNoOtherDocument) {
+  struct Caso {
+    QString CampiDocumento::*campo;
+    const char* txtID;
+  };
+  for (const Caso& caso : {Caso{&CampiDocumento::txtSez, "1"}, {&CampiDocumento::txtAA, "3"}}) {
+    ArchivioDiProva prova;
+    prova.Apri("1");
+    prova.stato.RigheClasse.resize(1);
+    prova.stato.RigheClasse[0].Sistematico = "X'X";
+    prova.documento.campi.*caso.campo = caso.txtID[0] == '1' ? "\"" : "2001";
+    EXPECT_THROW(ComandoDuplica(prova.documento), ErroreEsecuzione);
+    EXPECT_EQ(prova.documento.campi.txtID, caso.txtID);
+    prova.documento.campi.*caso.campo = "2001";
+    prova.stato.RigheClasse.clear();
+    ComandoSalva(prova.documento);
+    EXPECT_EQ(Quanti(prova.stato.DbArchivio, "TabDocumento"), caso.txtID[0] == '1' ? 2 : 3);
+    EXPECT_EQ(Titolo(prova.stato.DbArchivio, QString(caso.txtID).toInt()), "testo 0");
+  }
+}
+
 TEST(Comandi, NewSavesAsTheAnswerTellsAndClearsInAnyCase) {
   struct Caso {
     Risposta risposta;

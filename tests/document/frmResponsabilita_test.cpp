@@ -60,7 +60,7 @@ TEST_F(FormaResponsabilita, ChangesItsRowAndKeepsKeyAndMarks) {
     Clic(forma, "cmdEsci");
   });
   EXPECT_EQ(stato.RigheResponsabilita[1],
-            (RigaResponsabilita{7, lungo, "Mario", true, false, true}));
+            (RigaResponsabilita{7, QString(40000, u'x') + "\tà b", "Mario", true, false, true}));
 }
 
 TEST_F(FormaResponsabilita, LeavesTheRowAlone) {

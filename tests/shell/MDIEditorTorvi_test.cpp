@@ -178,6 +178,9 @@ TEST_F(Finestra, ClosesTheArchiveUnderADocument) {
   Scegli("mnuAggiornamentoNuovo");
   Scegli("mnuFileChiudi");
   EXPECT_EQ(Abilitati(*finestra), "AN------");
+  Scegli("mnuFileApri", {ScriveFile(QStringLiteral("a01"))});
+  EXPECT_EQ(Abilitati(*finestra), "--C-F---");
+  Scegli("mnuFileChiudi");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
   EXPECT_EQ(Abilitati(*finestra), "AN-G-SEU");
   EXPECT_FALSE(stato.DbArchivio.Aperto());

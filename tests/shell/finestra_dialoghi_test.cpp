@@ -65,6 +65,19 @@ TEST_F(FinestraDialoghi, AnswersByButtonLetterAndEscape) {
   }
 }
 
+TEST_F(FinestraDialoghi, ABoxFitsTheScreenWhateverItSays) {
+  for (const QString& testo : {QStringLiteral("parola ").repeated(3000), QString(20000, u'x'),
+                               QStringLiteral("riga\n").repeated(4000)}) {
+    Operatore::Esegue([&] { dialoghi.Messaggio(testo, {}, Icona::Nessuna); },
+                      {[](QWidget& riquadro) {
+                        const QSize schermo = riquadro.screen()->availableSize();
+                        EXPECT_LE(riquadro.height(), schermo.height());
+                        EXPECT_LE(riquadro.width(), schermo.width());
+                        QTest::keyClick(&riquadro, Qt::Key_Return);
+                      }});
+  }
+}
+
 TEST_F(FinestraDialoghi, TakesATypedText) {
   QString testo;
   const auto chiede = [&] {
