@@ -80,10 +80,13 @@ Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {
 DialoghiFinestra::DialoghiFinestra(QMainWindow& finestra)
     : finestra_(finestra), attesa_(finestra) {}
 
-// The window that is left for a box gets the focus back from it, also one that is not modal.
+// The window that is left for a box gets the focus back from it, also one that is not modal. Right
+// after a box no window is active yet.
 QWidget* DialoghiFinestra::Padre() const {
-  for (QWidget* finestra : {QApplication::activeModalWidget(), QApplication::activeWindow()}) {
-    if (finestra != nullptr && finestra->isVisible()) return finestra;
+  QWidgetList candidate = {QApplication::activeModalWidget(), QApplication::activeWindow()};
+  for (QDialog* forma : finestra_.findChildren<QDialog*>()) candidate += forma;
+  for (QWidget* candidata : candidate) {
+    if (candidata != nullptr && candidata->isVisible()) return candidata;
   }
   return &finestra_;
 }

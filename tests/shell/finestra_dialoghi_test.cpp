@@ -78,6 +78,24 @@ TEST_F(FinestraDialoghi, ABoxFitsTheScreenWhateverItSays) {
   }
 }
 
+// It gets its focus back from the box.
+TEST_F(FinestraDialoghi, ABoxBelongsToTheFormThatIsLeftForIt) {
+  QDialog forma(&finestra);
+  forma.show();
+  forma.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&forma));
+  const Passo risponde = [&forma](QWidget& riquadro) {
+    EXPECT_EQ(riquadro.parentWidget(), &forma);
+    QTest::keyClick(&riquadro, Qt::Key_Return);
+  };
+  Operatore::Esegue(
+      [this] {
+        EXPECT_EQ(dialoghi.Domanda(QStringLiteral("Sicuro?"), {}, Pulsanti::SiNo), Risposta::Si);
+        dialoghi.Messaggio(QStringLiteral("Fatto"), {}, Icona::Nessuna);
+      },
+      {risponde, risponde});
+}
+
 TEST_F(FinestraDialoghi, TakesATypedText) {
   QString testo;
   const auto chiede = [&] {
