@@ -13,12 +13,17 @@ FinestraTestoBreve::FinestraTestoBreve(StatoGlobale& stato, Dialoghi& dialoghi, 
 
 void FinestraTestoBreve::Prepara(QPlainTextEdit& controllo, const QPushButton& cmdEsci,
                                  const QPushButton& cmdAbbandona, qint64 numeroDocumento) {
+  testo_ = &controllo;
   MostraTesto(controllo, CaricaTestoBreve(stato_, breve_, numeroDocumento));
   AdattaAlloSchermo(*this);
   connect(&cmdEsci, &QPushButton::clicked, this, [this, &controllo] {
     Esegui(dialoghi_, [this, &controllo] { cmdEsci_Click(controllo); });
   });
-  connect(&cmdAbbandona, &QPushButton::clicked, this, &QDialog::reject);
+  connect(&cmdAbbandona, &QPushButton::clicked, this, [this] { done(Rejected); });
+}
+
+void FinestraTestoBreve::reject() {
+  if (testo_ == nullptr || LasciaTesto(*testo_, dialoghi_)) QDialog::reject();
 }
 
 void FinestraTestoBreve::keyPressEvent(QKeyEvent* evento) {

@@ -21,6 +21,8 @@ class FinestraTestoBreve : public QDialog {
   void Prepara(QPlainTextEdit& controllo, const QPushButton& cmdEsci,
                const QPushButton& cmdAbbandona, qint64 numeroDocumento);
   void keyPressEvent(QKeyEvent* evento) override;
+  // Esc and the close box, which may come by accident, ask before a text goes.
+  void reject() override;
 
  private:
   void cmdEsci_Click(const QPlainTextEdit& controllo);
@@ -28,6 +30,7 @@ class FinestraTestoBreve : public QDialog {
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
   const TestoBreve& breve_;
+  const QPlainTextEdit* testo_ = nullptr;
 };
 
 }  // namespace torvi

@@ -26,6 +26,12 @@ QString TestoMostrato(const QPlainTextEdit& controllo) {
   return testo.replace(QString(QChar(QChar::ParagraphSeparator)), QLatin1String("\r\n"));
 }
 
+bool LasciaTesto(const QPlainTextEdit& controllo, Dialoghi& dialoghi) {
+  return !controllo.document()->isModified() ||
+         dialoghi.Domanda(QStringLiteral("Confermi l'uscita ?"), {}, Pulsanti::OkAnnulla) ==
+             Risposta::Ok;
+}
+
 void TieneInUnaRiga(QLineEdit& campo) {
   QObject::connect(&campo, &QLineEdit::textEdited, &campo, [&campo](const QString& testo) {
     static const QRegularExpression fineRiga(QStringLiteral("\\r\\n|[\\r\\n\u2028\u2029]"));

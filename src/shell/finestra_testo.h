@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include "shell/dialoghi.h"
+
 namespace torvi {
 
 // Shows a text as freshly loaded: nothing of it can be undone.
@@ -11,6 +13,8 @@ void MostraTesto(QPlainTextEdit& controllo, const QString& testo);
 // What stands in the control, lines ended by CR LF. A text that nobody changed since MostraTesto
 // comes back as it was given, single CR and LF included.
 [[nodiscard]] QString TestoMostrato(const QPlainTextEdit& controllo);
+// True where the text stands as MostraTesto showed it, or the operator confirms that it may go.
+[[nodiscard]] bool LasciaTesto(const QPlainTextEdit& controllo, Dialoghi& dialoghi);
 // A text of several lines that is pasted into the field becomes one, with blanks: line ends that
 // nobody sees there would tear the record that is exported.
 void TieneInUnaRiga(QLineEdit& campo);

@@ -37,10 +37,14 @@ frmRiassunto::frmRiassunto(StatoGlobale& stato, Dialoghi& dialoghi, Dizionari& d
           &frmRiassunto::cmdControlloGrammaticale_Click);
   connect(ui_->cmdUndo, &QPushButton::clicked, this, &frmRiassunto::cmdUndo_Click);
   connect(ui_->cmdEsci, &QPushButton::clicked, this, &frmRiassunto::cmdEsci_Click);
-  connect(ui_->cmdAbbandona, &QPushButton::clicked, this, &frmRiassunto::reject);
+  connect(ui_->cmdAbbandona, &QPushButton::clicked, this, [this] { done(Rejected); });
 }
 
 frmRiassunto::~frmRiassunto() = default;
+
+void frmRiassunto::reject() {
+  if (LasciaTesto(*ui_->txtRiassunto, dialoghi_)) QDialog::reject();
+}
 
 void frmRiassunto::MettiTesto(const QString& testo) {
   QTextCursor cursore(ui_->txtRiassunto->document());

@@ -28,6 +28,9 @@ class frmRiassunto : public QDialog {
                QWidget* padre = nullptr);
   ~frmRiassunto() override;
 
+  // Esc and the close box, which may come by accident, ask before a text goes.
+  void reject() override;
+
  private:
   void txtRiassunto_Change();
   void cmdControlloOrtografico_Click();

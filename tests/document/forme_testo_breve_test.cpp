@@ -73,8 +73,14 @@ TEST(FormeTestoBreve, LeaveTheTextAlone) {
   for (const Caso& caso : kCasi) {
     ArchivioDiProva prova;
     prova.stato.*caso.buffer = QStringLiteral("prima");
+    caso.apre(prova, [](QWidget& forma) { QTest::keyClick(&forma, Qt::Key_Escape); });
+    for (const Risposta risposta : {Risposta::Annulla, Risposta::Ok}) {
+      prova.dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, risposta);
+    }
     caso.apre(prova, [](QWidget& forma) {
       QTest::keyClicks(forma.focusWidget(), QStringLiteral("altro"));
+      QTest::keyClick(&forma, Qt::Key_Escape);
+      EXPECT_TRUE(forma.isVisible());
       QTest::keyClick(&forma, Qt::Key_Escape);
     });
     EXPECT_EQ(prova.stato.*caso.buffer, "prima");

@@ -138,14 +138,23 @@ TEST_F(FormaRiassunto, ShowsItsCaptionsAndTheLengthAsTyped) {
     QStringList scritte;
     for (const auto* pulsante : forma.findChildren<QPushButton*>()) scritte += pulsante->text();
     EXPECT_EQ(scritte.join('|'), "&Ortografico|&Grammaticale|&Undo|&Esci e salva|&Abbandona");
-    forma.reject();
+    forma.done(QDialog::Rejected);
   });
 }
 
+// Esc asks first, and only where something would be lost.
 TEST_F(FormaRiassunto, LeavesTheTextAlone) {
+  Apre([](frmRiassunto& forma, QPlainTextEdit&) { QTest::keyClick(&forma, Qt::Key_Escape); });
   for (const Qt::Key tasto : {Qt::Key_Escape, Qt::Key_A}) {
-    const int esito = Apre([tasto](frmRiassunto& forma, QPlainTextEdit& testo) {
+    const int esito = Apre([this, tasto](frmRiassunto& forma, QPlainTextEdit& testo) {
       testo.insertPlainText(QStringLiteral("altro"));
+      if (tasto == Qt::Key_Escape) {
+        for (const Risposta risposta : {Risposta::Annulla, Risposta::Ok}) {
+          dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, risposta);
+        }
+        forma.close();
+        EXPECT_TRUE(forma.isVisible());
+      }
       QTest::keyClick(&forma, tasto,
                       tasto == Qt::Key_A ? Qt::AltModifier : Qt::KeyboardModifier::NoModifier);
     });
@@ -181,7 +190,7 @@ TEST_F(FormaRiassunto, UndoGoesBackToTheTextAtTheOpening) {
     EXPECT_EQ(testo.toPlainText(), "Il testo iniziale.");
     testo.undo();
     EXPECT_EQ(testo.toPlainText(), "altro");
-    forma.reject();
+    forma.done(QDialog::Rejected);
   });
   EXPECT_EQ(dialoghi.UltimoMessaggio(), "Ripristinato testo originale!");
   EXPECT_EQ(dialoghi.Parole().last().icona, Icona::Informazione);
@@ -278,7 +287,7 @@ TEST_F(FormaRiassunto, UnderlinesWhatIsMisspelt) {
                        EXPECT_EQ(Sottolineate(testo), "Zzorro|provedimento");
                        PremiControllo(editore, Qt::Key_O);
                        EXPECT_EQ(Sottolineate(testo), "provedimento");
-                       editore.close();
+                       PremiSpazio(editore, "cmdAbbandona");
                      },
                      [](QWidget& correzione) {
                        Premi(correzione, "cmdIgnoraTutto", Qt::Key_G);
@@ -308,7 +317,7 @@ TEST_F(FormaRiassunto, WithoutADictionaryOnlyTheSpellingIsMissing) {
                           "Errore di run-time '53': Manca il dizionario italiano"));
                       EXPECT_EQ(testo.toPlainText(), "Altro Il provedimento");
                       PremiControllo(editore, Qt::Key_G);
-                      editore.close();
+                      PremiSpazio(editore, "cmdAbbandona");
                     }});
   EXPECT_EQ(dialoghi.UltimoMessaggio(), "Controllo grammaticale effettuato!");
 }
