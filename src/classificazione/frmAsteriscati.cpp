@@ -9,7 +9,7 @@ namespace torvi {
 frmAsteriscati::frmAsteriscati(const Database& archivio, QWidget* padre)
     : QDialog(padre), ui_(std::make_unique<Ui::frmAsteriscati>()) {
   ui_->setupUi(this);
-  ui_->lstAsteriscato->addItems(CoppieAsteriscate(archivio));
+  ui_->lstAsteriscati->addItems(CoppieAsteriscate(archivio));
   connect(ui_->cmdEsci, &QPushButton::clicked, this, &QDialog::reject);
   AdattaAlloSchermo(*this);
 }

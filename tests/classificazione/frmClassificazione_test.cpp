@@ -275,7 +275,7 @@ TEST_F(FormaClassificazione, ShowsTheAsteriskPairs) {
   Apri();
   Operatore::Esegue([this] { Clic(*forma, "cmdAsteriscati"); }, {[](QWidget& modale) {
                       EXPECT_EQ(modale.windowTitle(), "Lista asteriscati con i sistematici");
-                      const auto& lista = Trova<QListWidget>(modale, "lstAsteriscato");
+                      const auto& lista = Trova<QListWidget>(modale, "lstAsteriscati");
                       ASSERT_EQ(lista.count(), 3);
                       EXPECT_EQ(lista.item(0)->text(), "S0002 --- *a");
                       EXPECT_EQ(Trova<QPushButton>(modale, "cmdEsci").text(), "&Esci");
