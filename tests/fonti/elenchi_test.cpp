@@ -4,6 +4,7 @@
 #include "comune/citazioni.h"
 #include "fonti/convenzioni.h"
 #include "fonti/elenchi_fonte.h"
+#include "fonti/interroga_catalogo.h"
 #include "fonti/trattati.h"
 #include "fonti/voci_altra.h"
 #include "fonti/voci_interna.h"
@@ -32,14 +33,23 @@ class Elenchi : public testing::Test {
   Database archivio = cartella.NuovaConsegna();
 };
 
-TEST(Avverbi, AreFewerForParagraphsAndForOtherLaw) {
-  const QString altri =
-      "bis ter quater quinquies sexies septies octies novies decies undecies duodecies terdecies "
-      "quaterdecies quinquiesdecies";
-  const QString comma = altri + " sexiesdecies septiesdecies octiesdecies";
-  EXPECT_EQ(RipartizioniAltroDiritto().join(' '), altri);
-  EXPECT_EQ(RipartizioniComma().join(' '), comma);
-  EXPECT_EQ(RipartizioniArticolo().join(' '), comma + " vices vicessemel vicesbis vicester");
+TEST_F(Elenchi, OfferWhatTheFileHolds) {
+  QList<std::pair<QString, QStringList>> elenchi = {
+      {"articolo", RipartizioniArticolo()},
+      {"comma", RipartizioniComma()},
+      {"altro diritto", RipartizioniAltroDiritto()},
+      {"mesi", NomiMesi()},
+      {"regioni", Regioni()},
+      {"province", VociElenco(archivio, ElencoInfo::Province)},
+      {"catalogo", VociCatalogo()},
+      {"interna 2", ComboFonteInterna(archivio, 2)},
+      {"interna 3", ComboFonteInterna(archivio, 3)}};
+  for (int tab = 0; tab <= 4; ++tab) {
+    elenchi.append({QStringLiteral("altra %1").arg(tab), ComboFonteAltra(tab)});
+  }
+  QString testo;
+  for (const auto& [nome, voci] : elenchi) testo += nome + ": " + voci.join('|') + '\n';
+  EXPECT_EQ(testo.toStdString(), Byte(TORVI_RADICE "/tests/dati/elenchi_fonti.txt").toStdString());
 }
 
 TEST_F(Elenchi, ListActsByTheirPlaceInTheTree) {
@@ -64,6 +74,23 @@ TEST_F(Elenchi, ListActsByTheirPlaceInTheTree) {
                                       std::pair{"Giurisprudenza speciale", "T. Acque|T. mil."},
                                       std::pair{alternative, "Arb.|Concil."}}) {
     EXPECT_EQ(ListaFonteInterna(archivio, "3", TrovaVoceInterna(3, voce)->liv2).join('|'), giudici);
+  }
+}
+
+TEST_F(Elenchi, ListNamesByTheAlphabetOrAsTheyCame) {
+  for (const auto& [tabella, nome] :
+       {std::pair{"TabCitta", "citta"}, std::pair{"TabSezione", "sigla"},
+        std::pair{"TabMinistero", "MinisteroNorm"},
+        std::pair{"TabAmministrazione", "AmministrazioneNorm"},
+        std::pair{"TabAutorita", "AutoritaNorm"}}) {
+    for (const char* valore : {"zeta", "alfa", "Beta"}) Riga(tabella, {{nome, valore}});
+  }
+  EXPECT_EQ(VociSezione(archivio).join('|'), "alfa|Beta|zeta");
+  EXPECT_EQ(VociElenco(archivio, ElencoInfo::Citta).join('|'), "alfa|Beta|zeta");
+  EXPECT_TRUE(VociElenco(archivio, ElencoInfo::Nessuno).isEmpty());
+  for (const ElencoInfo elenco :
+       {ElencoInfo::Ministeri, ElencoInfo::Amministrazioni, ElencoInfo::Autorita}) {
+    EXPECT_EQ(VociElenco(archivio, elenco).join('|'), "zeta|alfa|Beta");
   }
 }
 
