@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 #include "archive/schema.h"
@@ -250,6 +251,12 @@ TEST_F(FormaTabInterna, LeavesOnlyWithASourceOrByAbandoning) {
   EXPECT_EQ(Righe() + Testo("txtGG").toStdString(), "5");
   Clic(Pagina(), "cmdClear");  // also after a failure
   EXPECT_EQ(Righe() + Testo("txtGG").toStdString(), "");
+  dialoghi.AttendeDomanda("Manca il ministero: giusto?", "Attenzione!", Pulsanti::SiNoAnnulla,
+                          Risposta::No);
+  Sceglie("governativi");
+  Batti("{Down}");
+  esceESalva();
+  EXPECT_TRUE(forma->isVisible() && stato.RigheFonte.empty());
   stato.NuovaFonte = false;
   Sceglie("camera");
   esceESalva();
