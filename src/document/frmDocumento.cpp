@@ -45,11 +45,8 @@ void frmDocumento::CollegaPulsanti() {
   Collega(*ui_->cmdClasseN, &frmDocumento::cmdClasseN_Click, "nuovo");
   Collega(*ui_->cmdClasseM, &frmDocumento::cmdClasseM_Click, "modifica");
   Collega(*ui_->cmdClasseD, &frmDocumento::cmdClasseD_Click, "elimina");
-  for (const auto& [pulsante, icona] :
-       {std::pair{ui_->cmdFonteN, "nuovo"}, std::pair{ui_->cmdFonteM, "modifica"}}) {
-    pulsante->setIcon(IconaDi(QLatin1String(icona)));
-    pulsante->setEnabled(false);
-  }
+  Collega(*ui_->cmdFonteN, &frmDocumento::cmdFonteN_Click, "nuovo");
+  Collega(*ui_->cmdFonteM, &frmDocumento::cmdFonteM_Click, "modifica");
   Collega(*ui_->cmdFonteD, &frmDocumento::cmdFonteD_Click, "elimina");
   Collega(*ui_->cmdFonteT, &frmDocumento::cmdFonteT_Click, "nota");
   Collega(*ui_->cmdRiassunto, &frmDocumento::cmdRiassunto_Click);
@@ -95,6 +92,7 @@ bool frmDocumento::TastoFunzione(int tasto) {
       {Qt::Key_F6, &frmDocumento::cmdAvanti_Click},
       {Qt::Key_F7, &frmDocumento::cmdResponsabilitaN_Click},
       {Qt::Key_F8, &frmDocumento::cmdClasseN_Click},
+      {Qt::Key_F9, &frmDocumento::cmdFonteN_Click},
       {Qt::Key_F10, &frmDocumento::cmdRiassunto_Click},
       {Qt::Key_F11, &frmDocumento::cmdSommario_Click},
       {Qt::Key_F12, &frmDocumento::cmdEsci_Click},

@@ -78,6 +78,8 @@ class frmDocumento : public QWidget {
   void cmdClasseN_Click();
   void cmdClasseM_Click();
   void cmdClasseD_Click();
+  void cmdFonteN_Click();
+  void cmdFonteM_Click();
   void cmdFonteD_Click();
   void cmdFonteT_Click();
   void cmdRiassunto_Click();

@@ -11,6 +11,13 @@
 #include "document/frmTraduzione.h"
 #include "document/righe_liste.h"
 #include "document/testi_documento.h"
+#include "fonti/frmModificaFonte.h"
+#include "fonti/frmSceltaTipoFonte.h"
+#include "fonti/frmTabAltraFonte.h"
+#include "fonti/frmTabInterna.h"
+#include "fonti/righe_fonte.h"
+#include "fonti/salva_fonte.h"
+#include "fonti/tipi_fonte.h"
 #include "shell/guardia.h"
 #include "testi/frmRiassunto.h"
 #include "ui_frmDocumento.h"
@@ -68,6 +75,31 @@ void frmDocumento::ApreClasse(bool nuova) {
     salvata = ModificaClasse(forma, nuova);
   }
   if (salvata) documento_.campi.lstClassificazione = RigheLista(stato_.RigheClasse);
+}
+
+void frmDocumento::cmdFonteN_Click() {
+  stato_.NuovaFonte = true;
+  frmSceltaTipoFonte(stato_, this).exec();
+  const std::optional<TipoFonte> tipo = TrovaTipoFonte(stato_.TipoFonteScelto);
+  if (!tipo) return;
+  // Under the main window and not under this form, or the area of the documents would take
+  // Ctrl+Tab, which goes through the tabs.
+  if (tipo->scheda < 0) {
+    if (frmTabInterna(stato_, dialoghi_, window()).exec() == QDialog::Accepted) {
+      documento_.campi.lstFonte = RigheLista(stato_.RigheFonte, RegolaLista::DopoInterna);
+    }
+    return;
+  }
+  frmTabAltraFonte forma(stato_, dialoghi_, window());
+  forma.ScegliScheda(tipo->scheda);
+  if (forma.exec() == QDialog::Accepted) documento_.campi.lstFonte = RigheDopoAltra(stato_);
+}
+
+void frmDocumento::cmdFonteM_Click() {
+  stato_.NuovaFonte = false;
+  frmModificaFonte forma(stato_, dialoghi_, documento_.IndiceFonte, this);
+  forma.PreparaFonteDaModificare();
+  if (forma.exec() == QDialog::Accepted) documento_.campi.lstFonte = RigheLista(stato_.RigheFonte);
 }
 
 void frmDocumento::cmdResponsabilitaD_Click() {

@@ -29,10 +29,15 @@ frmTabAltraFonte::frmTabAltraFonte(StatoGlobale& stato, Dialoghi& dialoghi, QWid
           &frmTabAltraFonte::cmdAbbandonaNIT_Click);
   MostraAnteprima();
   AdattaAlloSchermo(*this);
-  pagine_.front()->TornaAllaVoce();
+  ScegliScheda(0);
 }
 
 frmTabAltraFonte::~frmTabAltraFonte() = default;
+
+void frmTabAltraFonte::ScegliScheda(int scheda) {
+  ui_->SSTabAltra->setCurrentIndex(scheda);
+  pagine_.at(static_cast<std::size_t>(scheda))->TornaAllaVoce();
+}
 
 void frmTabAltraFonte::AggiungiScheda(int indice) {
   auto* pagina = new frmTabAltraFonte_pagina(stato_, dialoghi_, indice, this);

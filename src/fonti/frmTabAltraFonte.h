@@ -25,6 +25,9 @@ class frmTabAltraFonte : public QDialog {
   frmTabAltraFonte(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre = nullptr);
   ~frmTabAltraFonte() override;
 
+  // Brings the operator to a kind of law, 0 to 4.
+  void ScegliScheda(int scheda);
+
  protected:
   void keyPressEvent(QKeyEvent* evento) override;
 

@@ -1,71 +1,15 @@
 // A day of an operator, by keys alone: documents entered, corrected, duplicated, found, deleted and
 // exported.
-#include <gtest/gtest.h>
-
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 
-#include "comune/cartella_di_prova.h"
-#include "comune/tastiera.h"
-#include "shell/MDIEditorTorvi.h"
-#include "shell/avvio.h"
+#include "shell/giornata.h"
 
 namespace torvi {
 namespace {
 
-const QString kSalvato = QStringLiteral("TorviEditor|Documento salvato!|OK");
-
-class Giornata : public testing::Test {
+class Giornata : public GiornataDiLavoro {
  protected:
-  Giornata() {
-    // A delivery as the program leaves it after "Nuovo database".
-    cartella.StatoConCodici().DbArchivio.Close();
-    PreparaStato(stato, cartella.Percorso());
-    finestra = std::make_unique<MDIEditorTorvi>(stato);
-    finestra->resize(1300, 680);
-    finestra->show();
-    Fa("{Alt+F}a", {Forma("Apri archivio", "A01.MDB{Return}")});
-  }
-  // Keys on the main window, and what the operator does in each form that they open.
-  void Fa(const QString& copione, std::deque<Passo> passi = {}) const {
-    Attiva();
-    Operatore::Esegue([&copione] { Batti(copione); }, std::move(passi));
-  }
-  void Attiva() const {
-    finestra->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
-  }
-  // Tab after Tab.
-  void VaiA(const char* controllo) const {
-    Attiva();
-    for (int volte = 0; volte < 60; ++volte) {
-      const QWidget* fuoco = QApplication::focusWidget();
-      if (fuoco != nullptr && fuoco->objectName() == QLatin1String(controllo)) return;
-      Batti(QStringLiteral("{Tab}"));
-    }
-    FAIL() << "no Tab leads to " << controllo;
-  }
-  void Preme(const char* pulsante, std::deque<Passo> passi = {}) const {
-    VaiA(pulsante);
-    Fa(QStringLiteral(" "), std::move(passi));
-  }
-  // The rows of a statement, a line each; `colonne` by blanks.
-  [[nodiscard]] std::string Righe(const char* colonne, const char* da) const {
-    const QStringList nomi = QString(QLatin1String(colonne)).split(QLatin1Char(' '));
-    QStringList righe;
-    for (Recordset r = stato.DbArchivio.OpenRecordset("select * from " + QLatin1String(da));
-         !r.Eof(); r.MoveNext()) {
-      QStringList valori;
-      for (const QString& nome : nomi) {
-        const Campo campo = r.Fields(nome.toStdString());
-        valori += campo.Nullo() ? QStringLiteral("Null") : campo.Testo();
-      }
-      righe += valori.join(QLatin1Char('|'));
-    }
-    return righe.join(QLatin1Char('\n')).toStdString();
-  }
-
   // The lines that a search shows; a search without result is told.
   [[nodiscard]] std::string Cerca(int campo, const QString& parole) const {
     QStringList linee;
@@ -91,10 +35,6 @@ class Giornata : public testing::Test {
   void DocumentoDel2001() const;
   void DocumentoDel1998() const;
   void DocumentoDel2002() const;
-
-  const CartellaDiProva cartella;
-  StatoGlobale stato;
-  std::unique_ptr<MDIEditorTorvi> finestra;
 };
 
 void Giornata::DocumentoDel2001() const {
@@ -114,7 +54,7 @@ void Giornata::DocumentoDel2001() const {
   Preme("cmdNota", {Forma("Campo nota", "Nota ambigua{Tab}{Return}")});
   Preme("cmdNotaDoc", {Forma("Testo nota al documento", "riga\\riga{Tab}{Return}")});
   VaiA("txtID");
-  Fa("{F4}", {Riquadro(kSalvato)});
+  Fa("{F4}", {Riquadro(salvato)});
 }
 
 void Giornata::DocumentoDel1998() const {
@@ -124,7 +64,7 @@ void Giornata::DocumentoDel1998() const {
       "{Tab}ACMT{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}1998{Tab}{Tab}"
       "{Tab}articolo{Tab}400{Tab}senza{Tab}Città e università{Tab}desueto");
   Fa("{F8}", {Forma("Classifcazione ante 2000", "A11{Alt+E}")});
-  Fa("{F4}", {Riquadro(kSalvato)});
+  Fa("{F4}", {Riquadro(salvato)});
 }
 
 void Giornata::DocumentoDel2002() const {
@@ -135,7 +75,7 @@ void Giornata::DocumentoDel2002() const {
       "{Tab}comm{Tab}600{Tab}{Tab}Da togliere..");
   Fa("{F11}", {Forma("Testo sommario", "1. Uno - 2. Due.{Alt+E}")});
   Fa("{F8}", {Forma("Classificazione", "AB002{Alt+E}")});
-  Fa("{F12}", {Riquadro(kSalvato)});
+  Fa("{F12}", {Riquadro(salvato)});
 }
 
 // The second document; what was corrected becomes a fourth one too.
@@ -143,8 +83,8 @@ void Giornata::CorreggeEDuplica() const {
   Fa("{Alt+A}e", {Forma("Scegli documento", "{Down}{Return}")});
   VaiA("txtTitolo");
   Batti("Le città");
-  Fa("{F4}", {Riquadro(kSalvato)});
-  Fa("{F2}", {Riquadro(kSalvato)});
+  Fa("{F4}", {Riquadro(salvato)});
+  Fa("{F2}", {Riquadro(salvato)});
   const auto& scritta = Trova<QLabel>(*finestra, "statoDocumento");
   EXPECT_EQ(scritta.text(), "Documento 4: esistente, non modificato");
   Fa("{F3}");
@@ -228,11 +168,7 @@ TEST_F(Giornata, FromAnEmptyDeliveryToItsExport) {
   Cancella();
   EXPECT_EQ(Righe("IDDocumento IDRifBibl", "TabDocumento"), "1|1\n2|4\n4|5");
   EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass"), "1|1\n1|2\n1|3\n3|4");
-  Fa("{Alt+E}fi", {Riquadro("Esportazione per ISIS|Controllo presenza fonti?|Sì|No", Qt::Key_N),
-                   Riquadro("Esportazione|Accodare risultato dell'esportazione?|Sì|No", Qt::Key_N),
-                   Riquadro("TorviEditor|Fine esportazione della consegna A01|OK")});
-  EXPECT_EQ(Byte(cartella.Dump("lexxdump isis.A01")).toStdString(),
-            Byte(QStringLiteral(TORVI_RADICE "/tests/dati/giornata.isis")).toStdString());
+  EsportaEConfronta("giornata.isis");
 }
 
 }  // namespace
