@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <cstdint>
 #include <optional>
 #include <span>
 
@@ -12,9 +13,9 @@ namespace torvi {
 // The captions of the tabs, which are the headers of ComboFonte too, by their index.
 [[nodiscard]] std::span<const char16_t* const> SchedeAltra();
 
-enum class Libero { Spento, Acceso, SenzaEtichetta };
+enum class Libero : std::uint8_t { Spento, Acceso, SenzaEtichetta };
 // What the act is taken from, and what is missing without it.
-enum class Atto { NonServe, TestoLibero, Elenco, ElencoOVoce };
+enum class Atto : std::uint8_t { NonServe, TestoLibero, Elenco, ElencoOVoce };
 
 struct VoceAltra {
   int indice;

@@ -47,7 +47,7 @@ QJsonObject Ridotta(const QJsonObject& risposta) {
     if (valore.isObject()) valore = Ridotta(valore.toObject());
     if (valore.isArray()) {
       QJsonArray parti;
-      for (const QJsonValue& parte : valore.toArray()) parti += Ridotta(parte.toObject());
+      for (const auto parte : valore.toArray()) parti += Ridotta(parte.toObject());
       valore = parti;
     }
     if (!Usuale(voce.key(), valore)) ridotta.insert(voce.key(), valore);
