@@ -58,7 +58,7 @@ void Passo(Documento& documento, const std::function<void()>& istruzione) {
 
 void CaricaSenzaRete(Documento& documento) {
   const StatoGlobale& stato = documento.stato;
-  documento.RsDocumenti = stato.DbArchivio.OpenRecordset(QStringLiteral("TabDocumento"));
+  documento.ApriDocumenti();
   Passo(documento, [&] { CaricaCodici(documento); });
   AzzeraIndici(documento);
   documento.comandiVisibili = !stato.DocumentoNuovo;

@@ -62,6 +62,7 @@ struct Documento {
   Dialoghi& dialoghi;
   CampiDocumento campi;
   CodiciDocumento codici;
+  Database archivio;                     // the one that the form was loaded from
   std::optional<Recordset> RsDocumenti;  // on table TabDocumento, from the form's load to its end
   bool SalvaComeNuovo = false;           // the next save inserts a row
   qint16 IndiceResponsabilita = -1;      // selected row of each list, -1 when none
@@ -70,14 +71,14 @@ struct Documento {
   bool comandiVisibili = true;  // cmdSalva and cmdDuplica, set by the form's load alone
   QString fuoco;                // control that the last routine wants the focus on; empty: none
 
+  // Opens RsDocumenti on the archive that is open.
+  void ApriDocumenti();
   // RsDocumenti; error 91 where the form's load failed before it was opened.
   [[nodiscard]] Recordset& Documenti();
+  // An archive that was closed and opened again under the form serves as before. Another one must
+  // not get a document that is not its own: error 3420.
+  void RiprendiArchivio();
 };
-
-inline Recordset& Documento::Documenti() {
-  if (!RsDocumenti) throw ErroreEsecuzione(Errore::OggettoNonImpostato);
-  return *RsDocumenti;
-}
 
 // Which of the two classification schemes the year selects; years compare as text.
 [[nodiscard]] inline bool SchemaPrima2000(const CampiDocumento& campi) {

@@ -11,6 +11,7 @@ bool SalvaDocumento(Documento& documento) {
     documento.dialoghi.Messaggio(QStringLiteral("periodico non ancora immesso"));
     return false;
   }
+  documento.RiprendiArchivio();
   UnitaDiScrittura unita(documento.stato.DbArchivio);
   SalvaRigaDocumento(documento, SalvaRiferimento(documento));
   SalvaResponsabilita(documento);

@@ -232,5 +232,31 @@ TEST_F(FormaDocumento, NothingTypedIsLostByAccident) {
   EXPECT_FALSE(forma->isVisible());
 }
 
+// The archive opened again takes what was typed meanwhile; another one must not.
+TEST_F(FormaDocumento, AnArchiveOpenedAgainServesAsBefore) {
+  const QString sua = prova.stato.DbArchivio.Name();
+  const QString altra = prova.cartella.Mdb(QStringLiteral("B01.MDB"));
+  ASSERT_TRUE(QFile::copy(sua, altra));
+  for (const char* numero : {"1", ""}) {
+    Apri(QLatin1String(numero));
+    Trova<QLineEdit>(*forma, "txtCPer").setText(QStringLiteral("ZZZZ"));
+    Vai("txtTitolo");
+    Batti(QStringLiteral("salvato"));
+    prova.stato.DbArchivio.Close();
+    prova.stato.DbArchivio = OpenDatabase(altra);
+    Batti(QStringLiteral("{F4}"));
+    EXPECT_EQ(
+        prova.dialoghi.UltimoMessaggio(),
+        "Errore di run-time '3420': Il documento è di un altro archivio, che va riaperto: " + sua);
+    prova.stato.DbArchivio.Close();
+    prova.stato.DbArchivio = OpenDatabase(sua);
+    Batti(QStringLiteral("{F4}"));
+    EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Documento salvato!");
+    Batti(QStringLiteral("{F3}"));
+  }
+  Apri(QStringLiteral("3"));
+  EXPECT_EQ(Testo("txtTitolo"), "salvato");
+}
+
 }  // namespace
 }  // namespace torvi
