@@ -149,17 +149,18 @@ riassunto() {
   batti '{Return}{alt+g}'
   ritratto frmCorrezione_grammatica "Controllo grammaticale: italiano" ''
   finestra "TorviEditor"
-  batti '{Return}{Escape}'
+  batti '{Return}{alt+a}'
   finestra "$documento"
 }
 
 testi_brevi() {
   ritratto frmTraduzione "Testo traduzione" "$(volte 11 '{shift+Tab}'){space}"
   finestra "$documento"
-  ritratto frmNotaAmb "Campo nota" '{Tab}{space}' 'Vedi anche il documento precedente'
+  ritratto frmNotaAmb "Campo nota" '{Tab}{space}' 'Vedi anche il documento precedente' \
+    '{Tab}{Tab}{space}'
   finestra "$documento"
   ritratto frmNota "Testo nota al documento" '{Tab}{space}' \
-    'Controllare la classificazione\chiedere la data alla redazione'
+    'Controllare la classificazione\chiedere la data alla redazione' '{Tab}{Tab}{space}'
   finestra "$documento"
   batti "$(volte 9 '{Tab}')"
 }
