@@ -3,6 +3,7 @@
 #include "cli/comando.h"
 #include "cli/per_nome.h"
 #include "report/consistenza.h"
+#include "report/pdf.h"
 #include "report/prospetto.h"
 #include "report/stampa_html.h"
 #include "report/stampa_rtf.h"
@@ -12,7 +13,7 @@ namespace torvi {
 
 namespace {
 
-constexpr std::array kOpzioni = {Opzione{"filtro", nullptr}};
+constexpr std::array kOpzioni = {Opzione{"filtro", nullptr}, Opzione{"pdf", nullptr}};
 
 struct Stampa {
   const char* nome;
@@ -39,9 +40,15 @@ Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
   if (filtro && stampa.conFiltro == nullptr) {
     throw ErroreUso{QStringLiteral("--filtro vale solo per la stampa dei testi")};
   }
+  const bool pdf = righe.isSet(QStringLiteral("pdf"));
+  const QString programma = pdf ? ProgrammaPdf() : QString();
   contesto.stato.DbArchivio =
       ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
   (filtro ? stampa.conFiltro : stampa.esegui)(contesto.stato, contesto.dialoghi);
+  if (!pdf) return Esito::Fatto;
+  for (const QString& file : contesto.dialoghi.FileScritti()) {
+    contesto.uscita << ConvertiInPdf(programma, file) << '\n';
+  }
   return Esito::Fatto;
 }
 
@@ -49,7 +56,8 @@ Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
 
 const Comando kStampa = {
     "stampa",
-    "completa|testi|prospetto-rtf|prospetto-html|consistenza|celex|hudoc ARCHIVIO [--filtro]",
+    "completa|testi|prospetto-rtf|prospetto-html|consistenza|celex|hudoc ARCHIVIO [--filtro] "
+    "[--pdf]",
     "Scrive in dump/ una stampa della consegna. Un archivio in formato Jet viene prima\n"
     "convertito; l'originale resta accanto come ARCHIVIO.jet.\n\n"
     "  completa        tutti i campi dei documenti, in dump/stampaRTF-C-SIGLA.rtf\n"
@@ -61,7 +69,8 @@ const Comando kStampa = {
     "                  dump/stampaHTML SIGLA.htm\n"
     "  hudoc           sentenze della Corte europea dei diritti dell'uomo con il\n"
     "                  collegamento a HUDOC, in dump/stampaHTML_GEI SIGLA.htm\n\n"
-    "  --filtro        dei testi, solo i documenti con una ] nella traduzione del titolo\n\n"
+    "  --filtro        dei testi, solo i documenti con una ] nella traduzione del titolo\n"
+    "  --pdf           anche in PDF, di cui scrive il nome; vuole LibreOffice installato\n\n"
     "Le stampe RTF cominciano con un modello della cartella dell'applicazione:\n"
     "\"testata new.rtf\" o \"testata prospetto.rtf\".\n",
     2,

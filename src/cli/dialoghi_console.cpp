@@ -63,6 +63,10 @@ bool DialoghiConsole::ChiediLogin(const QString& /*passwordRiservata*/) {
   throw Rifiuto{QStringLiteral("Login")};
 }
 
+void DialoghiConsole::FileScritto(const QString& percorso) {
+  if (!fileScritti_.contains(percorso)) fileScritti_ += percorso;
+}
+
 void DialoghiConsole::Attesa(bool attiva) {
   if (!attiva) TogliAvanzamento();
 }

@@ -25,6 +25,8 @@ class DialoghiConsole : public Dialoghi {
   // What was said last, and whether error files were shown.
   [[nodiscard]] const QString& UltimoMessaggio() const { return ultimoMessaggio_; }
   [[nodiscard]] bool ErroriMostrati() const { return erroriMostrati_; }
+  // Each file that was finished, once.
+  [[nodiscard]] const QStringList& FileScritti() const { return fileScritti_; }
 
   void Messaggio(const QString& testo, const QString& titolo = {},
                  Icona icona = Icona::Nessuna) override;
@@ -40,6 +42,7 @@ class DialoghiConsole : public Dialoghi {
   [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
   [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
   [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
+  void FileScritto(const QString& percorso) override;
   void Attesa(bool attiva) override;
   // One line that writes over itself, only where standard error is a terminal.
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
@@ -51,6 +54,7 @@ class DialoghiConsole : public Dialoghi {
   QString fileUscita_;
   QString ultimoMessaggio_;
   bool erroriMostrati_ = false;
+  QStringList fileScritti_;
   int larghezzaAvanzamento_ = 0;
 };
 

@@ -103,6 +103,7 @@ void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazion
   if (fatti == 0) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
   file.Chiudi();
   clessidra.Togli();
+  dialoghi.FileScritto(file.Uscita().Percorso());
   dialoghi.Messaggio("Fine esportazione della consegna "_L1 + stato.SiglaConsegna);
 }
 

@@ -81,6 +81,7 @@ void StampaConsistenza(StatoGlobale& stato, Dialoghi& dialoghi) {
   dialoghi.Messaggio("TotTAbs: "_L1 + totale + " --- Num. docc.: "_L1 + quanti);
   uscita.Close();
   clessidra.Togli();
+  dialoghi.FileScritto(uscita.Percorso());
   dialoghi.Messaggio(QStringLiteral("Fine stampa consistenza"));
 }
 

@@ -15,6 +15,7 @@ void Estrai(StatoGlobale& stato, Dialoghi& dialoghi, const Estrazione& estrazion
   riempi(file);
   ChiudiUscita(stato, file);
   clessidra.Togli();
+  dialoghi.FileScritto(file.Percorso());
   dialoghi.Messaggio("Fine estrazione "_L1 + estrazione.cosa + " ai documenti (consegna "_L1 +
                      stato.SiglaConsegna + QLatin1Char(')'));
 }

@@ -117,6 +117,7 @@ void ProspettoHTML(StatoGlobale& stato, Dialoghi& dialoghi) {
   uscita.Print(u"</HTML>"_s);
   uscita.Close();
   clessidra.Togli();
+  dialoghi.FileScritto(uscita.Percorso());
   dialoghi.Messaggio(QStringLiteral("Fine stampa prospetto"));
 }
 

@@ -85,6 +85,7 @@ void ProspettoRTF(StatoGlobale& stato, Dialoghi& dialoghi) {
   uscita.Print(kInTabella + "{\\row }"_L1 + rtf::kRientro + "{\\par }}"_L1);
   uscita.Close();
   clessidra.Togli();
+  dialoghi.FileScritto(uscita.Percorso());
   dialoghi.Messaggio(QStringLiteral("Fine stampa prospetto"));
 }
 

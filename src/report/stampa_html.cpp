@@ -114,6 +114,7 @@ void Stampa(StatoGlobale& stato, Dialoghi& dialoghi, const FormaStampa& forma) {
   StampaFonti(stato, dialoghi, forma, file);
   ChiudiUscita(stato, file);
   clessidra.Togli();
+  dialoghi.FileScritto(file.Percorso());
   dialoghi.Messaggio(forma.fine + stato.SiglaConsegna + QLatin1Char(')'));
 }
 

@@ -152,6 +152,7 @@ void StampaRTF(StatoGlobale& stato, Dialoghi& dialoghi, bool completa, bool filt
   uscita.Print(QStringLiteral("}"));
   uscita.Close();
   clessidra.Togli();
+  dialoghi.FileScritto(uscita.Percorso());
   dialoghi.Messaggio(QStringLiteral("Fine stampa"));
 }
 

@@ -53,6 +53,9 @@ class Dialoghi {
   // The login of the restricted commands. True once the right password was given.
   [[nodiscard]] virtual bool ChiediLogin(const QString& passwordRiservata) = 0;
 
+  // A print or an export has finished this file: the operator may want to open it.
+  virtual void FileScritto(const QString& /*percorso*/) {}
+
   // Hourglass or arrow.
   virtual void Attesa(bool attiva) = 0;
   // How far a long run has come; `totale` 0 where it is not known. Ends with Attesa(false).

@@ -78,7 +78,7 @@ Risposta Chiedi(QMessageBox& riquadro, Pulsanti quali) {
 }  // namespace
 
 DialoghiFinestra::DialoghiFinestra(QMainWindow& finestra)
-    : finestra_(finestra), attesa_(finestra) {}
+    : finestra_(finestra), attesa_(finestra), offerta_(new OffertaFile(finestra, *this)) {}
 
 // The window that is left for a box gets the focus back from it, also one that is not modal. Right
 // after a box no window is active yet.
@@ -154,6 +154,8 @@ bool DialoghiFinestra::ChiediLogin(const QString& passwordRiservata) {
   forma.exec();
   return forma.LoginRiservato;
 }
+
+void DialoghiFinestra::FileScritto(const QString& percorso) { offerta_->Offri(percorso); }
 
 void DialoghiFinestra::Attesa(bool attiva) { attesa_.Imposta(attiva); }
 

@@ -5,6 +5,7 @@
 
 #include "shell/dialoghi.h"
 #include "shell/finestra_attesa.h"
+#include "shell/finestra_file_scritto.h"
 
 namespace torvi {
 
@@ -24,6 +25,7 @@ class DialoghiFinestra : public Dialoghi {
   [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
   [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
   [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
+  void FileScritto(const QString& percorso) override;
   void Attesa(bool attiva) override;
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
@@ -33,6 +35,7 @@ class DialoghiFinestra : public Dialoghi {
 
   QMainWindow& finestra_;
   AttesaFinestra attesa_;
+  OffertaFile* offerta_;
 };
 
 }  // namespace torvi

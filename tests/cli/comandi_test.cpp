@@ -166,6 +166,44 @@ TEST_F(Comandi, PrintsAndExtractionsNameTheDeliveryAndControlloTellsOfThem) {
                            "'Stampa HTML per controllo Celex'\r\n"));
 }
 
+// Another program stands in for LibreOffice: it puts what it is given where it is told.
+TEST_F(Comandi, StampaWritesAPdfWhereLibreOfficeIs) {
+  PreparaEsempio(3);
+  const QString programmi = cartella_.Percorso() + "/programmi";
+  ASSERT_TRUE(QDir().mkpath(programmi));
+  const auto stampa = [&](const char* nome, const QString& altri = QStringLiteral(":/bin")) {
+    return Torvi({QStringLiteral("--cartella"), cartella_.Percorso(), QStringLiteral("stampa"),
+                  QLatin1String(nome), Archivio(), QStringLiteral("--pdf")},
+                 {QStringLiteral("/usr/bin/env"), "PATH=" + programmi + altri});
+  };
+  const QString soffice = programmi + "/soffice";
+  ScriviByte(soffice,
+             "#!/bin/sh\n"
+             "for file; do :; done\n"
+             "while [ \"$1\" != --outdir ]; do shift; done\n"
+             "nome=${file##*/}\n"
+             "cp \"$file\" \"$2/${nome%.*}.pdf\"\n");
+  ASSERT_TRUE(QFile::setPermissions(soffice, QFile::ReadOwner | QFile::ExeOwner));
+  for (const auto& [nome, file, pdf] :
+       {std::tuple{"consistenza", "consistenza.A01", "consistenza.A01.pdf"},
+        {"prospetto-html", "prospetto A01.html", "prospetto A01.pdf"}}) {
+    const EsitoProgramma esito = stampa(nome);
+    EXPECT_EQ(esito.codice, 0) << esito.errori.toStdString();
+    EXPECT_EQ(esito.uscita, cartella_.Dump(QLatin1String(pdf)) + "\n");
+    EXPECT_EQ(Uscita(pdf), Uscita(file));
+  }
+  ScriviByte(soffice, "#!/bin/sh\n");
+  EsitoProgramma esito = stampa("consistenza");
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.contains(QStringLiteral("LibreOffice non ha scritto ")));
+  EXPECT_FALSE(QFile::exists(cartella_.Dump(QStringLiteral("consistenza.A01.pdf"))));
+  ASSERT_TRUE(QFile::remove(soffice));
+  esito = stampa("completa", {});
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.contains(QStringLiteral("LibreOffice non è installato")));
+  EXPECT_FALSE(QFile::exists(cartella_.Dump(QStringLiteral("stampaRTF-C-A01.rtf"))));
+}
+
 TEST_F(Comandi, CercaWritesTheNumbersFound) {
   PreparaEsempio(12);
   const QStringList cerca{QStringLiteral("cerca"), Archivio(), QStringLiteral("--campo"),
@@ -220,6 +258,39 @@ class Genuini : public Comandi {
     QFile::setPermissions(Archivio(), QFile::ReadOwner | QFile::WriteOwner);
   }
 };
+
+TEST_F(Genuini, TheConsistenzaOfAGenuineDeliveryIsWhatItsTablesSay) {
+  const EsitoProgramma esito =
+      Esegui({QStringLiteral("stampa"), QStringLiteral("consistenza"), Archivio()});
+  EXPECT_TRUE(esito.errori.endsWith(
+      QStringLiteral("TotTAbs: 22 --- Num. docc.: 23\nFine stampa consistenza\n")));
+  QByteArray righe = Uscita("consistenza.A01");
+  EXPECT_EQ(righe.replace("\r\n", "\n").replace("      ", "").toStdString(),
+            "1###AVPC 2001 3 4\n"
+            "1###BUCA 1998 4 2\n"
+            "1###CLPR 2000 1 1\n"
+            "1###CLPR 2000 1 5\n"
+            "1###CODC 2001 4 2\n"
+            "1###DPAQ 2000 2 4\n"
+            "1###FMAR 2001 1 2\n"
+            "1###FMAR 2001 1 6\n"
+            "1###MIAN 2000 9 \n"
+            "1###NGTI 2000 2 3\n"
+            "1###NGTI 2000 2 1\n"
+            "1###OCTR 2001 1 4\n"
+            "1###OCTR 2001 1 2\n"
+            "1###QADP 2000 4 5\n"
+            "2###RGI 2001 3 3\n"
+            "1###RGI 2000 3 3\n"
+            "1###RLDA 2001 3 1-2\n"
+            "1###UEAC 0/00 2 \n"
+            "2###UEAC 2001 2 5\n"
+            "1###ZALP 2000 3 1\n"
+            "\n"
+            "Documenti: 22\n"
+            "\n"
+            "Num. iniziale: 2001A0012   Num. finale: 2001A0034   Num. docc.: 23\n");
+}
 
 TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
   const QByteArray originale = Byte(Archivio());

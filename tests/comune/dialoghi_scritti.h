@@ -74,6 +74,8 @@ class DialoghiScritti : public Dialoghi {
   [[nodiscard]] const QStringList& UltimaLista() const { return lista_; }
   [[nodiscard]] bool InAttesa() const { return attese_ > 0; }
   [[nodiscard]] int Avanzamenti() const { return avanzamenti_; }
+  // The file that a print or an export finished last.
+  [[nodiscard]] const QString& UltimoFile() const { return ultimoFile_; }
 
   void Messaggio(const QString& testo, const QString& titolo, Icona icona) override;
   [[nodiscard]] Risposta Domanda(const QString& testo, const QString& titolo,
@@ -87,6 +89,7 @@ class DialoghiScritti : public Dialoghi {
   [[nodiscard]] QString ChiediTestoEsteso(const QString& etichetta) override;
   [[nodiscard]] QString ScegliDaLista(const QStringList& voci) override;
   [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
+  void FileScritto(const QString& percorso) override { ultimoFile_ = percorso; }
   void Attesa(bool attiva) override;
   void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
@@ -107,6 +110,7 @@ class DialoghiScritti : public Dialoghi {
   QStringList uscita_;
   QStringList lista_;
   QString errori_;
+  QString ultimoFile_;
   int attese_ = 0;
   int avanzamenti_ = 0;
 };

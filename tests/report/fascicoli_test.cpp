@@ -79,6 +79,7 @@ TEST(Consistenza, ComesOutToTheByteAndTellsWhatItDidNotCount) {
             "Num. iniziale: 2001A0012   Num. finale: 2001A0022   Num. docc.: 11\r\n");
   EXPECT_EQ(dialoghi.Messaggi(),
             QStringList({"TotTAbs: 9 --- Num. docc.: 11", "Fine stampa consistenza"}));
+  EXPECT_EQ(dialoghi.UltimoFile(), prova.cartella.Dump("consistenza.A01"));
   EXPECT_TRUE(prova.Marcata("StampaConsistenze"));
 }
 

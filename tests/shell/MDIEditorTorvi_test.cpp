@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDesktopServices>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -270,6 +271,78 @@ TEST_F(Finestra, ExportsFromTheMenu) {
   }
 }
 
+// Each print tells that it is done, and the status bar then offers its file.
+TEST_F(Finestra, PrintsFromTheMenuAndOffersTheFile) {
+  const auto fine = [](const char* testo) {
+    return Riquadro(QStringLiteral("TorviEditor|%1|OK").arg(QLatin1String(testo)));
+  };
+  const auto chiede = [](const char* parole, Qt::Key tasto) {
+    return Riquadro(QString(QLatin1String(parole) + "|Sì|No"), tasto);
+  };
+  const char* const filtro = "Abstract in inglese|Stampa con filtro per traduzioni titolo?";
+  const char* const formato = "TorviEditor|Per formato RTF: yes, per formato HTML: no";
+  struct Caso {
+    const char* voce;
+    const char* file;
+    std::deque<Passo> passi;
+  };
+  const Caso kCasi[] = {
+      {"mnuStampaCompleta", "stampaRTF-C-A01.rtf", {fine("Fine stampa")}},
+      {"mnuStampaSoloTesti",
+       "stampaRTF-T-A01.rtf",
+       {chiede(filtro, Qt::Key_N), fine("Fine stampa")}},
+      {"mnuStampaProspetto",
+       "prospetto A01.rtf",
+       {chiede(formato, Qt::Key_S), fine("Fine stampa prospetto")}},
+      {"mnuStampaProspetto",
+       "prospetto A01.html",
+       {chiede(formato, Qt::Key_N), fine("Fine stampa prospetto")}},
+      {"mnuStampaConsistenza",
+       "consistenza.A01",
+       {fine("TotTAbs: 0 --- Num. docc.: 0"), fine("Fine stampa consistenza")}},
+      {"mnuUtilitaHTML", "stampaHTML A01.htm", {fine("Fine stampa HTML (consegna A01)")}},
+  };
+  for (const char* nome : {"/testata new.rtf", "/testata prospetto.rtf"}) {
+    ScriviByte(cartella.Percorso() + QLatin1String(nome), "{");
+  }
+  stato = cartella.StatoConConsegna();
+  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  const auto& offerta = Trova<QWidget>(*finestra, "offertaFile");
+  EXPECT_FALSE(offerta.isVisible());
+  for (const Caso& caso : kCasi) {
+    Scegli(caso.voce, caso.passi);
+    EXPECT_TRUE(QFile::exists(cartella.Dump(QLatin1String(caso.file)))) << caso.file;
+    EXPECT_TRUE(offerta.isVisible());
+    EXPECT_EQ(Trova<QLabel>(offerta, "nomeFileScritto").text(), caso.file);
+  }
+}
+
+// The desktop's own program is stood in for.
+class Scrivania : public QObject {
+  Q_OBJECT
+
+ public:
+  Scrivania() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Apre"); }
+  ~Scrivania() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  QStringList aperti;
+
+ public Q_SLOTS:
+  void Apre(const QUrl& indirizzo) { aperti += indirizzo.toLocalFile(); }
+};
+
+TEST_F(Finestra, OpensTheFileThatWasWrittenOrItsFolder) {
+  const QString file = cartella.Dump(QStringLiteral("consistenza.A01"));
+  ScriviByte(file, "x");
+  Scrivania scrivania;
+  finestra->DialoghiDellaFinestra().FileScritto(file);
+  Clic(*finestra, "cmdApriFile");
+  Clic(*finestra, "cmdApriCartella");
+  EXPECT_EQ(scrivania.aperti, QStringList({file, cartella.Percorso() + "/dump"}));
+  ASSERT_TRUE(QFile::remove(file));
+  Operatore::Esegue([&] { Clic(*finestra, "cmdApriFile"); },
+                    {Riquadro("TorviEditor|Non si riesce ad aprire " + file + "|OK")});
+}
+
 TEST_F(Finestra, ShowsEachErrorFile) {
   struct Caso {
     const char* voce;
@@ -324,3 +397,5 @@ TEST_F(Finestra, LetsNothingStartDuringALongRun) {
 
 }  // namespace
 }  // namespace torvi
+
+#include "MDIEditorTorvi_test.moc"
