@@ -139,6 +139,20 @@ classificazione() {
   finestra "$documento"
 }
 
+fonti() {
+  ritratto frmSceltaTipoFonte "Tipo di fonte" '{F9}' '{space}' '{alt+p}'
+  ritratto frmTabInterna "Fonte di diritto interno" ''
+  finestra "$documento"
+  batti '{F9}'
+  finestra "Tipo di fonte"
+  ritratto frmTabAltraFonte "Tipi di diritto diverso da quello interno" '{space}{Down}{alt+p}'
+  finestra "$documento"
+  batti "$(volte 20 '{shift+Tab}'){Down}"
+  ritratto frmModificaFonte "Modifica fonte" '{Tab}{Tab}{space}'
+  finestra "$documento"
+  batti "$(volte 18 '{Tab}')"
+}
+
 riassunto() {
   batti '{F10}'
   finestra "Testo riassunto"
@@ -224,7 +238,7 @@ uscita() {
 
 "$cartella/TorviEditor" 2>"$lavoro/messaggi" &
 processi+=($!)
-for passo in consegna_nuova apertura esportazione accodamento documento classificazione riassunto \
+for passo in consegna_nuova apertura esportazione accodamento documento classificazione fonti riassunto \
   testi_brevi combo_e_periodico ante_2000 cancellazione ricerca uscita; do
   "$passo"
 done
