@@ -49,6 +49,7 @@ extern const Comando kEsporta;
 extern const Comando kErrori;
 extern const Comando kStampa;
 extern const Comando kEstrai;
+extern const Comando kLotto;
 extern const Comando kControllo;
 extern const Comando kCerca;
 extern const Comando kComponi;

@@ -71,7 +71,7 @@ void DialoghiConsole::Attesa(bool attiva) {
   if (!attiva) TogliAvanzamento();
 }
 
-void DialoghiConsole::Avanzamento(const QString& cosa, int fatto, int totale) {
+void DialoghiConsole::MostraAvanzamento(const QString& cosa, int fatto, int totale) {
   if (!Terminale()) return;
   QString riga = QStringLiteral("%1: %2").arg(cosa).arg(fatto);
   if (totale > 0) riga += QStringLiteral(" di %1").arg(totale);

@@ -44,10 +44,10 @@ class DialoghiConsole : public Dialoghi {
   [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
   void FileScritto(const QString& percorso) override;
   void Attesa(bool attiva) override;
-  // One line that writes over itself, only where standard error is a terminal.
-  void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
  private:
+  // One line that writes over itself, only where standard error is a terminal.
+  void MostraAvanzamento(const QString& cosa, int fatto, int totale) override;
   void TogliAvanzamento();
   QTextStream& uscita_;
   QHash<QString, Risposta> risposte_;

@@ -107,9 +107,9 @@ int LeggiComando(const Comando& comando, const QStringList& argomenti, const QSt
 }  // namespace
 
 std::span<const Comando> Comandi() {
-  static const std::array comandi = {kNuovo,     kEsporta,  kErrori,  kStampa,   kEstrai,
-                                     kControllo, kCerca,    kComponi, kConverti, kVerifica,
-                                     kMaster,    kCatalogo, kEsempio};
+  static const std::array comandi = {kNuovo,    kEsporta,   kErrori,   kStampa,  kEstrai,
+                                     kLotto,    kControllo, kCerca,    kComponi, kConverti,
+                                     kVerifica, kMaster,    kCatalogo, kEsempio};
   return comandi;
 }
 

@@ -33,9 +33,9 @@ class DialoghiMuti : public Dialoghi {
   [[nodiscard]] QString ScegliDaLista(const QStringList& /*voci*/) override { return {}; }
   [[nodiscard]] bool ChiediLogin(const QString& /*passwordRiservata*/) override { return false; }
   void Attesa(bool /*attiva*/) override {}
-  void Avanzamento(const QString& /*cosa*/, int /*fatto*/, int /*totale*/) override {}
 
  private:
+  void MostraAvanzamento(const QString& /*cosa*/, int /*fatto*/, int /*totale*/) override {}
   void Ricorda(const QString& testo) {
     if (primaParola_.isEmpty()) primaParola_ = testo;
   }

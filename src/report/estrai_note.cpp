@@ -1,3 +1,4 @@
+#include "export/giro_documenti.h"
 #include "report/estrazione.h"
 #include "report/estrazioni.h"
 #include "shell/consegna.h"
@@ -23,19 +24,11 @@ void StampaNota(const StatoGlobale& stato, const Campo& documento, FileTesto& fi
 
 void EstraiNote(StatoGlobale& stato, Dialoghi& dialoghi) {
   Estrai(stato, dialoghi, {"note."_L1, "note"_L1}, [&](FileTesto& file) {
-    constexpr int kPasso = 100;
-    const Database& archivio = stato.DbArchivio;
-    const auto totale = archivio.OpenRecordset(u"select count(*) as quanti from tabDocumento"_s)
-                            .Fields("quanti")
-                            .Intero();
-    Recordset documenti = archivio.OpenRecordset(u"tabDocumento"_s);
-    for (int fatto = 0; !documenti.Eof(); documenti.MoveNext(), ++fatto) {
-      if (fatto % kPasso == 0) {
-        dialoghi.Avanzamento(u"Estrazione note"_s, fatto, static_cast<int>(totale));
-      }
-      StampaNota(stato, documenti.Fields("IDDocumento"), file);
-      stato.ContatoreDoc = Intero16(stato.ContatoreDoc + 1);
-    }
+    GiraDocumenti(stato, dialoghi, u"Estrazione note"_s, u"from tabDocumento"_s,
+                  [&](const Recordset& documento) {
+                    StampaNota(stato, documento.Fields("IDDocumento"), file);
+                    stato.ContatoreDoc = Intero16(stato.ContatoreDoc + 1);
+                  });
   });
 }
 

@@ -11,6 +11,8 @@
 #include "report/consistenza.h"
 #include "report/controllo_uso.h"
 #include "report/estrazioni.h"
+#include "report/frmFileSigle.h"
+#include "report/lotto.h"
 #include "report/prospetto.h"
 #include "report/stampa_html.h"
 #include "report/stampa_rtf.h"
@@ -58,6 +60,20 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
   Collega(ui_->mnuUtilitaControllo, &MDIEditorTorvi::mnuUtilitaControllo_Click);
   Collega(ui_->mnuStampaProspetto, &MDIEditorTorvi::mnuStampaProspetto_Click);
   Collega(ui_->mnuStampaConsistenza, &MDIEditorTorvi::mnuStampaConsistenza_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoStorico,
+          &MDIEditorTorvi::mnuUtilitaAggiornamentoStorico_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoISIS, &MDIEditorTorvi::mnuUtilitaAggiornamentoISIS_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoCassazione,
+          &MDIEditorTorvi::mnuUtilitaAggiornamentoCassazione_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoNote, &MDIEditorTorvi::mnuUtilitaAggiornamentoNote_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoFileNuovi,
+          &MDIEditorTorvi::mnuUtilitaAggiornamentoFileNuovi_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoCelex, &MDIEditorTorvi::mnuUtilitaAggiornamentoCelex_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoHUDOC, &MDIEditorTorvi::mnuUtilitaAggiornamentoHUDOC_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoConteggioDocumenti,
+          &MDIEditorTorvi::mnuUtilitaAggiornamentoConteggioDocumenti_Click);
+  Collega(ui_->mnuUtilitaAggiornamentoModificaLista,
+          &MDIEditorTorvi::mnuUtilitaAggiornamentoModificaLista_Click);
   Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
   Collega(ui_->mnuAggiornamentoEdita, &MDIEditorTorvi::mnuAggiornamentoEdita_Click);
   Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
@@ -214,5 +230,41 @@ void MDIEditorTorvi::mnuCaricaTabSistematici_Click() { CaricaTabSistematici(stat
 void MDIEditorTorvi::mnuCatalogoNorme_Click() { CaricaTabNorme(stato_, dialoghi_); }
 
 void MDIEditorTorvi::mnuUtilitaControllo_Click() { ControllaUso(stato_, dialoghi_); }
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoStorico_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Storico);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoISIS_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Isis);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoCassazione_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Cassazione);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoNote_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Note);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoFileNuovi_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Nuovi);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoCelex_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Celex);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoHUDOC_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Hudoc);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoConteggioDocumenti_Click() {
+  EseguiLotto(stato_, dialoghi_, Lotto::Conteggio);
+}
+
+void MDIEditorTorvi::mnuUtilitaAggiornamentoModificaLista_Click() {
+  frmFileSigle(stato_, dialoghi_, this).exec();
+}
 
 }  // namespace torvi

@@ -62,6 +62,15 @@ class MDIEditorTorvi : public QMainWindow {
   void mnuCaricaTabSistematici_Click();
   void mnuCatalogoNorme_Click();
   void mnuUtilitaControllo_Click();
+  void mnuUtilitaAggiornamentoStorico_Click();
+  void mnuUtilitaAggiornamentoISIS_Click();
+  void mnuUtilitaAggiornamentoCassazione_Click();
+  void mnuUtilitaAggiornamentoNote_Click();
+  void mnuUtilitaAggiornamentoFileNuovi_Click();
+  void mnuUtilitaAggiornamentoCelex_Click();
+  void mnuUtilitaAggiornamentoHUDOC_Click();
+  void mnuUtilitaAggiornamentoConteggioDocumenti_Click();
+  void mnuUtilitaAggiornamentoModificaLista_Click();
 
   // The document form; the one that is open where there is one.
   void MostraDocumento();

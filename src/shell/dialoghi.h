@@ -59,7 +59,16 @@ class Dialoghi {
   // Hourglass or arrow.
   virtual void Attesa(bool attiva) = 0;
   // How far a long run has come; `totale` 0 where it is not known. Ends with Attesa(false).
-  virtual void Avanzamento(const QString& cosa, int fatto, int totale) = 0;
+  void Avanzamento(const QString& cosa, int fatto, int totale) {
+    MostraAvanzamento(ambito_ + cosa, fatto, totale);
+  }
+  // What the runs that follow are part of, in front of what they say; emptied when the whole is
+  // over.
+  void Ambito(const QString& ambito) { ambito_ = ambito; }
+
+ private:
+  virtual void MostraAvanzamento(const QString& cosa, int fatto, int totale) = 0;
+  QString ambito_;
 };
 
 // The hourglass for as long as a routine runs, however it ends.

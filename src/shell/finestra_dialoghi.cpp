@@ -159,7 +159,7 @@ void DialoghiFinestra::FileScritto(const QString& percorso) { offerta_->Offri(pe
 
 void DialoghiFinestra::Attesa(bool attiva) { attesa_.Imposta(attiva); }
 
-void DialoghiFinestra::Avanzamento(const QString& cosa, int fatto, int totale) {
+void DialoghiFinestra::MostraAvanzamento(const QString& cosa, int fatto, int totale) {
   attesa_.Avanza(cosa, fatto, totale);
 }
 

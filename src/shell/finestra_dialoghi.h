@@ -27,9 +27,9 @@ class DialoghiFinestra : public Dialoghi {
   [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
   void FileScritto(const QString& percorso) override;
   void Attesa(bool attiva) override;
-  void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
  private:
+  void MostraAvanzamento(const QString& cosa, int fatto, int totale) override;
   // Boxes stand over the form that is open.
   [[nodiscard]] QWidget* Padre() const;
 

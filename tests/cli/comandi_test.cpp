@@ -204,6 +204,40 @@ TEST_F(Comandi, StampaWritesAPdfWhereLibreOfficeIs) {
   EXPECT_FALSE(QFile::exists(cartella_.Dump(QStringLiteral("stampaRTF-C-A01.rtf"))));
 }
 
+TEST_F(Comandi, LottoGathersWhatTheDeliveriesExportAlone) {
+  Riesce({QStringLiteral("catalogo"), cartella_.Mdb(QStringLiteral("catalogo norme.mdb"))});
+  QByteArray attese;
+  for (int i = 1; i <= 5; ++i) {
+    const QString archivio = cartella_.Mdb(QStringLiteral("P%1.MDB").arg(i));
+    Riesce({QStringLiteral("esempio"), archivio, QStringLiteral("--documenti"),
+            QString::number(4 + i)});
+    Riesce({QStringLiteral("esporta"), QStringLiteral("isis"), archivio}, kFine);
+    if (i != 3) attese += Uscita("lexxdump isis.A01");
+  }
+  {  // fails behind its first documents
+    const Database rotto = OpenDatabase(cartella_.Mdb(QStringLiteral("P3.MDB")));
+    rotto.Execute(QStringLiteral("update TabDocumento set IDRifBibl = 0 where IDDocumento = 4"));
+  }
+  const QString lista = cartella_.Mdb(QStringLiteral("sigle.A02"));
+  ScriviByte(lista, "P1\r\nP2\r\np3\r\nP4\r\nP5\r\n");
+  const QStringList lotto{QStringLiteral("lotto"), QStringLiteral("isis"), lista};
+  EsitoProgramma esito = Esegui(lotto + QStringList{QStringLiteral("--prosegui")});
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_EQ(Uscita("lexxdump isis.A02"), attese);
+  EXPECT_TRUE(esito.errori.contains(QStringLiteral("\nConsegna p3: 3021 --> ")))
+      << esito.errori.toStdString();
+  EXPECT_TRUE(esito.errori.endsWith(QStringLiteral("\nNon riuscite: p3: consegne fatte 4 di 5\n")));
+  esito = Esegui(lotto);
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.contains(QStringLiteral("\n3021 --> "))) << esito.errori.toStdString();
+  EXPECT_TRUE(esito.errori.endsWith(
+      QStringLiteral("\nInterrotto alla consegna p3: consegne fatte 2 di 5\n")));
+  esito = Esegui({QStringLiteral("lotto"), QStringLiteral("note"), lista + "x"});
+  EXPECT_EQ(esito.codice, 1);
+  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("53 --> "))) << esito.errori.toStdString();
+  Riesce({QStringLiteral("lotto"), QStringLiteral("conteggio"), lista});
+}
+
 TEST_F(Comandi, CercaWritesTheNumbersFound) {
   PreparaEsempio(12);
   const QStringList cerca{QStringLiteral("cerca"), Archivio(), QStringLiteral("--campo"),

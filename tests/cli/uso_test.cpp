@@ -64,7 +64,7 @@ TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
   const QString generale = Torvi({QStringLiteral("--aiuto")}).uscita;
   EXPECT_TRUE(generale.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] COMANDO")));
   for (const char* comando :
-       {"nuovo", "esporta", "errori", "stampa", "estrai", "controllo", "cerca", "componi",
+       {"nuovo", "esporta", "errori", "stampa", "estrai", "lotto", "controllo", "cerca", "componi",
         "converti", "verifica", "master", "catalogo", "esempio"}) {
     const QString nome = QString::fromLatin1(comando);
     EXPECT_TRUE(generale.contains(QStringLiteral("  torvi %1 ").arg(nome))) << comando;

@@ -153,8 +153,9 @@ bool DialoghiScritti::ChiediLogin(const QString& /*passwordRiservata*/) {
 
 void DialoghiScritti::Attesa(bool attiva) { attese_ += attiva ? 1 : -1; }
 
-void DialoghiScritti::Avanzamento(const QString& /*cosa*/, int /*fatto*/, int /*totale*/) {
+void DialoghiScritti::MostraAvanzamento(const QString& cosa, int /*fatto*/, int /*totale*/) {
   ++avanzamenti_;
+  if (avanzati_.isEmpty() || avanzati_.last() != cosa) avanzati_ += cosa;
 }
 
 }  // namespace torvi

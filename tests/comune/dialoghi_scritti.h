@@ -76,6 +76,8 @@ class DialoghiScritti : public Dialoghi {
   [[nodiscard]] int Avanzamenti() const { return avanzamenti_; }
   // The file that a print or an export finished last.
   [[nodiscard]] const QString& UltimoFile() const { return ultimoFile_; }
+  // What was said of them, each once in a row.
+  [[nodiscard]] const QStringList& Avanzati() const { return avanzati_; }
 
   void Messaggio(const QString& testo, const QString& titolo, Icona icona) override;
   [[nodiscard]] Risposta Domanda(const QString& testo, const QString& titolo,
@@ -91,9 +93,9 @@ class DialoghiScritti : public Dialoghi {
   [[nodiscard]] bool ChiediLogin(const QString& passwordRiservata) override;
   void FileScritto(const QString& percorso) override { ultimoFile_ = percorso; }
   void Attesa(bool attiva) override;
-  void Avanzamento(const QString& cosa, int fatto, int totale) override;
 
  private:
+  void MostraAvanzamento(const QString& cosa, int fatto, int totale) override;
   struct Battuta {
     Parola parola;
     Risposta risposta = Risposta::Ok;
@@ -113,6 +115,7 @@ class DialoghiScritti : public Dialoghi {
   QString ultimoFile_;
   int attese_ = 0;
   int avanzamenti_ = 0;
+  QStringList avanzati_;
 };
 
 }  // namespace torvi

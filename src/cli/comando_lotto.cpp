@@ -1,0 +1,52 @@
+#include <array>
+
+#include "cli/comando.h"
+#include "cli/per_nome.h"
+#include "report/lotto.h"
+#include "shell/percorsi.h"
+
+namespace torvi {
+
+namespace {
+
+constexpr std::array kOpzioni = {Opzione{"prosegui", nullptr}};
+
+QString Resoconto(const EsitoLotto& esito, bool prosegue) {
+  return QStringLiteral("%1 %2: consegne fatte %3 di %4")
+      .arg(prosegue ? QStringLiteral("Non riuscite:") : QStringLiteral("Interrotto alla consegna"),
+           esito.fallite.join(u' '))
+      .arg(esito.fatte)
+      .arg(esito.consegne);
+}
+
+Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
+  const VoceLotto& voce = PerNome(VociLotto(), righe.positionalArguments().constFirst());
+  const bool prosegue = righe.isSet(QStringLiteral("prosegui"));
+  contesto.dialoghi.FileUscitaScelto(TrovaPercorso(righe.positionalArguments().constLast()));
+  const EsitoLotto esito = EseguiLotto(contesto.stato, contesto.dialoghi, voce.lotto,
+                                       prosegue ? AlGuasto::Prosegui : AlGuasto::Ferma);
+  if (!esito.fallite.isEmpty()) contesto.dialoghi.Messaggio(Resoconto(esito, prosegue));
+  return esito.riuscito ? Esito::Fatto : Esito::Fallito;
+}
+
+}  // namespace
+
+const Comando kLotto = {
+    "lotto",
+    "isis|cassazione|storico|celex|hudoc|note|nuovi|conteggio FILE_SIGLE [--prosegui]",
+    "Fa la stessa operazione su più consegne e ne raccoglie i risultati in un solo file di dump/,\n"
+    "che ha per estensione gli ultimi tre caratteri di FILE_SIGLE. FILE_SIGLE ha una sigla per\n"
+    "riga: la sigla X è l'archivio mdb/X.mdb. Ciò che il file di dump/ contiene resta, e il nuovo\n"
+    "si aggiunge in coda; solo il conteggio lo riscrive.\n\n"
+    "  isis, cassazione, storico  l'esportazione nei tre formati\n"
+    "  celex, hudoc               le stampe HTML di controllo\n"
+    "  note, nuovi                le estrazioni\n"
+    "  conteggio                  quanti documenti ha ciascuna consegna\n\n"
+    "  --prosegui  una consegna che non riesce viene nominata con il suo errore e non lascia\n"
+    "              nulla nel file comune; le altre si fanno. Altrimenti il lotto si ferma. In\n"
+    "              entrambi i casi l'esito è 1\n",
+    2,
+    kOpzioni,
+    Esegui};
+
+}  // namespace torvi
