@@ -83,6 +83,22 @@ esportazione() {
   finestra "$aperto"
 }
 
+stampe() {
+  batti '{alt+s}'
+  scatta menu_stampa
+  batti p
+  finestra "TorviEditor"
+  batti n
+  finestra "TorviEditor"
+  batti '{Return}'
+  finestra "$aperto"
+  batti '{alt+s}c'
+  finestra "TorviEditor"
+  batti '{Return}'
+  finestra "$aperto"
+  scatta stampa_fatta
+}
+
 accodamento() {
   batti '{alt+e}fc'
   finestra "Esportazione per ISIS"
@@ -238,8 +254,8 @@ uscita() {
 
 "$cartella/TorviEditor" 2>"$lavoro/messaggi" &
 processi+=($!)
-for passo in consegna_nuova apertura esportazione accodamento documento classificazione fonti riassunto \
-  testi_brevi combo_e_periodico ante_2000 cancellazione ricerca uscita; do
+for passo in consegna_nuova apertura esportazione stampe accodamento documento classificazione fonti \
+  riassunto testi_brevi combo_e_periodico ante_2000 cancellazione ricerca uscita; do
   "$passo"
 done
 ls "$immagini"

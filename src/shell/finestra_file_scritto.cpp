@@ -20,7 +20,6 @@ OffertaFile::OffertaFile(QMainWindow& finestra, Dialoghi& dialoghi)
   const auto pulsante = [this, fila](const char* nome, const QString& testo) {
     auto* nuovo = new QPushButton(testo, this);
     nuovo->setObjectName(QLatin1String(nome));
-    nuovo->setFlat(true);
     nuovo->setFocusPolicy(Qt::NoFocus);  // the keys stay with the form on screen
     fila->addWidget(nuovo);
     return nuovo;
