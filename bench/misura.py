@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Measures export, prints and conversion against public tools, in alternating pairs of whole processes.
+"""Measures export, prints, batch and conversion against public tools, in alternating pairs.
 
 usage: bench/misura.py [--torvi build/release/bin/torvi] [--coppie 5] [--jet FILE.mdb]
 
@@ -63,6 +63,8 @@ class Cartella:
 
     def esempio(self, documenti):
         archivio = self.radice / "mdb" / f"{documenti}.mdb"
+        if archivio.exists():
+            return archivio
         prova = self.fai("esempio", archivio, "--documenti", str(documenti))
         print(f"  esempio {documenti:<20} {prova.secondi:7.3f} s  {archivio.stat().st_size >> 20} MB")
         return archivio
@@ -106,6 +108,30 @@ def stampe(cartella, archivio, coppie):
         print(f"  {nome + ' / .dump':<28} {secondi / dump:6.2f}   (al più {limite})")
 
 
+def lotto(cartella, coppie, consegne=200, documenti=300):
+    print(f"Lotto (isis) di {consegne} consegne di {documenti} documenti")
+    sola, grande, uno = map(cartella.esempio, (documenti, 20000, 1))
+    mdb = cartella.radice / "mdb"
+    sigle = [f"L{i:03}" for i in range(consegne)]
+    for sigla in sigle:
+        shutil.copy(sola, mdb / f"{sigla}.mdb")
+    liste = {"lotto": mdb / "sigle.300", "vuoto": mdb / "sigle.001"}
+    liste["lotto"].write_text("".join(f"{sigla}\n" for sigla in sigle))
+    liste["vuoto"].write_text(f"{uno.stem}\n" * consegne)
+    prove = {"grande": [], "lotto": [], "vuoto": []}
+    for _ in range(coppie):
+        prove["grande"].append(cartella.fai("esporta", "isis", grande))
+        for nome, lista in liste.items():
+            prove[nome].append(cartella.fai("lotto", "isis", lista))
+            (cartella.radice / "dump" / f"lexxdump isis.{lista.suffix[1:]}").unlink()
+    venti = stampa("torvi esporta, 20.000", prove["grande"])
+    tutte = stampa(f"torvi lotto, {consegne} x {documenti}", prove["lotto"])
+    vuote = stampa(f"torvi lotto, {consegne} x 1", prove["vuoto"])
+    per_documento = tutte / (consegne * documenti)
+    print(f"  per documento, lotto / 20.000 {per_documento / (venti / 20000):5.2f}   (al più 1,2)")
+    print(f"  di cui aprire e chiudere     {vuote / tutte:6.2f}")
+
+
 def conversione(cartella, jet, coppie):
     print(f"Conversione di {jet.name} e mdb-export di tutte le tabelle")
     tabelle = subprocess.run(["mdb-tables", "-1", jet], check=True, capture_output=True, text=True)
@@ -131,6 +157,7 @@ def main():
         cartella = Cartella(scelte.torvi, pathlib.Path(temporanea))
         grande = esportazione(cartella, scelte.coppie)
         stampe(cartella, grande, scelte.coppie)
+        lotto(cartella, scelte.coppie)
         if scelte.jet.exists():
             conversione(cartella, scelte.jet, scelte.coppie)
 

@@ -238,6 +238,25 @@ ricerca() {
   finestra "$aperto"
 }
 
+riservata() {
+  ritratto frmLogin "Login per accesso alla parte riservata" '{alt+u}{Up}{Return}' 'supervisore{Tab}password'
+  finestra "TorviEditor"
+  batti '{Return}'
+  finestra "$aperto"
+}
+
+lista_sigle() {
+  printf 'A01\r\nB01\r\n' >"$cartella/mdb/sigle.A03"
+  batti '{alt+u}am'
+  finestra "Composizione file sigle"
+  batti '{Tab}{space}'
+  finestra "Apri file sigle"
+  batti 'sigle.A03{Return}'
+  finestra "Composizione file sigle"
+  ritratto frmFileSigle "Composizione file sigle" '' '{Tab}{Down}'
+  finestra "$aperto"
+}
+
 uscita() {
   batti '{alt+f}c{alt+f}a'
   finestra "Apri archivio"
@@ -255,7 +274,7 @@ uscita() {
 "$cartella/TorviEditor" 2>"$lavoro/messaggi" &
 processi+=($!)
 for passo in consegna_nuova apertura esportazione stampe accodamento documento classificazione fonti \
-  riassunto testi_brevi combo_e_periodico ante_2000 cancellazione ricerca uscita; do
+  riassunto testi_brevi combo_e_periodico ante_2000 cancellazione ricerca riservata lista_sigle uscita; do
   "$passo"
 done
 ls "$immagini"

@@ -3,13 +3,14 @@
 #include "cli/comando.h"
 #include "cli/per_nome.h"
 #include "report/lotto.h"
+#include "report/pdf.h"
 #include "shell/percorsi.h"
 
 namespace torvi {
 
 namespace {
 
-constexpr std::array kOpzioni = {Opzione{"prosegui", nullptr}};
+constexpr std::array kOpzioni = {Opzione{"prosegui", nullptr}, Opzione{"pdf", nullptr}};
 
 QString Resoconto(const EsitoLotto& esito, bool prosegue) {
   return QStringLiteral("%1 %2: consegne fatte %3 di %4")
@@ -22,10 +23,15 @@ QString Resoconto(const EsitoLotto& esito, bool prosegue) {
 Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
   const VoceLotto& voce = PerNome(VociLotto(), righe.positionalArguments().constFirst());
   const bool prosegue = righe.isSet(QStringLiteral("prosegui"));
+  const bool pdf = righe.isSet(QStringLiteral("pdf"));
+  const QString programma = pdf ? ProgrammaPdf() : QString();
   contesto.dialoghi.FileUscitaScelto(TrovaPercorso(righe.positionalArguments().constLast()));
   const EsitoLotto esito = EseguiLotto(contesto.stato, contesto.dialoghi, voce.lotto,
                                        prosegue ? AlGuasto::Prosegui : AlGuasto::Ferma);
   if (!esito.fallite.isEmpty()) contesto.dialoghi.Messaggio(Resoconto(esito, prosegue));
+  if (pdf && esito.fatte > 0) {
+    contesto.uscita << ConvertiInPdf(programma, contesto.stato.FileBatch) << '\n';
+  }
   return esito.riuscito ? Esito::Fatto : Esito::Fallito;
 }
 
@@ -33,7 +39,8 @@ Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
 
 const Comando kLotto = {
     "lotto",
-    "isis|cassazione|storico|celex|hudoc|note|nuovi|conteggio FILE_SIGLE [--prosegui]",
+    "isis|cassazione|storico|celex|hudoc|note|nuovi|conteggio FILE_SIGLE [--prosegui] "
+    "[--pdf]",
     "Fa la stessa operazione su più consegne e ne raccoglie i risultati in un solo file di dump/,\n"
     "che ha per estensione gli ultimi tre caratteri di FILE_SIGLE. FILE_SIGLE ha una sigla per\n"
     "riga: la sigla X è l'archivio mdb/X.mdb. Ciò che il file di dump/ contiene resta, e il nuovo\n"
@@ -44,7 +51,8 @@ const Comando kLotto = {
     "  conteggio                  quanti documenti ha ciascuna consegna\n\n"
     "  --prosegui  una consegna che non riesce viene nominata con il suo errore e non lascia\n"
     "              nulla nel file comune; le altre si fanno. Altrimenti il lotto si ferma. In\n"
-    "              entrambi i casi l'esito è 1\n",
+    "              entrambi i casi l'esito è 1\n"
+    "  --pdf       anche in PDF, di cui scrive il nome; vuole LibreOffice installato\n",
     2,
     kOpzioni,
     Esegui};

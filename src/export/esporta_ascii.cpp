@@ -89,13 +89,18 @@ Destinazione ChiediDestinazione(StatoGlobale& stato, Dialoghi& dialoghi,
 }  // namespace
 
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag) {
+  CatalogoNorme catalogo(stato.CartellaApplicazione);
+  EsportaAscii(stato, dialoghi, flag, catalogo);
+}
+
+void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag,
+                  CatalogoNorme& catalogo) {
   Clessidra clessidra(dialoghi);
   LeggiInfoConsegna(stato);
   const Destinazione destinazione =
       stato.ModoBatch ? Accodata(stato) : ChiediDestinazione(stato, dialoghi, flag);
   FileEsportazione file(stato, destinazione);
   Record record;
-  CatalogoNorme catalogo(stato.CartellaApplicazione);
   ContestoEsportazione contesto = file.Contesto(stato, record, catalogo);
   const int fatti = GiraDocumenti(
       stato, dialoghi, QStringLiteral("Esportazione"), QStringLiteral("from tabDocumento"),

@@ -6,6 +6,8 @@
 
 namespace torvi {
 
+class CatalogoNorme;
+
 // What a flavour writes follows from these alone.
 struct FlagEsportazione {
   bool flagCassazione = false;
@@ -25,5 +27,8 @@ inline constexpr FlagEsportazione kEsportaStorico{false, true, false};
 // (3021), Null where text is needed (94), a row that a document refers to and that is not there
 // (3021), a counter past 32767 (6), 245 or 1000 characters without a blank (5).
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag);
+// The same with a catalogue that several runs share.
+void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag,
+                  CatalogoNorme& catalogo);
 
 }  // namespace torvi

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "archive/errore.h"
+#include "export/catalogo_norme.h"
 #include "export/esporta_ascii.h"
 #include "report/estrazioni.h"
 #include "report/sigle.h"
@@ -23,8 +24,13 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 template <const FlagEsportazione& flag>
-void Esporta(StatoGlobale& stato, Dialoghi& dialoghi) {
-  EsportaAscii(stato, dialoghi, flag);
+void Esporta(StatoGlobale& stato, Dialoghi& dialoghi, CatalogoNorme& catalogo) {
+  EsportaAscii(stato, dialoghi, flag, catalogo);
+}
+
+template <auto routine>
+void SenzaCatalogo(StatoGlobale& stato, Dialoghi& dialoghi, CatalogoNorme& /*catalogo*/) {
+  routine(stato, dialoghi);
 }
 
 constexpr std::array kVoci = {
@@ -35,10 +41,11 @@ constexpr std::array kVoci = {
               {},
               Esporta<kEsportaCassazione>},
     VoceLotto{"storico", Lotto::Storico, "lexxdump storico."_L1, {}, Esporta<kEsportaStorico>},
-    VoceLotto{"celex", Lotto::Celex, "StampaHTML "_L1, ".htm"_L1, StampaHTMLCelex},
-    VoceLotto{"hudoc", Lotto::Hudoc, "StampaHTML_GEI "_L1, ".htm"_L1, StampaHTMLHudoc},
-    VoceLotto{"note", Lotto::Note, "note."_L1, {}, EstraiNote},
-    VoceLotto{"nuovi", Lotto::Nuovi, "nuovi."_L1, {}, EstraiNuovi},
+    VoceLotto{"celex", Lotto::Celex, "StampaHTML "_L1, ".htm"_L1, SenzaCatalogo<StampaHTMLCelex>},
+    VoceLotto{"hudoc", Lotto::Hudoc, "StampaHTML_GEI "_L1, ".htm"_L1,
+              SenzaCatalogo<StampaHTMLHudoc>},
+    VoceLotto{"note", Lotto::Note, "note."_L1, {}, SenzaCatalogo<EstraiNote>},
+    VoceLotto{"nuovi", Lotto::Nuovi, "nuovi."_L1, {}, SenzaCatalogo<EstraiNuovi>},
     VoceLotto{"conteggio", Lotto::Conteggio, "conteggio."_L1, {}, nullptr},
 };
 
@@ -63,7 +70,7 @@ struct Conteggio {
 class Giro {
  public:
   Giro(StatoGlobale& stato, Dialoghi& dialoghi, const VoceLotto& voce)
-      : stato_(stato), dialoghi_(dialoghi), voce_(voce) {}
+      : stato_(stato), dialoghi_(dialoghi), voce_(voce), catalogo_(stato.CartellaApplicazione) {}
 
   void Fa(AlGuasto alGuasto, EsitoLotto& esito) {
     const QStringList sigle = LeggiSigle(stato_.FileBatch);
@@ -100,7 +107,7 @@ class Giro {
 
   void Opera() {
     if (!conteggio_) {
-      voce_.operazione(stato_, dialoghi_);
+      voce_.operazione(stato_, dialoghi_, catalogo_);
       return;
     }
     dialoghi_.Avanzamento(u"Conteggio documenti"_s, 0, 0);
@@ -111,11 +118,13 @@ class Giro {
     conteggio_->file.Print(
         u"%1 documenti in %2 consegne"_s.arg(conteggio_->documenti).arg(consegne));
     conteggio_->file.Close();
+    dialoghi_.FileScritto(stato_.FileBatch);
   }
 
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
   const VoceLotto& voce_;
+  CatalogoNorme catalogo_;
   std::optional<Conteggio> conteggio_;
 };
 

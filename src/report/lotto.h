@@ -10,6 +10,8 @@
 
 namespace torvi {
 
+class CatalogoNorme;
+
 enum class Lotto { Isis, Cassazione, Storico, Celex, Hudoc, Note, Nuovi, Conteggio };
 
 struct VoceLotto {
@@ -17,8 +19,9 @@ struct VoceLotto {
   Lotto lotto;
   QLatin1StringView uscita;  // in dump/, before the extension of the list
   QLatin1StringView coda;    // behind it
-  // Appends to FileBatch itself; nullptr: the documents are counted.
-  void (*operazione)(StatoGlobale& stato, Dialoghi& dialoghi);
+  // Appends to FileBatch itself; nullptr: the documents are counted. The catalogue is one for all
+  // deliveries.
+  void (*operazione)(StatoGlobale& stato, Dialoghi& dialoghi, CatalogoNorme& catalogo);
 };
 [[nodiscard]] std::span<const VoceLotto> VociLotto();
 
