@@ -155,20 +155,6 @@ classificazione() {
   finestra "$documento"
 }
 
-fonti() {
-  ritratto frmSceltaTipoFonte "Tipo di fonte" '{F9}' '{space}' '{alt+p}'
-  ritratto frmTabInterna "Fonte di diritto interno" ''
-  finestra "$documento"
-  batti '{F9}'
-  finestra "Tipo di fonte"
-  ritratto frmTabAltraFonte "Tipi di diritto diverso da quello interno" '{space}{Down}{alt+p}'
-  finestra "$documento"
-  batti "$(volte 20 '{shift+Tab}'){Down}"
-  ritratto frmModificaFonte "Modifica fonte" '{Tab}{Tab}{space}'
-  finestra "$documento"
-  batti "$(volte 18 '{Tab}')"
-}
-
 riassunto() {
   batti '{F10}'
   finestra "Testo riassunto"
@@ -193,6 +179,51 @@ testi_brevi() {
     'Controllare la classificazione\chiedere la data alla redazione' '{Tab}{Tab}{space}'
   finestra "$documento"
   batti "$(volte 9 '{Tab}')"
+}
+
+# A page of a form with tabs: its kind and its fields are typed, the preview follows.
+scheda() {
+  batti "$2"
+  immagine_finestra "$immagini/$1.png"
+  batti "${3:-{ctrl+Tab\}}"
+}
+
+fonti_interne() {
+  ritratto frmSceltaTipoFonte "Tipo di fonte" '{F9}' '' '{Return}'
+  finestra "Fonte di diritto interno"
+  scheda frmTabInterna_costituzione 'cost.{Tab}3{Tab}{Tab}2'
+  scheda frmTabInterna_codificazioni 'c.c.{Tab}2043'
+  scheda frmTabInterna_giurisprudenza \
+    '{ctrl+Tab}ordinaria{Tab}{Down}{Tab}roma{Tab}{Tab}I{Tab}{Tab}{Tab}5{Tab}mag{Tab}1999' \
+    '{ctrl+shift+Tab}'
+  scheda frmTabInterna_normativa \
+    'governativi{Tab}{Down}{Tab}giust{Tab}{Down}{Return}5{Tab}lug{Tab}2003{Tab}12' \
+    "$(volte 10 '{Tab}'){space}"
+  ritratto frmTabInterna_catalogo "Fonte di diritto interno" '' \
+    "$(volte 5 '{Tab}')tutela{Tab}{Right}{Tab}{Tab}{space}{Down}" '{Escape}'
+  batti '{Escape}'
+  finestra "$documento"
+}
+
+fonti_altre() {
+  batti '{F9}'
+  finestra "Tipo di fonte"
+  batti '{Down}{Return}'
+  finestra "Tipi di diritto diverso da quello interno"
+  scheda frmTabAltraFonte_trattati 'nit{Tab}{Tab}{Tab}{Tab}{Down}{Down}' '{Escape}'
+  scheda frmTabAltraFonte_internazionale '{ctrl+a}gei{Tab}{Down}{Tab}3{Tab}mar{Tab}1995'
+  scheda frmTabAltraFonte_comunitario 'derivato{Tab}reg. ue{Tab}{Tab}{Tab}2016{Tab}679{Tab}5'
+  scheda frmTabAltraFonte_straniero "ns$(volte 5 '{Tab}')1382$(volte 7 '{Tab}')c. civ.{Tab}Francia"
+  scheda frmTabAltraFonte_canonico 'fcg{Tab}{Down}{Tab}{Tab}{Tab}1999'
+  scheda frmTabAltraFonte_storiche 'fsr{Tab}{Down}{Tab}D. 1.1.1' '{Escape}'
+  finestra "$documento"
+}
+
+correzione_fonte() {
+  batti '{F6}{F5}'
+  ritratto frmModificaFonte "Modifica fonte" "$(volte 20 '{shift+Tab}'){Down}{Down}{Tab}{Tab}{space}"
+  finestra "$documento"
+  batti "$(volte 18 '{Tab}')"
 }
 
 combo_e_periodico() {
@@ -273,8 +304,9 @@ uscita() {
 
 "$cartella/TorviEditor" 2>"$lavoro/messaggi" &
 processi+=($!)
-for passo in consegna_nuova apertura esportazione stampe accodamento documento classificazione fonti \
-  riassunto testi_brevi combo_e_periodico ante_2000 cancellazione ricerca riservata lista_sigle uscita; do
+for passo in consegna_nuova apertura esportazione stampe accodamento documento classificazione \
+  riassunto testi_brevi fonti_interne fonti_altre correzione_fonte combo_e_periodico ante_2000 \
+  cancellazione ricerca riservata lista_sigle uscita; do
   "$passo"
 done
 ls "$immagini"
