@@ -32,7 +32,7 @@ struct ContestoEsportazione {
   CoppieClasse coppieClasse{stato.DbArchivio, codici};
   Descrizioni1999 descrizioni1999{stato.DbArchivio};
   CoppieDecodificate coppie = {};
-  LettoreRiferimenti riferimenti = {};
+  LettoreRiferimenti riferimenti{stato.DbArchivio};
 };
 
 }  // namespace torvi

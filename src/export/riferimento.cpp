@@ -104,7 +104,7 @@ void Riferimento::Lingua(const char* sottocampo, const QString& lingua) {
 void ScriviRiferimento(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
                        const DatiDocumento& documento) {
   const RiferimentoFascicolo& fascicolo =
-      contesto.riferimenti.Leggi(contesto.stato.DbArchivio, documento.IDRifBibl, idRecord.left(4));
+      contesto.riferimenti.Leggi(documento.IDRifBibl, idRecord.left(4));
   Riferimento riferimento(contesto, idDoc, idRecord);
   riferimento.Fascicolo(fascicolo);
   riferimento.Documento(documento, fascicolo.volume);

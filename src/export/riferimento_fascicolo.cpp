@@ -10,8 +10,12 @@ using namespace Qt::Literals::StringLiterals;
 
 class Compositore {
  public:
-  Compositore(const Recordset& riga, RiferimentoFascicolo& riferimento)
-      : riga_(riga), data_(riga.Fields("Data").TestoOVuoto()), riferimento_(riferimento) {}
+  Compositore(const Recordset& riga, const QString& annoProduzione,
+              RiferimentoFascicolo& riferimento)
+      : riga_(riga),
+        annoProduzione_(annoProduzione),
+        data_(riga.Fields("Data").TestoOVuoto()),
+        riferimento_(riferimento) {}
 
   void Primo();
   void Secondo();
@@ -23,6 +27,7 @@ class Compositore {
   void Aggiungi(const char* sottocampo, const Parte& parte);
 
   const Recordset& riga_;
+  const QString& annoProduzione_;
   CifreData data_;
   RiferimentoFascicolo& riferimento_;
 };
@@ -44,7 +49,7 @@ void Compositore::Primo() {
 void Compositore::Data() {
   if (!riga_.Fields("Data").Presente()) return;
   riferimento_.dopo2000 = data_.Anno() >= "2000"_L1;
-  Aggiungi("DATA", ParteData(data_, riferimento_.annoProduzione));
+  Aggiungi("DATA", ParteData(data_, annoProduzione_));
 }
 
 void Compositore::Fascicolo() {
@@ -85,23 +90,12 @@ void Compositore::Aggiungi(const char* sottocampo, const Parte& parte) {
 
 }  // namespace
 
-const RiferimentoFascicolo& LettoreRiferimenti::Leggi(const Database& archivio, qint16 idRifBibl,
-                                                      const QString& annoProduzione) {
-  if (ultimo_ && ultimo_->IDRifBibl == idRifBibl && ultimo_->annoProduzione == annoProduzione) {
-    return *ultimo_;
-  }
-  const Recordset riga = archivio.OpenRecordset(
-      QStringLiteral("select * from tabRifBibl, tabRivista where tabRifBibl.IDRifBibl = ? and "
-                     "tabRifBibl.IDRivista = tabRivista.IDRivista"),
-      {static_cast<qint64>(idRifBibl)});
+RiferimentoFascicolo ComponiRiferimento(const Recordset& riga, const QString& annoProduzione) {
   RiferimentoFascicolo riferimento;
-  riferimento.IDRifBibl = idRifBibl;
-  riferimento.annoProduzione = annoProduzione;
-  Compositore compositore(riga, riferimento);
+  Compositore compositore(riga, annoProduzione, riferimento);
   compositore.Primo();
   compositore.Secondo();
-  ultimo_ = std::move(riferimento);
-  return *ultimo_;
+  return riferimento;
 }
 
 }  // namespace torvi

@@ -4,13 +4,11 @@
 #include <QStringList>
 #include <optional>
 
-#include "archive/database.h"
+#include "export/lettore_fascicoli.h"
 
 namespace torvi {
 
 struct RiferimentoFascicolo {
-  qint16 IDRifBibl = 0;
-  QString annoProduzione;
   QString primo;      // field 5
   QString secondo;    // the beginning of field 14, before the pages
   QString volume;     // the value of its last subfield; empty: none
@@ -19,15 +17,9 @@ struct RiferimentoFascicolo {
   std::optional<bool> dopo2000 = {};  // nothing where the reference has no date
 };
 
-// The documents of one issue come one behind the other, so the last reference is kept.
-class LettoreRiferimenti {
- public:
-  // No such reference, or no such journal: error 3021.
-  [[nodiscard]] const RiferimentoFascicolo& Leggi(const Database& archivio, qint16 idRifBibl,
-                                                  const QString& annoProduzione);
-
- private:
-  std::optional<RiferimentoFascicolo> ultimo_;
-};
+// Of a row that joins reference and journal; none: error 3021.
+[[nodiscard]] RiferimentoFascicolo ComponiRiferimento(const Recordset& riga,
+                                                      const QString& annoProduzione);
+using LettoreRiferimenti = LettoreFascicoli<RiferimentoFascicolo, ComponiRiferimento>;
 
 }  // namespace torvi

@@ -1,7 +1,7 @@
 #include "report/consistenza.h"
 
-#include "export/file_testo.h"
 #include "report/testo_citato.h"
+#include "report/uscita_consegna.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 #include "shell/valori.h"
@@ -11,21 +11,20 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-qint16 ContaDocumentiFascicolo(const Database& archivio, const Campo& fascicolo,
+// Stands for an issue without number, also where an issue has these words for its own.
+const QString kFascicoloNullo = QStringLiteral("<Null>");
+
+qint16 ContaDocumentiFascicolo(const Database& archivio, const QString& fascicolo,
                                const QString& data, const Campo& idRivista) {
   const QChar apostrofo(u'\'');
+  const bool nullo = fascicolo == kFascicoloNullo;
   QList<Campo> parametri = {TestoCitato(data, apostrofo), idRivista};
-  if (!fascicolo.Nullo()) parametri.prepend(TestoCitato(fascicolo.Testo(), apostrofo));
+  if (!nullo) parametri.prepend(TestoCitato(fascicolo, apostrofo));
   const Recordset conto = archivio.OpenRecordset(
-      fascicolo.Nullo()
-          ? QStringLiteral("SELECT count(TabDocumento.IDdocumento) as n FROM TabRifBibl INNER JOIN "
-                           "TabDocumento ON TabRifBibl.IDRifBibl = TabDocumento.IDRifBibl WHERE "
-                           "TabRifBibl.Fascicolo is null and TabRifBibl.Data = ? and "
-                           "TabRifBibl.IDRivista = ?")
-          : QStringLiteral("SELECT count(TabDocumento.IDdocumento) as n FROM TabRifBibl INNER JOIN "
-                           "TabDocumento ON TabRifBibl.IDRifBibl = TabDocumento.IDRifBibl WHERE "
-                           "TabRifBibl.Fascicolo = ? and TabRifBibl.Data = ? and "
-                           "TabRifBibl.IDRivista = ?"),
+      "SELECT count(TabDocumento.IDdocumento) as n FROM TabRifBibl INNER JOIN TabDocumento ON "
+      "TabRifBibl.IDRifBibl = TabDocumento.IDRifBibl WHERE TabRifBibl.Fascicolo "_L1 +
+          (nullo ? "is null"_L1 : "= ?"_L1) +
+          " and TabRifBibl.Data = ? and TabRifBibl.IDRivista = ?"_L1,
       parametri);
   return conto.Fields("n").Intero16();
 }
@@ -42,7 +41,9 @@ qint64 StampaFascicoli(const Database& archivio, Dialoghi& dialoghi, FileTesto& 
   for (int fatto = 0; !riga.Eof(); riga.MoveNext(), ++fatto) {
     const Campo fascicolo = riga.Fields("Fascicolo");
     const QString data = riga.Fields("Data").TestoOVuoto();
-    const qint16 n = ContaDocumentiFascicolo(archivio, fascicolo, data, riga.Fields("IDRivista"));
+    const qint16 n =
+        ContaDocumentiFascicolo(archivio, fascicolo.Nullo() ? kFascicoloNullo : fascicolo.Testo(),
+                                data, riga.Fields("IDRivista"));
     totale += n;
     uscita.Print(QString::number(n).rightJustified(7) + "###"_L1 + riga.Fields("CPER").Testo() +
                  QLatin1Char(' ') + data.right(4) + QLatin1Char(' ') +
@@ -79,10 +80,7 @@ void StampaConsistenza(StatoGlobale& stato, Dialoghi& dialoghi) {
   uscita.Print("Num. iniziale: "_L1 + Numero(stato, stato.ContatoreDoc) + "   Num. finale: "_L1 +
                Numero(stato, stato.ContatoreDoc + documenti - 1) + "   Num. docc.: "_L1 + quanti);
   dialoghi.Messaggio("TotTAbs: "_L1 + totale + " --- Num. docc.: "_L1 + quanti);
-  uscita.Close();
-  clessidra.Togli();
-  dialoghi.FileScritto(uscita.Percorso());
-  dialoghi.Messaggio(QStringLiteral("Fine stampa consistenza"));
+  Concludi(uscita, clessidra, dialoghi, QStringLiteral("Fine stampa consistenza"));
 }
 
 }  // namespace torvi

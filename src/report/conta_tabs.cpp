@@ -7,6 +7,8 @@
 
 namespace torvi {
 
+using namespace Qt::Literals::StringLiterals;
+
 qint16 Somma(const ConteggiTAbs& conteggi) {
   return Intero16(std::accumulate(conteggi.begin(), conteggi.end(), qint64{0}));
 }
@@ -18,16 +20,11 @@ ConteggiTAbs ContaTAbs(const Database& archivio, const Campo& idRivista, const Q
   if (!fascicolo.isEmpty()) parametri += TestoCitato(fascicolo, virgolette);
   // All types at once: an issue is looked up once, not six times.
   Recordset conto = archivio.OpenRecordset(
-      fascicolo.isEmpty()
-          ? QStringLiteral("SELECT TabDocumento.TAbs, count(TabDocumento.TAbs) as n FROM "
-                           "TabDocumento, TabRifBibl WHERE TabDocumento.IDRifBibl = "
-                           "TabRifBibl.IDRifBibl and TabRifBibl.IDRivista = ? and "
-                           "right(TabRifBibl.Data,4) = ? GROUP BY TabDocumento.TAbs")
-          : QStringLiteral("SELECT TabDocumento.TAbs, count(TabDocumento.TAbs) as n FROM "
-                           "TabDocumento, TabRifBibl WHERE TabDocumento.IDRifBibl = "
-                           "TabRifBibl.IDRifBibl and TabRifBibl.IDRivista = ? and "
-                           "right(TabRifBibl.Data,4) = ? and TabRifBibl.Fascicolo = ? GROUP BY "
-                           "TabDocumento.TAbs"),
+      "SELECT TabDocumento.TAbs, count(TabDocumento.TAbs) as n FROM TabDocumento, TabRifBibl WHERE "
+      "TabDocumento.IDRifBibl = TabRifBibl.IDRifBibl and TabRifBibl.IDRivista = ? and "
+      "right(TabRifBibl.Data,4) = ?"_L1 +
+          (fascicolo.isEmpty() ? ""_L1 : " and TabRifBibl.Fascicolo = ?"_L1) +
+          " GROUP BY TabDocumento.TAbs"_L1,
       parametri);
   ConteggiTAbs conteggi = {};
   for (; !conto.Eof(); conto.MoveNext()) {

@@ -22,7 +22,7 @@ struct ContestoStampa {
   CoppieClasse coppieClasse{stato.DbArchivio, codici};
   CoppieDecodificate coppie = {};
   Descrizioni1999 descrizioni1999{stato.DbArchivio};
-  LettoreFascicoli fascicoli = {};
+  LettoreFascicoliStampa fascicoli{stato.DbArchivio};
 };
 
 }  // namespace torvi

@@ -13,11 +13,10 @@ void Estrai(StatoGlobale& stato, Dialoghi& dialoghi, const Estrazione& estrazion
   FileTesto file = ApriUscita(stato, estrazione.file + stato.SiglaConsegna);
   if (stato.ModoBatch) file.Print("Consegna "_L1 + stato.SiglaConsegna);
   riempi(file);
-  ChiudiUscita(stato, file);
-  clessidra.Togli();
-  dialoghi.FileScritto(file.Percorso());
-  dialoghi.Messaggio("Fine estrazione "_L1 + estrazione.cosa + " ai documenti (consegna "_L1 +
-                     stato.SiglaConsegna + QLatin1Char(')'));
+  PartiConsegna(stato, file);
+  Concludi(file, clessidra, dialoghi,
+           "Fine estrazione "_L1 + estrazione.cosa + " ai documenti (consegna "_L1 +
+               stato.SiglaConsegna + QLatin1Char(')'));
 }
 
 }  // namespace torvi

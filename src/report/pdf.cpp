@@ -20,8 +20,10 @@ bool ConFormato(const QFileInfo& stampa) {
   return formati.contains(stampa.suffix(), Qt::CaseInsensitive);
 }
 
+// The two forms of the prospetto differ by their endings alone.
 QString NomePdf(const QFileInfo& stampa) {
-  return (ConFormato(stampa) ? stampa.completeBaseName() : stampa.fileName()) + ".pdf"_L1;
+  const bool rtf = stampa.suffix().compare("rtf"_L1, Qt::CaseInsensitive) == 0;
+  return (rtf ? stampa.completeBaseName() : stampa.fileName()) + ".pdf"_L1;
 }
 
 // A profile of its own: a LibreOffice that is open would take the work over, and drop it.

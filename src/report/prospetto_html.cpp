@@ -1,6 +1,6 @@
-#include "export/file_testo.h"
 #include "report/conta_tabs.h"
 #include "report/prospetto.h"
+#include "report/uscita_consegna.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 
@@ -115,10 +115,7 @@ void ProspettoHTML(StatoGlobale& stato, Dialoghi& dialoghi) {
                QStringLiteral("500 o 800 con 'In tema di'"));
   uscita.Print(u"</BODY>"_s);
   uscita.Print(u"</HTML>"_s);
-  uscita.Close();
-  clessidra.Togli();
-  dialoghi.FileScritto(uscita.Percorso());
-  dialoghi.Messaggio(QStringLiteral("Fine stampa prospetto"));
+  Concludi(uscita, clessidra, dialoghi, QStringLiteral("Fine stampa prospetto"));
 }
 
 }  // namespace torvi

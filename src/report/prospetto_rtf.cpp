@@ -1,7 +1,7 @@
-#include "export/file_testo.h"
 #include "report/conta_tabs.h"
 #include "report/prospetto.h"
 #include "report/rtf.h"
+#include "report/uscita_consegna.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 
@@ -83,10 +83,7 @@ void ProspettoRTF(StatoGlobale& stato, Dialoghi& dialoghi) {
   uscita.Print(Intestazione());
   StampaRighe(stato.DbArchivio, dialoghi, uscita);
   uscita.Print(kInTabella + "{\\row }"_L1 + rtf::kRientro + "{\\par }}"_L1);
-  uscita.Close();
-  clessidra.Togli();
-  dialoghi.FileScritto(uscita.Percorso());
-  dialoghi.Messaggio(QStringLiteral("Fine stampa prospetto"));
+  Concludi(uscita, clessidra, dialoghi, QStringLiteral("Fine stampa prospetto"));
 }
 
 }  // namespace torvi

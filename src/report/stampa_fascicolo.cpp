@@ -10,8 +10,11 @@ using namespace Qt::Literals::StringLiterals;
 
 class Compositore {
  public:
-  Compositore(const Recordset& riga, FascicoloStampa& fascicolo)
-      : riga_(riga), data_(riga.Fields("Data").TestoOVuoto()), fascicolo_(fascicolo) {}
+  Compositore(const Recordset& riga, const QString& annoProduzione, FascicoloStampa& fascicolo)
+      : riga_(riga),
+        annoProduzione_(annoProduzione),
+        data_(riga.Fields("Data").TestoOVuoto()),
+        fascicolo_(fascicolo) {}
 
   void Primo();
   void Secondo();
@@ -23,6 +26,7 @@ class Compositore {
   void SePresente(QLatin1StringView sottocampo, const char* colonna, int larghezza);
 
   const Recordset& riga_;
+  const QString& annoProduzione_;
   CifreData data_;
   FascicoloStampa& fascicolo_;
 };
@@ -45,7 +49,7 @@ void Compositore::Data() {
   fascicolo_.primo += " DATA="_L1 + data_.Cifre();
   // Years are text, also where they are compared.
   fascicolo_.dopo2000 = anno >= "2000"_L1;
-  if (anno >= "1970"_L1 && anno <= fascicolo_.annoProduzione) {
+  if (anno >= "1970"_L1 && anno <= annoProduzione_) {
     fascicolo_.esteso += ", "_L1 + anno;
   }
 }
@@ -76,23 +80,12 @@ void Compositore::SePresente(QLatin1StringView sottocampo, const char* colonna, 
 
 }  // namespace
 
-const FascicoloStampa& LettoreFascicoli::Leggi(const Database& archivio, qint16 idRifBibl,
-                                               const QString& annoProduzione) {
-  if (ultimo_ && ultimo_->IDRifBibl == idRifBibl && ultimo_->annoProduzione == annoProduzione) {
-    return *ultimo_;
-  }
-  const Recordset riga = archivio.OpenRecordset(
-      QStringLiteral("select * from tabRifBibl, tabRivista where tabRifBibl.IDRifBibl = ? and "
-                     "tabRifBibl.IDRivista = tabRivista.IDRivista"),
-      {static_cast<qint64>(idRifBibl)});
+FascicoloStampa ComponiFascicolo(const Recordset& riga, const QString& annoProduzione) {
   FascicoloStampa fascicolo;
-  fascicolo.IDRifBibl = idRifBibl;
-  fascicolo.annoProduzione = annoProduzione;
-  Compositore compositore(riga, fascicolo);
+  Compositore compositore(riga, annoProduzione, fascicolo);
   compositore.Primo();
   compositore.Secondo();
-  ultimo_ = std::move(fascicolo);
-  return *ultimo_;
+  return fascicolo;
 }
 
 }  // namespace torvi

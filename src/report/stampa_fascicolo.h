@@ -3,13 +3,11 @@
 
 #include <optional>
 
-#include "archive/database.h"
+#include "export/lettore_fascicoli.h"
 
 namespace torvi {
 
 struct FascicoloStampa {
-  qint16 IDRifBibl = 0;
-  QString annoProduzione;
   QString primo;                      // the first coded line
   QString secondo;                    // the second up to the pages
   QString volume;                     // the value at its end; empty: none
@@ -17,15 +15,9 @@ struct FascicoloStampa {
   std::optional<bool> dopo2000 = {};  // nothing where the reference has no date
 };
 
-// The documents of one issue come one behind the other, so the last reference is kept.
-class LettoreFascicoli {
- public:
-  // No such reference, or no such journal: error 3021.
-  [[nodiscard]] const FascicoloStampa& Leggi(const Database& archivio, qint16 idRifBibl,
-                                             const QString& annoProduzione);
-
- private:
-  std::optional<FascicoloStampa> ultimo_;
-};
+// Of a row that joins reference and journal; none: error 3021.
+[[nodiscard]] FascicoloStampa ComponiFascicolo(const Recordset& riga,
+                                               const QString& annoProduzione);
+using LettoreFascicoliStampa = LettoreFascicoli<FascicoloStampa, ComponiFascicolo>;
 
 }  // namespace torvi

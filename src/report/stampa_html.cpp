@@ -112,10 +112,8 @@ void Stampa(StatoGlobale& stato, Dialoghi& dialoghi, const FormaStampa& forma) {
   Clessidra clessidra(dialoghi);
   FileTesto file = ApriUscita(stato, forma.file + stato.SiglaConsegna + ".htm"_L1);
   StampaFonti(stato, dialoghi, forma, file);
-  ChiudiUscita(stato, file);
-  clessidra.Togli();
-  dialoghi.FileScritto(file.Percorso());
-  dialoghi.Messaggio(forma.fine + stato.SiglaConsegna + QLatin1Char(')'));
+  PartiConsegna(stato, file);
+  Concludi(file, clessidra, dialoghi, forma.fine + stato.SiglaConsegna + QLatin1Char(')'));
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ QString Paragrafo(QLatin1StringView etichetta, const QString& testo) {
 QString RigaRiferimenti(ContestoStampa& contesto, const QString& idRecord,
                         const DatiDocumento& documento) {
   const FascicoloStampa& fascicolo =
-      contesto.fascicoli.Leggi(contesto.stato.DbArchivio, documento.IDRifBibl, idRecord.left(4));
+      contesto.fascicoli.Leggi(documento.IDRifBibl, idRecord.left(4));
   if (fascicolo.dopo2000) contesto.stato.Dopo2000 = *fascicolo.dopo2000;
   Riferimento riferimento = {fascicolo.secondo, fascicolo.esteso};
   AggiungiPagine(riferimento, documento.pagine);

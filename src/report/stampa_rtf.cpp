@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <array>
 
-#include "export/file_testo.h"
 #include "export/giro_documenti.h"
 #include "report/rtf.h"
 #include "report/stampa_classi.h"
 #include "report/stampa_riferimenti.h"
 #include "report/stampa_sezioni.h"
+#include "report/uscita_consegna.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 
@@ -150,10 +150,7 @@ void StampaRTF(StatoGlobale& stato, Dialoghi& dialoghi, bool completa, bool filt
                   uscita.Print(QStringLiteral("{\\par }"));
                 });
   uscita.Print(QStringLiteral("}"));
-  uscita.Close();
-  clessidra.Togli();
-  dialoghi.FileScritto(uscita.Percorso());
-  dialoghi.Messaggio(QStringLiteral("Fine stampa"));
+  Concludi(uscita, clessidra, dialoghi, QStringLiteral("Fine stampa"));
 }
 
 void ComandoStampaSoloTesti(StatoGlobale& stato, Dialoghi& dialoghi) {

@@ -9,9 +9,15 @@ FileTesto ApriUscita(const StatoGlobale& stato, const QString& nome) {
   return FileTesto(FileUscita(stato.CartellaApplicazione, nome), Apertura::Scrittura);
 }
 
-void ChiudiUscita(const StatoGlobale& stato, FileTesto& file) {
+void PartiConsegna(const StatoGlobale& stato, FileTesto& file) {
   if (stato.ModoBatch) file.Print({});
+}
+
+void Concludi(FileTesto& file, Clessidra& clessidra, Dialoghi& dialoghi, const QString& messaggio) {
   file.Close();
+  clessidra.Togli();
+  dialoghi.FileScritto(file.Percorso());
+  dialoghi.Messaggio(messaggio);
 }
 
 }  // namespace torvi

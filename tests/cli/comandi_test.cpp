@@ -169,6 +169,7 @@ TEST_F(Comandi, PrintsAndExtractionsNameTheDeliveryAndControlloTellsOfThem) {
 // Another program stands in for LibreOffice: it puts what it is given where it is told.
 TEST_F(Comandi, StampaWritesAPdfWhereLibreOfficeIs) {
   PreparaEsempio(3);
+  ScriviByte(cartella_.Percorso() + "/testata prospetto.rtf", "{");
   const QString programmi = cartella_.Percorso() + "/programmi";
   ASSERT_TRUE(QDir().mkpath(programmi));
   const auto stampa = [&](const char* nome, const QString& altri = QStringLiteral(":/bin")) {
@@ -186,7 +187,8 @@ TEST_F(Comandi, StampaWritesAPdfWhereLibreOfficeIs) {
   ASSERT_TRUE(QFile::setPermissions(soffice, QFile::ReadOwner | QFile::ExeOwner));
   for (const auto& [nome, file, pdf] :
        {std::tuple{"consistenza", "consistenza.A01", "consistenza.A01.pdf"},
-        {"prospetto-html", "prospetto A01.html", "prospetto A01.pdf"}}) {
+        {"prospetto-html", "prospetto A01.html", "prospetto A01.html.pdf"},
+        {"prospetto-rtf", "prospetto A01.rtf", "prospetto A01.pdf"}}) {
     const EsitoProgramma esito = stampa(nome);
     EXPECT_EQ(esito.codice, 0) << esito.errori.toStdString();
     EXPECT_EQ(esito.uscita, cartella_.Dump(QLatin1String(pdf)) + "\n");

@@ -92,6 +92,16 @@ TEST(Consistenza, WithoutDocumentsTheLastNumberIsBeforeTheFirst) {
             "Num. iniziale: 2001A0012   Num. finale: 2001A0011   Num. docc.: 0\r\n");
 }
 
+// The count takes the words for the marker of an issue without number.
+TEST(Consistenza, AnIssueNamedAsTheMarkerCountsThoseWithoutNumber) {
+  ConsegnaAFascicoli prova;
+  prova.Fascicolo({{"Data", "01/01/2001"}, {"Fascicolo", "<Null>"}}, {"400", "400"});
+  DialoghiScritti dialoghi;
+  StampaConsistenza(prova.stato, dialoghi);
+  EXPECT_NE(prova.Dump("consistenza.A01").find("      1###RGI 2001 3 <Null>\r\n"),
+            std::string::npos);
+}
+
 // A quote of the statement itself inside a text breaks it; a doubled one is one.
 TEST(Fascicoli, QuotesInAnIssueBreakTheCountThatUsesThem) {
   using Stampa = void (*)(StatoGlobale&, Dialoghi&);
