@@ -70,7 +70,7 @@ auto ColMotore(const QString& jet, const QString& archivio, Lavoro lavoro) {
 void Scrivi(const LettoreJet& lettore, const QString& archivio, Contarighe& conto) {
   SQLite::Database motore(archivio.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   RegistraFunzioni(motore.getHandle());
-  motore.exec("PRAGMA page_size = 4096");
+  motore.exec(kPagine);
   motore.exec("PRAGMA application_id = " + std::to_string(kMarchioArchivio));
   // Until it has its name the file is nobody's: FileNuovo puts it on disk, or takes it away.
   motore.exec("PRAGMA journal_mode = OFF");

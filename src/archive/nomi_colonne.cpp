@@ -19,16 +19,25 @@ bool Uguali(std::string_view a, std::string_view b) {
 }  // namespace
 
 int NomiColonne::Posizione(std::string_view nome) const {
-  const auto posto = std::bit_cast<std::uintptr_t>(nome.data()) % ricordate_.size();
+  const auto indirizzo = std::bit_cast<std::uintptr_t>(nome.data()) % ricordate_.size();
   // The memory is only a hint: at the same address there may be another text by now.
-  const auto ricordata = static_cast<std::size_t>(ricordate_[posto]);
-  if (ricordata < nomi_.size() && (nomi_[ricordata] == nome || Uguali(nomi_[ricordata], nome))) {
-    return static_cast<int>(ricordata);
+  const std::size_t ricordata = ricordate_[indirizzo];
+  if (ricordata < grafie_.size() && grafie_[ricordata].nome == nome) {
+    return grafie_[ricordata].posizione;
   }
+  const int posizione = Cerca(nome);
+  if (posizione < 0) return posizione;
+  auto grafia = std::ranges::find(grafie_, nome, &Grafia::nome);
+  if (grafia == grafie_.end()) {
+    grafia = grafie_.insert(grafie_.end(), {std::string(nome), posizione});
+  }
+  ricordate_[indirizzo] = static_cast<quint16>(grafia - grafie_.begin());
+  return posizione;
+}
+
+int NomiColonne::Cerca(std::string_view nome) const {
   for (std::size_t i = 0; i < nomi_.size(); ++i) {
-    if (!Uguali(nomi_[i], nome)) continue;
-    ricordate_[posto] = static_cast<qint16>(i);
-    return static_cast<int>(i);
+    if (Uguali(nomi_[i], nome)) return static_cast<int>(i);
   }
   return -1;
 }

@@ -22,8 +22,16 @@ class NomiColonne {
   [[nodiscard]] const std::string& operator[](std::size_t posto) const { return nomi_[posto]; }
 
  private:
+  // A spelling that was asked for, and the column that it stands for.
+  struct Grafia {
+    std::string nome;
+    int posizione;
+  };
+  [[nodiscard]] int Cerca(std::string_view nome) const;
+
   std::vector<std::string> nomi_;
-  mutable std::array<qint16, 256> ricordate_{};
+  mutable std::vector<Grafia> grafie_;
+  mutable std::array<quint16, 256> ricordate_{};  // in grafie_
 };
 
 }  // namespace torvi

@@ -61,7 +61,7 @@ QString IstruzioneIndice(const Tabella& tabella, const Indice& indice) {
 void ScriviTabelle(const QString& percorso, std::span<const Tabella> tabelle) {
   SQLite::Database database(percorso.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   RegistraFunzioni(database.getHandle());
-  database.exec("PRAGMA page_size = 4096");
+  database.exec(kPagine);
   database.exec("PRAGMA journal_mode = DELETE");
   database.exec("PRAGMA synchronous = FULL");
   database.exec("PRAGMA application_id = " + std::to_string(kMarchioArchivio));

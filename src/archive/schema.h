@@ -40,6 +40,8 @@ struct Tabella {
 
 // What stands in the header of a file made here; other tools show it as the file's application.
 inline constexpr int kMarchioArchivio = 0x546F7276;
+// A long text fits whole into a page of this size.
+inline constexpr const char* kPagine = "PRAGMA page_size = 8192";
 
 [[nodiscard]] const std::vector<Tabella>& SchemaArchivio();
 [[nodiscard]] const std::vector<Tabella>& SchemaCatalogo();  // catalogo norme.mdb

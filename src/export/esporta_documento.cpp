@@ -97,7 +97,7 @@ void Documento::Riferimento() {
                               .lr = riga_.Fields("lr").Testo(),
                               .la = riga_.Fields("la").Testo()};
   straniero_ = dati.LIN != "00"_L1;
-  ScriviRiferimento(contesto_, idDoc_, idRecord_, dati);
+  ScriviRiferimento(contesto_, testi_, idDoc_, idRecord_, dati);
   if (dati.pagine.isEmpty() || dati.td.isEmpty() || dati.TAbs.isEmpty() || dati.Bib.isEmpty()) {
     Segnala("Errori sui dati bibliografici: ", idRecord_);
   }
@@ -110,7 +110,7 @@ void Documento::TitoloETraduzione() {
 
 void Documento::Nota() {
   if (td_ == "01"_L1) {
-    if (EsisteNota(contesto_, idDoc_)) {
+    if (EsisteTesto(contesto_, testi_, idDoc_, {u"4"})) {
       Segnala("TD = 01 e presenza nota: ",
               idRecord_ + " (record = "_L1 + QString::number(idDoc_) + QLatin1Char(')'));
     }

@@ -11,8 +11,9 @@ using namespace Qt::Literals::StringLiterals;
 // Fields 14 and 21 grow side by side, from where the issue leaves them.
 class Riferimento {
  public:
-  Riferimento(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord)
-      : contesto_(contesto), idDoc_(idDoc), idRecord_(idRecord) {}
+  Riferimento(ContestoEsportazione& contesto, const TestiDocumento& testi, qint64 idDoc,
+              const QString& idRecord)
+      : contesto_(contesto), testi_(testi), idDoc_(idDoc), idRecord_(idRecord) {}
 
   void Fascicolo(const RiferimentoFascicolo& fascicolo);
   void Documento(const DatiDocumento& documento, const QString& volume);
@@ -28,6 +29,7 @@ class Riferimento {
   void Segnala(const QString& messaggio) { contesto_.fileErrori.Print(messaggio + idRecord_); }
 
   ContestoEsportazione& contesto_;
+  const TestiDocumento& testi_;
   qint64 idDoc_;
   const QString& idRecord_;
   QString codificato_;
@@ -78,11 +80,8 @@ void Riferimento::TipoAbstract(const QString& tAbs) {
   }
   Codifica("TABS", tAbs);
   if (tAbs != "500"_L1 && tAbs != "800"_L1) return;
-  const Recordset testi = contesto_.stato.DbArchivio.OpenRecordset(
-      QStringLiteral("select IDTesto from LegameDocTesto where IDDoc = ? and (Tipo = \"2\" or Tipo "
-                     "= \"7\")"),
-      {idDoc_});
-  if (testi.Eof()) Segnala(QStringLiteral("Manca 'In tema di'/'Sommario' e TABS = 500/800: "));
+  if (EsisteTesto(contesto_, testi_, idDoc_, {u"2", u"7"})) return;
+  Segnala(QStringLiteral("Manca 'In tema di'/'Sommario' e TABS = 500/800: "));
 }
 
 void Riferimento::Bibliografia(const QString& bib) {
@@ -101,11 +100,11 @@ void Riferimento::Lingua(const char* sottocampo, const QString& lingua) {
 
 }  // namespace
 
-void ScriviRiferimento(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-                       const DatiDocumento& documento) {
+void ScriviRiferimento(ContestoEsportazione& contesto, const TestiDocumento& testi, qint64 idDoc,
+                       const QString& idRecord, const DatiDocumento& documento) {
   const RiferimentoFascicolo& fascicolo =
       contesto.riferimenti.Leggi(documento.IDRifBibl, idRecord.left(4));
-  Riferimento riferimento(contesto, idDoc, idRecord);
+  Riferimento riferimento(contesto, testi, idDoc, idRecord);
   riferimento.Fascicolo(fascicolo);
   riferimento.Documento(documento, fascicolo.volume);
 }

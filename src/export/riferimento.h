@@ -2,7 +2,7 @@
 // the checks on them. Also decides which classification scheme the document follows.
 #pragma once
 
-#include "export/contesto.h"
+#include "export/testi.h"
 
 namespace torvi {
 
@@ -21,7 +21,7 @@ struct DatiDocumento {
 
 // Appends the three fields, writes what it finds wrong to the generic error file, and sets
 // `Dopo2000` unless the reference has no date. No such reference or no such `Bib`: error 3021.
-void ScriviRiferimento(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord,
-                       const DatiDocumento& documento);
+void ScriviRiferimento(ContestoEsportazione& contesto, const TestiDocumento& testi, qint64 idDoc,
+                       const QString& idRecord, const DatiDocumento& documento);
 
 }  // namespace torvi

@@ -1,5 +1,7 @@
 #include "export/testi.h"
 
+#include <algorithm>
+
 #include <array>
 
 #include "shell/valori.h"
@@ -102,9 +104,9 @@ TestiDocumento::TestiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
   }
 }
 
-const Campo* TestiDocumento::Trova(const QString& tipo) const {
+const Campo* TestiDocumento::Trova(QAnyStringView tipo) const {
   for (const auto& [suo, testo] : testi_) {
-    if (suo == tipo) return &testo;
+    if (QAnyStringView::equal(suo, tipo)) return &testo;
   }
   return nullptr;
 }
@@ -126,11 +128,16 @@ bool ScriviTesto(ContestoEsportazione& contesto, const TestiDocumento& testi,
   return true;
 }
 
-bool EsisteNota(const ContestoEsportazione& contesto, qint64 idDoc) {
-  Recordset riga = contesto.stato.DbArchivio.OpenRecordset(
-      QStringLiteral("select * from legameDocTesto where legameDocTesto.IDDoc = ?"), {idDoc});
-  for (; !riga.Eof(); riga.MoveNext()) {
-    if (riga.Fields("tipo").TestoOVuoto() == "4"_L1) return true;
+// Only what the document's texts cannot tell is asked of the archive.
+bool EsisteTesto(const ContestoEsportazione& contesto, const TestiDocumento& testi, qint64 idDoc,
+                 std::initializer_list<QStringView> tipi) {
+  const auto trovato = [&testi](QStringView tipo) { return testi.Trova(tipo) != nullptr; };
+  if (std::ranges::any_of(tipi, trovato)) return true;
+  Recordset legami = contesto.stato.DbArchivio.OpenRecordset(
+      QStringLiteral("select Tipo from legameDocTesto where legameDocTesto.IDDoc = ?"), {idDoc});
+  for (; !legami.Eof(); legami.MoveNext()) {
+    const QString tipo = legami.Fields("Tipo").TestoOVuoto();
+    if (std::ranges::find(tipi, tipo) != tipi.end()) return true;
   }
   return false;
 }

@@ -32,7 +32,7 @@ class TestiDocumento {
  public:
   TestiDocumento(LegamiInOrdine& legami, qint64 idDoc);
   // No such text: nullptr.
-  [[nodiscard]] const Campo* Trova(const QString& tipo) const;
+  [[nodiscard]] const Campo* Trova(QAnyStringView tipo) const;
 
  private:
   std::vector<std::pair<QString, Campo>> testi_;
@@ -52,6 +52,8 @@ bool ScriviTesto(ContestoEsportazione& contesto, const TestiDocumento& testi,
                  const QString& idRecord, const CampoTesto& campo, const QString& td,
                  const QString& tAbs);
 
-[[nodiscard]] bool EsisteNota(const ContestoEsportazione& contesto, qint64 idDoc);
+// Whether a document has a link to a text of one of these kinds, be the text itself there or not.
+[[nodiscard]] bool EsisteTesto(const ContestoEsportazione& contesto, const TestiDocumento& testi,
+                               qint64 idDoc, std::initializer_list<QStringView> tipi);
 
 }  // namespace torvi

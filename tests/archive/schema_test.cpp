@@ -132,7 +132,7 @@ TEST_F(SchemaSuDisco, OgniTabellaSiApreSuOgniSuoIndice) {
 TEST_F(SchemaSuDisco, LeIntestazioniDelFileSonoQuelleDiUnArchivio) {
   CreaDatabase(Percorso(), SchemaArchivio());
   const QByteArray byte = Byte(Percorso());
-  EXPECT_EQ(byte.mid(16, 2).toHex(), "1000");      // pages of 4096 bytes
+  EXPECT_EQ(byte.mid(16, 2).toHex(), "2000");      // pages of 8192 bytes
   EXPECT_EQ(byte.mid(18, 2).toHex(), "0101");      // rollback journal
   EXPECT_EQ(byte.mid(68, 4).toHex(), "546f7276");  // the mark
   EXPECT_EQ(QDir(QFileInfo(Percorso()).path()).entryList(QDir::Files),

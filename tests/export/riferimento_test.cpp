@@ -24,7 +24,8 @@ class Riferimento : public testing::Test {
   // The mark of a citation is shown as "~".
   Scritto Scrivi(const DatiDocumento& dati) {
     Scritto scritto = prova.Scrivi([&](ContestoEsportazione& contesto) {
-      ScriviRiferimento(contesto, kDocumento, QStringLiteral("2001A0012"), dati);
+      ScriviRiferimento(contesto, {contesto.legami.testi, kDocumento}, kDocumento,
+                        QStringLiteral("2001A0012"), dati);
     });
     std::replace(scritto.campi.begin(), scritto.campi.end(), '\x06', '~');
     return scritto;

@@ -132,7 +132,7 @@ TEST_F(Testi, AMissingTextIsToldWhereTheTypesCallForIt) {
 TEST_F(Testi, ANoteIsFoundByItsType) {
   bool esiste = true;
   const auto cerca = [&](ContestoEsportazione& contesto) {
-    esiste = EsisteNota(contesto, kDocumento);
+    esiste = EsisteTesto(contesto, {contesto.legami.testi, kDocumento}, kDocumento, {u"4"});
   };
   prova.Testo(kDocumento, "6", QStringLiteral("nota amb"));
   prova.Testo(kDocumento + 1, "4", QStringLiteral("di un altro"));
