@@ -134,6 +134,12 @@ std::vector<Riga> Database::LeggiRighe(const QString& istruzione,
   return lette;
 }
 
+int Database::Conta(const QString& origine) const {
+  const std::vector<Riga> conto =
+      LeggiRighe(QStringLiteral("select count(*) as quante ") + origine);
+  return static_cast<int>(conto.front().Fields("quante").Intero());
+}
+
 qint64 Database::Execute(const QString& istruzione, const QList<Campo>& parametri) const {
   Connessione& connessione = Connessa();
   return connessione.Esegui(connessione.Prepara(istruzione), parametri);

@@ -38,6 +38,8 @@ class Database {
   // All rows of a statement at once, where they are few and read more than once.
   [[nodiscard]] std::vector<Riga> LeggiRighe(const QString& istruzione,
                                              const QList<Campo>& parametri = {}) const;
+  // How many rows there are in a statement from its "from" on.
+  [[nodiscard]] int Conta(const QString& origine) const;
   // A statement that gives none. Result: how many rows it changed.
   qint64 Execute(const QString& istruzione, const QList<Campo>& parametri = {}) const;
   void Close();

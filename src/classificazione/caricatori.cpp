@@ -55,11 +55,6 @@ Database ApriMaster(const StatoGlobale& stato, Dialoghi& dialoghi) {
   return ApriArchivio(FileArchivio(stato.CartellaApplicazione, u"master.mdb"_s), dialoghi);
 }
 
-int Conta(const Database& database, const QString& tabella) {
-  const Recordset conto = database.OpenRecordset("select count(*) as quanti from "_L1 + tabella);
-  return static_cast<int>(conto.Fields("quanti").Intero());
-}
-
 void Assegna(Recordset& destinazione, const Recordset& origine, std::span<const Colonne> colonne) {
   for (const Colonne& una : colonne) {
     destinazione.Assegna(una.destinazione, origine.Fields(una.origine));
@@ -86,7 +81,7 @@ class Caricatore {
     } catch (const ErroreEsecuzione& errore) {
       throw ErroreEsecuzione::ConDescrizione(
           static_cast<Errore>(errore.Numero()),
-          u"%1 (riga %2 di %3)"_s.arg(errore.Descrizione()).arg(fatte_).arg(origine));
+          u"%1 (riga %2 di %3)"_s.arg(errore.Descrizione(), QString::number(fatte_), origine));
     }
   }
   void Concludi() { unita_.Concludi(); }
@@ -106,7 +101,7 @@ void Carica(StatoGlobale& stato, Dialoghi& dialoghi, const Caricamento& carico) 
   const Database sorgente =
       OpenDatabase(Sorgente(stato, "classificazione.mdb"_L1), Accesso::SolaLettura);
   Recordset origine = sorgente.OpenRecordset(tabella);
-  const int totale = Conta(sorgente, tabella);
+  const int totale = sorgente.Conta("from "_L1 + tabella);
   Caricatore caricatore(dialoghi, ApriMaster(stato, dialoghi), carico.destinazione);
   for (; !origine.Eof(); origine.MoveNext()) {
     caricatore.Aggiungi(tabella, totale,
@@ -128,7 +123,7 @@ void CopiaNorme(const Database& catalogo, Dialoghi& dialoghi) {
   Recordset norme = catalogo.OpenRecordset(u"tabCatalogo"_s);
   norme.Index("PD");
   Recordset chiavi = catalogo.OpenRecordset(u"PD"_s);
-  const int totale = Conta(catalogo, u"PD"_s);
+  const int totale = catalogo.Conta(u"from PD"_s);
   Caricatore caricatore(dialoghi, catalogo, "tabCatalogoRidotta");
   for (; !chiavi.Eof(); chiavi.MoveNext()) {
     caricatore.Aggiungi(u"PD"_s, totale, [&](Recordset& riga) {

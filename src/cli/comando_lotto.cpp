@@ -15,9 +15,7 @@ constexpr std::array kOpzioni = {Opzione{"prosegui", nullptr}, Opzione{"pdf", nu
 QString Resoconto(const EsitoLotto& esito, bool prosegue) {
   return QStringLiteral("%1 %2: consegne fatte %3 di %4")
       .arg(prosegue ? QStringLiteral("Non riuscite:") : QStringLiteral("Interrotto alla consegna"),
-           esito.fallite.join(u' '))
-      .arg(esito.fatte)
-      .arg(esito.consegne);
+           esito.fallite.join(u' '), QString::number(esito.fatte), QString::number(esito.consegne));
 }
 
 Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
@@ -50,7 +48,7 @@ const Comando kLotto = {
     "  note, nuovi                le estrazioni\n"
     "  conteggio                  quanti documenti ha ciascuna consegna\n\n"
     "  --prosegui  una consegna che non riesce viene nominata con il suo errore e non lascia\n"
-    "              nulla nel file comune; le altre si fanno. Altrimenti il lotto si ferma. In\n"
+    "              nulla nei file comuni; le altre si fanno. Altrimenti il lotto si ferma. In\n"
     "              entrambi i casi l'esito è 1\n"
     "  --pdf       anche in PDF, di cui scrive il nome; vuole LibreOffice installato\n",
     2,

@@ -20,13 +20,23 @@ struct Destinazione {
   Apertura apertura = Apertura::Scrittura;
 };
 
+QString FileErrori(const StatoGlobale& stato, QLatin1StringView nome, const QString& estensione) {
+  return FileUscita(stato.CartellaApplicazione, nome + estensione);
+}
+
+QString EstensioneAccodata(const StatoGlobale& stato) { return stato.FileBatch.right(3); }
+
+constexpr QLatin1StringView kErrori = "errori."_L1;
+constexpr QLatin1StringView kErrClasse = "errClasse."_L1;
+constexpr QLatin1StringView kErrFonte = "errFonte."_L1;
+
 class FileEsportazione {
  public:
   FileEsportazione(const StatoGlobale& stato, const Destinazione& destinazione)
       : uscita_(destinazione.uscita, destinazione.apertura),
-        errori_(FileErrori(stato, "errori.", destinazione), destinazione.apertura),
-        errClasse_(FileErrori(stato, "errClasse.", destinazione), destinazione.apertura),
-        errFonte_(FileErrori(stato, "errFonte.", destinazione), destinazione.apertura) {
+        errori_(FileErrori(stato, kErrori, destinazione.estensione), destinazione.apertura),
+        errClasse_(FileErrori(stato, kErrClasse, destinazione.estensione), destinazione.apertura),
+        errFonte_(FileErrori(stato, kErrFonte, destinazione.estensione), destinazione.apertura) {
     if (destinazione.apertura != Apertura::Aggiunta) return;
     for (FileTesto* file : {&errori_, &errClasse_, &errFonte_}) {
       file->Print("Consegna "_L1 + stato.SiglaConsegna);
@@ -47,11 +57,6 @@ class FileEsportazione {
   }
 
  private:
-  static QString FileErrori(const StatoGlobale& stato, const char* nome,
-                            const Destinazione& destinazione) {
-    return FileUscita(stato.CartellaApplicazione, QLatin1String(nome) + destinazione.estensione);
-  }
-
   FileTesto uscita_;
   FileTesto errori_;
   FileTesto errClasse_;
@@ -65,7 +70,7 @@ QString NomeUscita(const FlagEsportazione& flag) {
 }
 
 Destinazione Accodata(const StatoGlobale& stato) {
-  return {stato.FileBatch, stato.FileBatch.right(3), Apertura::Aggiunta};
+  return {stato.FileBatch, EstensioneAccodata(stato), Apertura::Aggiunta};
 }
 
 // What the operator answers before a run from the menu.
@@ -87,6 +92,14 @@ Destinazione ChiediDestinazione(StatoGlobale& stato, Dialoghi& dialoghi,
 }
 
 }  // namespace
+
+QStringList FileErroriAccodati(const StatoGlobale& stato) {
+  QStringList file;
+  for (const QLatin1StringView nome : {kErrori, kErrClasse, kErrFonte}) {
+    file += FileErrori(stato, nome, EstensioneAccodata(stato));
+  }
+  return file;
+}
 
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag) {
   CatalogoNorme catalogo(stato.CartellaApplicazione);

@@ -1,6 +1,8 @@
 // The export of the open delivery as tagged ASCII, in three flavours, with its three error files.
 #pragma once
 
+#include <QStringList>
+
 #include "shell/dialoghi.h"
 #include "shell/stato_globale.h"
 
@@ -30,5 +32,7 @@ void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazion
 // The same with a catalogue that several runs share.
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag,
                   CatalogoNorme& catalogo);
+// The error files that a run which appends to `FileBatch` appends to as well.
+[[nodiscard]] QStringList FileErroriAccodati(const StatoGlobale& stato);
 
 }  // namespace torvi

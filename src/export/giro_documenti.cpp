@@ -20,16 +20,11 @@ ErroreEsecuzione NelDocumento(const ErroreEsecuzione& errore, const Recordset& d
                stato.PrefissoDoc + NumeroDoc(stato)));
 }
 
-int Conta(const Database& archivio, const QString& origine) {
-  const Recordset conto = archivio.OpenRecordset("select count(*) as quanti "_L1 + origine);
-  return static_cast<int>(conto.Fields("quanti").Intero());
-}
-
 }  // namespace
 
 int GiraDocumenti(const StatoGlobale& stato, Dialoghi& dialoghi, const QString& cosa,
                   const QString& origine, const std::function<void(const Recordset&)>& azione) {
-  const int totale = Conta(stato.DbArchivio, origine);
+  const int totale = stato.DbArchivio.Conta(origine);
   Recordset documenti =
       stato.DbArchivio.OpenRecordset("select * "_L1 + origine + " order by IDDocumento"_L1);
   int fatti = 0;

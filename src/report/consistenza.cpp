@@ -66,10 +66,7 @@ void StampaConsistenza(StatoGlobale& stato, Dialoghi& dialoghi) {
   LeggiInfoConsegna(stato);
   RegistraUsoFunzione(stato, QStringLiteral("5"));
   const Database& archivio = stato.DbArchivio;
-  const qint64 documenti =
-      archivio.OpenRecordset(QStringLiteral("select count(*) as quanti from TabDocumento"))
-          .Fields("quanti")
-          .Intero();
+  const int documenti = archivio.Conta(QStringLiteral("from TabDocumento"));
   FileTesto uscita(FileUscita(stato.CartellaApplicazione, "consistenza."_L1 + stato.SiglaConsegna),
                    Apertura::Scrittura);
   const QString totale = QString::number(StampaFascicoli(archivio, dialoghi, uscita, documenti));

@@ -60,6 +60,27 @@ QString NomeUscita(const VoceLotto& voce, const QString& fileSigle) {
 
 const VoceLotto& Voce(Lotto lotto) { return *std::ranges::find(kVoci, lotto, &VoceLotto::lotto); }
 
+// A code as the operator is told of it.
+QString Nominata(const QString& sigla) {
+  return sigla.trimmed().isEmpty() ? u"(riga vuota)"_s : sigla;
+}
+
+// Files that a delivery adds to, to be cut back where it fails.
+class PuntoDiRitorno {
+ public:
+  explicit PuntoDiRitorno(const QStringList& file) {
+    for (const QString& uno : file) misure_.append({uno, QFileInfo(uno).size()});
+  }
+  void Torna() const {
+    for (const auto& [file, misura] : misure_) {
+      if (QFileInfo(file).size() > misura) QFile::resize(file, misura);
+    }
+  }
+
+ private:
+  QList<std::pair<QString, qint64>> misure_;
+};
+
 // The open file of a count, and what it has counted so far.
 struct Conteggio {
   explicit Conteggio(const QString& percorso) : file(percorso, Apertura::Scrittura) {}
@@ -79,9 +100,9 @@ class Giro {
     if (voce_.operazione == nullptr) conteggio_.emplace(stato_.FileBatch);
     const auto finito = qScopeGuard([this] { dialoghi_.Ambito({}); });
     for (const QString& sigla : sigle) {
-      dialoghi_.Ambito(u"%1 (%2 di %3): "_s.arg(sigla)
-                           .arg(esito.fatte + esito.fallite.size() + 1)
-                           .arg(sigle.size()));
+      const qsizetype posto = esito.fatte + esito.fallite.size() + 1;
+      dialoghi_.Ambito(u"%1 (%2 di %3): "_s.arg(Nominata(sigla), QString::number(posto),
+                                                QString::number(sigle.size())));
       FaConsegna(sigla, alGuasto, esito);
     }
     if (conteggio_) ChiudiConteggio(esito.fatte);
@@ -90,7 +111,7 @@ class Giro {
 
  private:
   void FaConsegna(const QString& sigla, AlGuasto alGuasto, EsitoLotto& esito) {
-    const qint64 prima = QFileInfo(stato_.FileBatch).size();
+    const PuntoDiRitorno inizio(FileAccodati());
     try {
       stato_.DbArchivio =
           ApriArchivio(FileArchivio(stato_.CartellaApplicazione, sigla + ".mdb"_L1), dialoghi_);
@@ -98,11 +119,17 @@ class Giro {
       stato_.DbArchivio.Close();
       ++esito.fatte;
     } catch (const ErroreEsecuzione& errore) {
-      esito.fallite += sigla;
+      esito.fallite += Nominata(sigla);
       if (alGuasto == AlGuasto::Ferma) throw;
-      if (!conteggio_) QFile::resize(stato_.FileBatch, prima);
-      dialoghi_.Messaggio(u"Consegna %1: %2"_s.arg(sigla, Guasto(errore)));
+      inizio.Torna();
+      dialoghi_.Messaggio(u"Consegna %1: %2"_s.arg(esito.fallite.constLast(), Guasto(errore)));
     }
+  }
+
+  // Not the file of a count, which is open and gets whole lines only.
+  [[nodiscard]] QStringList FileAccodati() const {
+    if (conteggio_) return {};
+    return FileErroriAccodati(stato_) + QStringList{stato_.FileBatch};
   }
 
   void Opera() {
@@ -151,16 +178,13 @@ EsitoLotto EseguiLotto(StatoGlobale& stato, Dialoghi& dialoghi, Lotto lotto, AlG
 
 int ContaDocumentiConsegna(StatoGlobale& stato, FileTesto& file) {
   LeggiInfoConsegna(stato);
-  const auto n = static_cast<int>(
-      stato.DbArchivio.OpenRecordset(u"SELECT count(IDDocumento) as quanti from tabDocumento"_s)
-          .Fields("quanti")
-          .Intero());
+  const int n = stato.DbArchivio.Conta(u"from tabDocumento"_s);
   const auto numero = [&stato](int contatore) -> QString {
     return stato.PrefissoDoc + RiempiZeri(QString::number(contatore), 4);
   };
-  file.Print(u"Consegna %1: %2 documenti da %3 a %4"_s.arg(stato.SiglaConsegna)
-                 .arg(n, 3)
-                 .arg(numero(stato.ContatoreDoc), numero(stato.ContatoreDoc + n - 1)));
+  file.Print("Consegna "_L1 + stato.SiglaConsegna + ": "_L1 + QString::number(n).rightJustified(3) +
+             " documenti da "_L1 + numero(stato.ContatoreDoc) + " a "_L1 +
+             numero(stato.ContatoreDoc + n - 1));
   return n;
 }
 

@@ -32,14 +32,14 @@ struct EsitoLotto {
   bool riuscito = false;   // it came to its end, and no delivery failed
   qsizetype consegne = 0;  // in the list
   qsizetype fatte = 0;
-  QStringList fallite;
+  QStringList fallite;  // as they were named to the operator
 };
 
 // Sets ModoBatch for the rest of the run, asks for the list (FileBatch, then the common output) and
 // goes through it. Each archive in turn becomes DbArchivio and is closed. The first failure is
 // shown as number and description and ends the run, the archive at hand still open. With Prosegui
-// the failing delivery is named with it, what it had added to the common file is taken back, and
-// the others are done.
+// the failing delivery is named with it, what it had added to the common file and to the error
+// files of an export is taken back, and the others are done.
 EsitoLotto EseguiLotto(StatoGlobale& stato, Dialoghi& dialoghi, Lotto lotto,
                        AlGuasto alGuasto = AlGuasto::Ferma);
 

@@ -78,11 +78,6 @@ void StampaDocumento(FileTesto& file, const Database& archivio, const Campo& doc
   if (!titolo.Eof()) file.Print("<h3>"_L1 + titolo.Fields("testo").Testo() + "</h3>"_L1);
 }
 
-int Quante(const Database& archivio, const FormaStampa& forma) {
-  const Recordset conto = archivio.OpenRecordset("SELECT count(*) as quante "_L1 + forma.fonti);
-  return static_cast<int>(conto.Fields("quante").Intero());
-}
-
 void StampaFonti(StatoGlobale& stato, Dialoghi& dialoghi, const FormaStampa& forma,
                  FileTesto& file) {
   constexpr int kPasso = 100;
@@ -90,7 +85,7 @@ void StampaFonti(StatoGlobale& stato, Dialoghi& dialoghi, const FormaStampa& for
                                                    " ORDER BY TabDocumento.IDDocumento"_L1);
   if (fonti.Eof()) return;
   const QString indirizzo = LeggiImpostazione(stato.CartellaApplicazione, forma.indirizzo);
-  const int totale = Quante(stato.DbArchivio, forma);
+  const int totale = stato.DbArchivio.Conta(forma.fonti);
   StampaIntestazione(file, stato.SiglaConsegna);
   Campo precedente;
   for (int fatto = 0; !fonti.Eof(); fonti.MoveNext(), ++fatto) {

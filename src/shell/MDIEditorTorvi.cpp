@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QMdiSubWindow>
+#include <QScopeGuard>
 
 #include "classificazione/caricatori.h"
 #include "document/frmRicerca.h"
@@ -23,6 +24,56 @@
 
 namespace torvi {
 
+namespace {
+
+using Menu = Ui::MDIEditorTorvi;
+using Finestra = MDIEditorTorvi;
+
+}  // namespace
+
+const MDIEditorTorvi::VoceMenu MDIEditorTorvi::kVociMenu[] = {
+    {&Menu::mnuFileApri, &Finestra::mnuFileApri_Click},
+    {&Menu::mnuFileChiudi, &Finestra::mnuFileChiudi_Click},
+    {&Menu::mnuFileNuovo, &Finestra::mnuFileNuovo_Click},
+    {&Menu::mnuFileEsci, &Finestra::mnuFileEsci_Click},
+    {&Menu::mnuAggiornamentoNuovo, &Finestra::mnuAggiornamentoNuovo_Click},
+    {&Menu::mnuAggiornamentoEdita, &Finestra::mnuAggiornamentoEdita_Click},
+    {&Menu::mnuAggiornamentoCancella, &Finestra::mnuAggiornamentoCancella_Click},
+    {&Menu::mnuAggiornamentoRicerca, &Finestra::mnuAggiornamentoRicerca_Click},
+    {&Menu::mnuUtilitaHTML, &Finestra::mnuUtilitaHTML_Click},
+    {&Menu::mnuUtilitaHTML_HUDOC, &Finestra::mnuUtilitaHTML_HUDOC_Click},
+    {&Menu::mnuStampaCompleta, &Finestra::mnuStampaCompleta_Click},
+    {&Menu::mnuStampaSoloTesti, &Finestra::mnuStampaSoloTesti_Click},
+    {&Menu::mnuStampaProspetto, &Finestra::mnuStampaProspetto_Click},
+    {&Menu::mnuStampaConsistenza, &Finestra::mnuStampaConsistenza_Click},
+    {&Menu::mnuFormatoASCIIStorico, &Finestra::mnuFormatoASCIIStorico_Click},
+    {&Menu::mnuFormatoASCIIIsis, &Finestra::mnuFormatoASCIIIsis_Click},
+    {&Menu::mnuFormatoASCIICassazione, &Finestra::mnuFormatoASCIICassazione_Click},
+    {&Menu::mnuFileNotaDocumenti, &Finestra::mnuFileNotaDocumenti_Click},
+    {&Menu::mnuFileNuovi, &Finestra::mnuFileNuovi_Click},
+    {&Menu::mnuFileErroriGenerici, &Finestra::mnuFileErroriGenerici_Click},
+    {&Menu::mnuFileErroriClasse, &Finestra::mnuFileErroriClasse_Click},
+    {&Menu::mnuFileErroriFonti, &Finestra::mnuFileErroriFonti_Click},
+    {&Menu::mnuCaricaTabLegami, &Finestra::mnuCaricaTabLegami_Click},
+    {&Menu::mnuCaricaTabDescrittori, &Finestra::mnuCaricaTabDescrittori_Click},
+    {&Menu::mnuCaricaTabDescrittoriAsteriscati,
+     &Finestra::mnuCaricaTabDescrittoriAsteriscati_Click},
+    {&Menu::mnuCaricaTabSistematici, &Finestra::mnuCaricaTabSistematici_Click},
+    {&Menu::mnuCatalogoNorme, &Finestra::mnuCatalogoNorme_Click},
+    {&Menu::mnuUtilitaControllo, &Finestra::mnuUtilitaControllo_Click},
+    {&Menu::mnuUtilitaAggiornamentoStorico, &Finestra::mnuUtilitaAggiornamentoStorico_Click},
+    {&Menu::mnuUtilitaAggiornamentoISIS, &Finestra::mnuUtilitaAggiornamentoISIS_Click},
+    {&Menu::mnuUtilitaAggiornamentoCassazione, &Finestra::mnuUtilitaAggiornamentoCassazione_Click},
+    {&Menu::mnuUtilitaAggiornamentoNote, &Finestra::mnuUtilitaAggiornamentoNote_Click},
+    {&Menu::mnuUtilitaAggiornamentoFileNuovi, &Finestra::mnuUtilitaAggiornamentoFileNuovi_Click},
+    {&Menu::mnuUtilitaAggiornamentoCelex, &Finestra::mnuUtilitaAggiornamentoCelex_Click},
+    {&Menu::mnuUtilitaAggiornamentoHUDOC, &Finestra::mnuUtilitaAggiornamentoHUDOC_Click},
+    {&Menu::mnuUtilitaAggiornamentoConteggioDocumenti,
+     &Finestra::mnuUtilitaAggiornamentoConteggioDocumenti_Click},
+    {&Menu::mnuUtilitaAggiornamentoModificaLista,
+     &Finestra::mnuUtilitaAggiornamentoModificaLista_Click},
+};
+
 MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
     : QMainWindow(padre),
       ui_(std::make_unique<Ui::MDIEditorTorvi>()),
@@ -35,49 +86,7 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
                               ui_->mnuUtilitaSep1, ui_->mnuUtilitaSep2, ui_->mnuUtilitaSep3}) {
     separatore->setSeparator(true);
   }
-  Collega(ui_->mnuFileApri, &MDIEditorTorvi::mnuFileApri_Click);
-  Collega(ui_->mnuFileChiudi, &MDIEditorTorvi::mnuFileChiudi_Click);
-  Collega(ui_->mnuFileNuovo, &MDIEditorTorvi::mnuFileNuovo_Click);
-  Collega(ui_->mnuFileEsci, &MDIEditorTorvi::mnuFileEsci_Click);
-  Collega(ui_->mnuUtilitaHTML, &MDIEditorTorvi::mnuUtilitaHTML_Click);
-  Collega(ui_->mnuUtilitaHTML_HUDOC, &MDIEditorTorvi::mnuUtilitaHTML_HUDOC_Click);
-  Collega(ui_->mnuFormatoASCIIStorico, &MDIEditorTorvi::mnuFormatoASCIIStorico_Click);
-  Collega(ui_->mnuFormatoASCIIIsis, &MDIEditorTorvi::mnuFormatoASCIIIsis_Click);
-  Collega(ui_->mnuFormatoASCIICassazione, &MDIEditorTorvi::mnuFormatoASCIICassazione_Click);
-  Collega(ui_->mnuFileNotaDocumenti, &MDIEditorTorvi::mnuFileNotaDocumenti_Click);
-  Collega(ui_->mnuFileNuovi, &MDIEditorTorvi::mnuFileNuovi_Click);
-  Collega(ui_->mnuFileErroriGenerici, &MDIEditorTorvi::mnuFileErroriGenerici_Click);
-  Collega(ui_->mnuFileErroriClasse, &MDIEditorTorvi::mnuFileErroriClasse_Click);
-  Collega(ui_->mnuFileErroriFonti, &MDIEditorTorvi::mnuFileErroriFonti_Click);
-  Collega(ui_->mnuStampaCompleta, &MDIEditorTorvi::mnuStampaCompleta_Click);
-  Collega(ui_->mnuStampaSoloTesti, &MDIEditorTorvi::mnuStampaSoloTesti_Click);
-  Collega(ui_->mnuCaricaTabLegami, &MDIEditorTorvi::mnuCaricaTabLegami_Click);
-  Collega(ui_->mnuCaricaTabDescrittori, &MDIEditorTorvi::mnuCaricaTabDescrittori_Click);
-  Collega(ui_->mnuCaricaTabDescrittoriAsteriscati,
-          &MDIEditorTorvi::mnuCaricaTabDescrittoriAsteriscati_Click);
-  Collega(ui_->mnuCaricaTabSistematici, &MDIEditorTorvi::mnuCaricaTabSistematici_Click);
-  Collega(ui_->mnuCatalogoNorme, &MDIEditorTorvi::mnuCatalogoNorme_Click);
-  Collega(ui_->mnuUtilitaControllo, &MDIEditorTorvi::mnuUtilitaControllo_Click);
-  Collega(ui_->mnuStampaProspetto, &MDIEditorTorvi::mnuStampaProspetto_Click);
-  Collega(ui_->mnuStampaConsistenza, &MDIEditorTorvi::mnuStampaConsistenza_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoStorico,
-          &MDIEditorTorvi::mnuUtilitaAggiornamentoStorico_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoISIS, &MDIEditorTorvi::mnuUtilitaAggiornamentoISIS_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoCassazione,
-          &MDIEditorTorvi::mnuUtilitaAggiornamentoCassazione_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoNote, &MDIEditorTorvi::mnuUtilitaAggiornamentoNote_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoFileNuovi,
-          &MDIEditorTorvi::mnuUtilitaAggiornamentoFileNuovi_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoCelex, &MDIEditorTorvi::mnuUtilitaAggiornamentoCelex_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoHUDOC, &MDIEditorTorvi::mnuUtilitaAggiornamentoHUDOC_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoConteggioDocumenti,
-          &MDIEditorTorvi::mnuUtilitaAggiornamentoConteggioDocumenti_Click);
-  Collega(ui_->mnuUtilitaAggiornamentoModificaLista,
-          &MDIEditorTorvi::mnuUtilitaAggiornamentoModificaLista_Click);
-  Collega(ui_->mnuAggiornamentoNuovo, &MDIEditorTorvi::mnuAggiornamentoNuovo_Click);
-  Collega(ui_->mnuAggiornamentoEdita, &MDIEditorTorvi::mnuAggiornamentoEdita_Click);
-  Collega(ui_->mnuAggiornamentoCancella, &MDIEditorTorvi::mnuAggiornamentoCancella_Click);
-  Collega(ui_->mnuAggiornamentoRicerca, &MDIEditorTorvi::mnuAggiornamentoRicerca_Click);
+  for (const VoceMenu& voce : kVociMenu) Collega(voce);
   statoDocumento_->setObjectName(QStringLiteral("statoDocumento"));
   statoDocumento_->setContentsMargins(0, 0, 8, 0);
   statusBar()->addPermanentWidget(statoDocumento_);
@@ -88,9 +97,9 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
 MDIEditorTorvi::~MDIEditorTorvi() = default;
 
 // Every command runs under the guard.
-void MDIEditorTorvi::Collega(QAction* voce, Gestore gestore) {
-  connect(voce, &QAction::triggered, this,
-          [this, gestore] { Esegui(dialoghi_, [this, gestore] { (this->*gestore)(); }); });
+void MDIEditorTorvi::Collega(const VoceMenu& voce) {
+  connect(ui_.get()->*voce.azione, &QAction::triggered, this,
+          [this, gestore = voce.gestore] { Esegui(dialoghi_, [&] { (this->*gestore)(); }); });
 }
 
 void MDIEditorTorvi::ImpostaFase(FaseMenu fase) {
@@ -118,8 +127,9 @@ void MDIEditorTorvi::mnuFileApri_Click() {
 
 // The caption keeps the name of the closed archive.
 void MDIEditorTorvi::mnuFileChiudi_Click() {
+  // Also where there is nothing to close, as after a batch: the menus must let another be opened.
+  const auto fase = qScopeGuard([this] { ImpostaFase(FaseMenu::NessunArchivio); });
   ComandoChiudi(stato_);
-  ImpostaFase(FaseMenu::NessunArchivio);
 }
 
 void MDIEditorTorvi::mnuFileNuovo_Click() {

@@ -31,8 +31,13 @@ class MDIEditorTorvi : public QMainWindow {
   void closeEvent(QCloseEvent* evento) override;
 
  private:
-  using Gestore = void (MDIEditorTorvi::*)();
-  void Collega(QAction* voce, Gestore gestore);
+  // An entry and what it starts.
+  struct VoceMenu {
+    QAction* Ui::MDIEditorTorvi::*azione;
+    void (MDIEditorTorvi::*gestore)();
+  };
+  static const VoceMenu kVociMenu[];
+  void Collega(const VoceMenu& voce);
 
   void mnuFileApri_Click();
   void mnuFileChiudi_Click();

@@ -34,6 +34,7 @@ AttesaFinestra::AttesaFinestra(QMainWindow& finestra)
     : finestra_(finestra), barra_(new QProgressBar(finestra.statusBar())) {
   barra_->setObjectName(QStringLiteral("barraAvanzamento"));
   barra_->setMaximumWidth(220);
+  barra_->setFormat(QStringLiteral("%v di %m"));
   barra_->hide();
   finestra_.statusBar()->addPermanentWidget(barra_);
 }

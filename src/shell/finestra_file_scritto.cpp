@@ -5,13 +5,15 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QStatusBar>
 #include <QUrl>
 
 namespace torvi {
 
 OffertaFile::OffertaFile(QMainWindow& finestra, Dialoghi& dialoghi)
-    : QWidget(finestra.statusBar()), dialoghi_(dialoghi), nome_(new QLabel(this)) {
+    : QWidget(finestra.statusBar()),
+      dialoghi_(dialoghi),
+      barra_(*finestra.statusBar()),
+      nome_(new QLabel(this)) {
   setObjectName(QStringLiteral("offertaFile"));
   nome_->setObjectName(QStringLiteral("nomeFileScritto"));
   auto* fila = new QHBoxLayout(this);
@@ -28,15 +30,20 @@ OffertaFile::OffertaFile(QMainWindow& finestra, Dialoghi& dialoghi)
           [this] { Apri(percorso_); });
   connect(pulsante("cmdApriCartella", QStringLiteral("Apri cartella")), &QPushButton::clicked, this,
           [this] { Apri(QFileInfo(percorso_).absolutePath()); });
-  finestra.statusBar()->addWidget(this);
-  hide();
+  barra_.addWidget(this);
+  connect(&barra_, &QStatusBar::messageChanged, this, &OffertaFile::Mostra);
+  Mostra();
 }
 
 void OffertaFile::Offri(const QString& percorso) {
   percorso_ = percorso;
   nome_->setText(QFileInfo(percorso).fileName());
   setToolTip(QDir::toNativeSeparators(percorso));
-  show();
+  Mostra();
+}
+
+void OffertaFile::Mostra() {
+  setVisible(!percorso_.isEmpty() && barra_.currentMessage().isEmpty());
 }
 
 void OffertaFile::Apri(const QString& percorso) {

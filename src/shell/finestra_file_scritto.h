@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QStatusBar>
 
 #include "shell/dialoghi.h"
 
@@ -11,17 +12,20 @@ namespace torvi {
 
 class OffertaFile : public QWidget {
  public:
-  // In the status bar of the window, unseen until there is a file. Messages of a long run cover it.
+  // In the status bar of the window, unseen until there is a file, and while a long run says there
+  // how far it has come.
   OffertaFile(QMainWindow& finestra, Dialoghi& dialoghi);
 
   // The file that was written last; it takes the place of the one before.
   void Offri(const QString& percorso);
 
  private:
+  void Mostra();
   // A file that nothing opens gets a message.
   void Apri(const QString& percorso);
 
   Dialoghi& dialoghi_;
+  QStatusBar& barra_;
   QLabel* nome_;
   QString percorso_;
 };

@@ -84,13 +84,25 @@ TEST_F(LottoDiConsegne, GoesOnWhereToldAndTakesBackTheHalves) {
   EXPECT_TRUE(dialoghi.Messaggi().at(2).startsWith("Consegna L4: 94 --> "));
 }
 
+TEST_F(LottoDiConsegne, NamesABlankLineAndTakesBackWhatAnExportFound) {
+  ScriviByte(cartella.Dump("errori.A03"), "di prima\r\n");
+  const EsitoLotto esito = Esegue(Lotto::Isis, "L5\r\n\r\n", AlGuasto::Prosegui);
+  EXPECT_EQ(esito.fallite.join('|'), "L5|(riga vuota)");
+  EXPECT_TRUE(dialoghi.Messaggi().at(0).startsWith("Consegna L5: 3021 --> "));
+  EXPECT_TRUE(dialoghi.Messaggi().at(1).startsWith("Consegna (riga vuota): 3024 --> "));
+  EXPECT_EQ(Dump("errori.A03"), "di prima\r\n");
+  EXPECT_EQ(Dump("errClasse.A03") + Dump("errFonte.A03"), "");
+}
+
 TEST_F(LottoDiConsegne, CountsDocuments) {
+  OpenDatabase(cartella.Mdb("L1.mdb"))
+      .Execute(QStringLiteral("update TabInfo set Consegna = \"L%3\""));
   ScriviByte(cartella.Dump("conteggio.igl"), "di prima\r\n");
   // The last three characters of the path, whatever the extension.
   EXPECT_TRUE(
       Esegue(Lotto::Conteggio, "L1\r\nL2\r\nL4\r\nL5\r\n", AlGuasto::Ferma, "sigle.sigl").riuscito);
   EXPECT_EQ(Dump("conteggio.igl").toStdString(),
-            "Consegna L1:   1 documenti da 2003B0007 a 2003B0007\r\n"
+            "Consegna L%3:   1 documenti da 2003B0007 a 2003B0007\r\n"
             "Consegna L2:  12 documenti da 2003B0007 a 2003B0018\r\n"
             "Consegna L4: 100 documenti da 2003B0007 a 2003B0106\r\n"
             "Consegna L5:   0 documenti da 2003B0007 a 2003B0006\r\n"

@@ -377,18 +377,22 @@ TEST_F(Finestra, LetsNothingStartDuringALongRun) {
     dialoghi.Avanzamento(QStringLiteral("Esportazione"), 3, 10);
     const auto& barra = Trova<QProgressBar>(*finestra, "barraAvanzamento");
     EXPECT_TRUE(barra.isVisible());
-    EXPECT_EQ(barra.value(), 3);
+    EXPECT_EQ(barra.text(), "3 di 10");
     EXPECT_EQ(finestra->statusBar()->currentMessage(), "Esportazione");
     QTest::keyClick(finestra.get(), Qt::Key_F, Qt::AltModifier);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     finestra->close();
     EXPECT_TRUE(finestra->isVisible());
+    // A file that is finished in the middle of a batch is offered behind it.
+    dialoghi.FileScritto(cartella.Dump("note.A03"));
+    EXPECT_FALSE(Trova<QWidget>(*finestra, "offertaFile").isVisible());
     // What the run itself asks can be answered.
     Operatore::Esegue([&] { dialoghi.Messaggio(QStringLiteral("Fatto")); },
                       {Riquadro(QStringLiteral("TorviEditor|Fatto|OK"))});
     EXPECT_FALSE(Trova<QProgressBar>(*finestra, "barraAvanzamento").isHidden());
   }
   EXPECT_EQ(scelte, 0);
+  EXPECT_TRUE(Trova<QWidget>(*finestra, "offertaFile").isVisible());
   EXPECT_TRUE(Trova<QProgressBar>(*finestra, "barraAvanzamento").isHidden());
   EXPECT_EQ(finestra->cursor().shape(), Qt::ArrowCursor);
   Operatore::Esegue([&] { finestra->close(); }, {Riquadro(kEsci)});

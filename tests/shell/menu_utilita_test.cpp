@@ -99,6 +99,13 @@ TEST_F(MenuUtilita, BatchesGoThroughTheListChosen) {
   EXPECT_EQ(Byte(cartella.Dump("conteggio.X01")).count("\r\n"), 2);
   Scegli("mnuUtilitaAggiornamentoModificaLista",
          {Forma("Composizione file sigle", QStringLiteral("{Escape}"))});
+  // The batch has closed the archive that was open; another one can be opened all the same.
+  Scegli("mnuFileChiudi", {[](QWidget& modale) {
+           EXPECT_TRUE(Parole(modale).contains("Errore di run-time '3420': "));
+           QTest::keyClick(&modale, Qt::Key_Return);
+         }});
+  EXPECT_TRUE(Trova<QAction>(*finestra, "mnuFileApri").isEnabled());
+  EXPECT_FALSE(Trova<QAction>(*finestra, "mnuFileChiudi").isEnabled());
 }
 
 }  // namespace
