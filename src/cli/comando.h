@@ -36,7 +36,7 @@ struct Comando {
   const char* aiuto;  // what it does, in lines of the terminal
   int argomenti;      // how many there must be
   std::span<const Opzione> opzioni;
-  Esito (*esegui)(Contesto& contesto, const QCommandLineParser& righe);
+  Esito (*esegui)(Contesto& contesto, const QCommandLineParser& opzioni);
   bool ancheOltre = false;  // more arguments may follow
 };
 

@@ -18,8 +18,8 @@ struct Parte {
 constexpr std::array kParti = {Parte{"tutte", ModoCampo::Tutte}, Parte{"una", ModoCampo::AlmenoUna},
                                Parte{"sequenza", ModoCampo::Sequenza}};
 
-const CampoRicerca& CampoScelto(const QCommandLineParser& righe) {
-  const QString nome = righe.value(QStringLiteral("campo"));
+const CampoRicerca& CampoScelto(const QCommandLineParser& opzioni) {
+  const QString nome = opzioni.value(QStringLiteral("campo"));
   if (nome.isEmpty()) throw ErroreUso{QStringLiteral("manca --campo CAMPO")};
   const auto campo = std::ranges::find_if(CampiRicerca(), [&](const CampoRicerca& uno) {
     return nome.compare(QStringView(uno.voce), Qt::CaseInsensitive) == 0;
@@ -30,21 +30,21 @@ const CampoRicerca& CampoScelto(const QCommandLineParser& righe) {
   return *campo;
 }
 
-ModoCampo Modo(const QCommandLineParser& righe) {
+ModoCampo Modo(const QCommandLineParser& opzioni) {
   const QString opzione = QStringLiteral("parte");
-  if (!righe.isSet(opzione)) return ModoCampo::Intero;
+  if (!opzioni.isSet(opzione)) return ModoCampo::Intero;
   const auto* parte = std::ranges::find_if(
-      kParti, [&](const Parte& una) { return righe.value(opzione) == QLatin1String(una.nome); });
+      kParti, [&](const Parte& una) { return opzioni.value(opzione) == QLatin1String(una.nome); });
   if (parte == kParti.end()) {
     throw ErroreUso{QStringLiteral("--parte deve essere tutte, una o sequenza")};
   }
   return parte->modo;
 }
 
-Esito Cerca(Contesto& contesto, const QCommandLineParser& righe) {
-  const CampoRicerca& campo = CampoScelto(righe);
-  const ModoCampo modo = Modo(righe);
-  const QStringList argomenti = righe.positionalArguments();
+Esito Cerca(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const CampoRicerca& campo = CampoScelto(opzioni);
+  const ModoCampo modo = Modo(opzioni);
+  const QStringList argomenti = opzioni.positionalArguments();
   const QString parole = argomenti.mid(1).join(u' ');
   if (parole.isEmpty()) throw ErroreUso{QStringLiteral("manca la parola da cercare")};
   StatoGlobale& stato = contesto.stato;

@@ -15,8 +15,8 @@ const FormaFonte& FormaScelta(const QString& nome) {
   return *forma;
 }
 
-Esito ComponiFonti(Contesto& contesto, const QCommandLineParser& righe) {
-  const QStringList argomenti = righe.positionalArguments();
+Esito ComponiFonti(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const QStringList argomenti = opzioni.positionalArguments();
   const FormaFonte& forma = FormaScelta(argomenti.at(0));
   contesto.stato.DbArchivio = ApriArchivio(argomenti.at(1), contesto.dialoghi);
   QFile ingresso;

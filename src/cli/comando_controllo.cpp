@@ -6,9 +6,9 @@ namespace torvi {
 
 namespace {
 
-Esito Controllo(Contesto& contesto, const QCommandLineParser& righe) {
+Esito Controllo(Contesto& contesto, const QCommandLineParser& opzioni) {
   const Database archivio =
-      ApriArchivio(righe.positionalArguments().constFirst(), contesto.dialoghi);
+      ApriArchivio(opzioni.positionalArguments().constFirst(), contesto.dialoghi);
   contesto.dialoghi.MostraErrori(FunzioniUsate(archivio) + QStringLiteral("\r\n"));
   return Esito::Fatto;
 }

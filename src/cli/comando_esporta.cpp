@@ -31,33 +31,33 @@ constexpr std::array kFileErrori = {FileErrori{"generici", &kErroriGenerici},
                                     FileErrori{"classe", &kErroriClasse},
                                     FileErrori{"fonti", &kErroriFonti}};
 
-void Rispondi(DialoghiConsole& dialoghi, const QCommandLineParser& righe) {
+void Rispondi(DialoghiConsole& dialoghi, const QCommandLineParser& opzioni) {
   const QString accoda = QStringLiteral("accoda");
-  if (righe.isSet(accoda) && righe.value(accoda).isEmpty()) {
+  if (opzioni.isSet(accoda) && opzioni.value(accoda).isEmpty()) {
     throw ErroreUso{QStringLiteral("--accoda vuole il nome di un file")};
   }
   const auto risposta = [](bool si) { return si ? Risposta::Si : Risposta::No; };
   dialoghi.Rispondi(QStringLiteral("Controllo presenza fonti?"),
-                    risposta(righe.isSet(QStringLiteral("controllo-fonti"))));
+                    risposta(opzioni.isSet(QStringLiteral("controllo-fonti"))));
   dialoghi.Rispondi(QStringLiteral("Accodare risultato dell'esportazione?"),
-                    risposta(righe.isSet(accoda)));
-  dialoghi.FileUscitaScelto(TrovaPercorso(righe.value(accoda)));
+                    risposta(opzioni.isSet(accoda)));
+  dialoghi.FileUscitaScelto(TrovaPercorso(opzioni.value(accoda)));
 }
 
-Esito Esporta(Contesto& contesto, const QCommandLineParser& righe) {
-  const Formato& formato = PerNome(kFormati, righe.positionalArguments().constFirst());
-  Rispondi(contesto.dialoghi, righe);
+Esito Esporta(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const Formato& formato = PerNome(kFormati, opzioni.positionalArguments().constFirst());
+  Rispondi(contesto.dialoghi, opzioni);
   contesto.stato.DbArchivio =
-      ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
+      ApriArchivio(opzioni.positionalArguments().constLast(), contesto.dialoghi);
   EsportaAscii(contesto.stato, contesto.dialoghi, formato.flag);
   return Esito::Fatto;
 }
 
 // The viewer ends in silence, or with an advice, where it finds no file to show.
-Esito Errori(Contesto& contesto, const QCommandLineParser& righe) {
-  const VoceErrori& voce = *PerNome(kFileErrori, righe.positionalArguments().constFirst()).voce;
+Esito Errori(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const VoceErrori& voce = *PerNome(kFileErrori, opzioni.positionalArguments().constFirst()).voce;
   contesto.stato.DbArchivio =
-      ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
+      ApriArchivio(opzioni.positionalArguments().constLast(), contesto.dialoghi);
   LeggiInfoConsegna(contesto.stato);
   VisualizzaErrori(contesto.stato, contesto.dialoghi, voce);
   const bool visti =

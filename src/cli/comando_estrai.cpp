@@ -16,10 +16,10 @@ struct VoceEstrazione {
 constexpr std::array kEstrazioni = {VoceEstrazione{"note", EstraiNote},
                                     VoceEstrazione{"nuovi", EstraiNuovi}};
 
-Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
-  const VoceEstrazione& voce = PerNome(kEstrazioni, righe.positionalArguments().constFirst());
+Esito Esegui(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const VoceEstrazione& voce = PerNome(kEstrazioni, opzioni.positionalArguments().constFirst());
   contesto.stato.DbArchivio =
-      ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
+      ApriArchivio(opzioni.positionalArguments().constLast(), contesto.dialoghi);
   voce.esegui(contesto.stato, contesto.dialoghi);
   return Esito::Fatto;
 }

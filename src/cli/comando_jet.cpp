@@ -7,18 +7,18 @@ namespace torvi {
 
 namespace {
 
-Esito Converti(Contesto& contesto, const QCommandLineParser& righe) {
+Esito Converti(Contesto& contesto, const QCommandLineParser& opzioni) {
   const Clessidra clessidra(contesto.dialoghi);
-  ConvertiJet(TrovaPercorso(righe.positionalArguments().constFirst()),
-              righe.positionalArguments().constLast(),
+  ConvertiJet(TrovaPercorso(opzioni.positionalArguments().constFirst()),
+              opzioni.positionalArguments().constLast(),
               [&contesto](const QString& cosa, int fatto, int totale) {
                 contesto.dialoghi.Avanzamento(cosa, fatto, totale);
               });
   return Esito::Fatto;
 }
 
-Esito Verifica(Contesto& contesto, const QCommandLineParser& righe) {
-  const QString percorso = TrovaPercorso(righe.positionalArguments().constFirst());
+Esito Verifica(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const QString percorso = TrovaPercorso(opzioni.positionalArguments().constFirst());
   const QStringList difetti = VerificaArchivio(OpenDatabase(percorso, Accesso::SolaLettura));
   for (const QString& difetto : difetti) contesto.uscita << difetto << '\n';
   contesto.dialoghi.Messaggio(

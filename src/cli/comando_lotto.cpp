@@ -18,12 +18,12 @@ QString Resoconto(const EsitoLotto& esito, bool prosegue) {
            esito.fallite.join(u' '), QString::number(esito.fatte), QString::number(esito.consegne));
 }
 
-Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
-  const VoceLotto& voce = PerNome(VociLotto(), righe.positionalArguments().constFirst());
-  const bool prosegue = righe.isSet(QStringLiteral("prosegui"));
-  const bool pdf = righe.isSet(QStringLiteral("pdf"));
+Esito Esegui(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const VoceLotto& voce = PerNome(VociLotto(), opzioni.positionalArguments().constFirst());
+  const bool prosegue = opzioni.isSet(QStringLiteral("prosegui"));
+  const bool pdf = opzioni.isSet(QStringLiteral("pdf"));
   const QString programma = pdf ? ProgrammaPdf() : QString();
-  contesto.dialoghi.FileUscitaScelto(TrovaPercorso(righe.positionalArguments().constLast()));
+  contesto.dialoghi.FileUscitaScelto(TrovaPercorso(opzioni.positionalArguments().constLast()));
   const EsitoLotto esito = EseguiLotto(contesto.stato, contesto.dialoghi, voce.lotto,
                                        prosegue ? AlGuasto::Prosegui : AlGuasto::Ferma);
   if (!esito.fallite.isEmpty()) contesto.dialoghi.Messaggio(Resoconto(esito, prosegue));

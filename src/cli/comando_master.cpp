@@ -14,13 +14,13 @@ namespace {
 constexpr std::array kOpzioniMaster = {Opzione{"da", "VECCHIO.mdb"}};
 constexpr std::array kOpzioniEsempio = {Opzione{"documenti", "N"}};
 
-Esito Master(Contesto& contesto, const QCommandLineParser& righe) {
-  const QString percorso = righe.positionalArguments().constFirst();
-  if (!righe.isSet(QStringLiteral("da"))) {
+Esito Master(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const QString percorso = opzioni.positionalArguments().constFirst();
+  if (!opzioni.isSet(QStringLiteral("da"))) {
     CreaMaster(percorso);
     return Esito::Fatto;
   }
-  const QString vecchio = TrovaPercorso(righe.value(QStringLiteral("da")));
+  const QString vecchio = TrovaPercorso(opzioni.value(QStringLiteral("da")));
   RichiediArchivio(OpenDatabase(vecchio, Accesso::SolaLettura));
   const Clessidra clessidra(contesto.dialoghi);
   ConvertiJet(vecchio, percorso, [&contesto](const QString& cosa, int fatto, int totale) {
@@ -29,26 +29,26 @@ Esito Master(Contesto& contesto, const QCommandLineParser& righe) {
   return Esito::Fatto;
 }
 
-Esito Catalogo(Contesto& /*contesto*/, const QCommandLineParser& righe) {
-  CreaCatalogo(righe.positionalArguments().constFirst());
+Esito Catalogo(Contesto& /*contesto*/, const QCommandLineParser& opzioni) {
+  CreaCatalogo(opzioni.positionalArguments().constFirst());
   return Esito::Fatto;
 }
 
-int Documenti(const QCommandLineParser& righe) {
+int Documenti(const QCommandLineParser& opzioni) {
   const QString nome = QStringLiteral("documenti");
-  if (!righe.isSet(nome)) return kDocumentiEsempio;
+  if (!opzioni.isSet(nome)) return kDocumentiEsempio;
   bool numero = false;
-  const int documenti = righe.value(nome).toInt(&numero);
+  const int documenti = opzioni.value(nome).toInt(&numero);
   if (!numero || documenti < 1 || documenti > kMassimoDocumentiEsempio) {
     throw ErroreUso{QStringLiteral("--documenti va da 1 a %1").arg(kMassimoDocumentiEsempio)};
   }
   return documenti;
 }
 
-Esito Esempio(Contesto& contesto, const QCommandLineParser& righe) {
-  const int documenti = Documenti(righe);
+Esito Esempio(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const int documenti = Documenti(opzioni);
   const Clessidra clessidra(contesto.dialoghi);
-  CreaEsempio(righe.positionalArguments().constFirst(),
+  CreaEsempio(opzioni.positionalArguments().constFirst(),
               FileArchivio(contesto.stato.CartellaApplicazione, QStringLiteral("master.mdb")),
               documenti);
   return Esito::Fatto;

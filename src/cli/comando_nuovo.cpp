@@ -25,11 +25,11 @@ constexpr std::array kForme = {
     Forma{"anno", "[0-9]{4}", "di quattro cifre"},
 };
 
-QString Valore(const QCommandLineParser& righe, const Forma& forma) {
+QString Valore(const QCommandLineParser& opzioni, const Forma& forma) {
   const QString opzione = QString::fromUtf8(forma.opzione);
   const QRegularExpression modello(
       QRegularExpression::anchoredPattern(QString::fromUtf8(forma.modello)));
-  QString valore = righe.value(opzione);
+  QString valore = opzioni.value(opzione);
   if (!modello.match(valore).hasMatch()) {
     throw ErroreUso{
         QStringLiteral("--%1 deve essere %2").arg(opzione, QString::fromUtf8(forma.detto))};
@@ -37,10 +37,10 @@ QString Valore(const QCommandLineParser& righe, const Forma& forma) {
   return valore;
 }
 
-Esito Nuovo(Contesto& contesto, const QCommandLineParser& righe) {
+Esito Nuovo(Contesto& contesto, const QCommandLineParser& opzioni) {
   QStringList campi;
-  for (const Forma& forma : kForme) campi.append(Valore(righe, forma));
-  contesto.stato.PathArchivio = righe.positionalArguments().constFirst();
+  for (const Forma& forma : kForme) campi.append(Valore(opzioni, forma));
+  contesto.stato.PathArchivio = opzioni.positionalArguments().constFirst();
   if (contesto.stato.PathArchivio.isEmpty()) {
     throw ErroreUso{QStringLiteral("Nome archivio non valido")};
   }

@@ -34,16 +34,16 @@ constexpr std::array kStampe = {Stampa{"completa", EseguiRTF<true, false>},
                                 Stampa{"celex", StampaHTMLCelex},
                                 Stampa{"hudoc", StampaHTMLHudoc}};
 
-Esito Esegui(Contesto& contesto, const QCommandLineParser& righe) {
-  const Stampa& stampa = PerNome(kStampe, righe.positionalArguments().constFirst());
-  const bool filtro = righe.isSet(QStringLiteral("filtro"));
+Esito Esegui(Contesto& contesto, const QCommandLineParser& opzioni) {
+  const Stampa& stampa = PerNome(kStampe, opzioni.positionalArguments().constFirst());
+  const bool filtro = opzioni.isSet(QStringLiteral("filtro"));
   if (filtro && stampa.conFiltro == nullptr) {
     throw ErroreUso{QStringLiteral("--filtro vale solo per la stampa dei testi")};
   }
-  const bool pdf = righe.isSet(QStringLiteral("pdf"));
+  const bool pdf = opzioni.isSet(QStringLiteral("pdf"));
   const QString programma = pdf ? ProgrammaPdf() : QString();
   contesto.stato.DbArchivio =
-      ApriArchivio(righe.positionalArguments().constLast(), contesto.dialoghi);
+      ApriArchivio(opzioni.positionalArguments().constLast(), contesto.dialoghi);
   (filtro ? stampa.conFiltro : stampa.esegui)(contesto.stato, contesto.dialoghi);
   if (!pdf) return Esito::Fatto;
   for (const QString& file : contesto.dialoghi.FileScritti()) {

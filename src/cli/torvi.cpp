@@ -43,14 +43,14 @@ int Sbagliato(const QString& motivo, const QString& uso) {
   return static_cast<int>(Esito::Uso);
 }
 
-void AggiungiComuni(QCommandLineParser& righe) {
-  righe.addOption({kCartella, {}, QStringLiteral("DIR")});
-  righe.addOption(QCommandLineOption(kAiuto));
+void AggiungiComuni(QCommandLineParser& opzioni) {
+  opzioni.addOption({kCartella, {}, QStringLiteral("DIR")});
+  opzioni.addOption(QCommandLineOption(kAiuto));
 }
 
 // What the parser says is English; the reasons that it can have are few.
-QString Motivo(const QCommandLineParser& righe) {
-  const QStringList ignote = righe.unknownOptionNames();
+QString Motivo(const QCommandLineParser& opzioni) {
+  const QStringList ignote = opzioni.unknownOptionNames();
   return ignote.isEmpty() ? QStringLiteral("manca il valore di un'opzione, o ce n'è uno di troppo")
                           : QStringLiteral("opzione sconosciuta: ") + ignote.join(u' ');
 }
@@ -61,14 +61,14 @@ QString CartellaApplicazione(const QString& scelta) {
   return QCoreApplication::applicationDirPath();
 }
 
-int EseguiComando(const Comando& comando, const QCommandLineParser& righe, const QString& cartella,
-                  QTextStream& uscita) {
+int EseguiComando(const Comando& comando, const QCommandLineParser& opzioni,
+                  const QString& cartella, QTextStream& uscita) {
   Contesto contesto{{}, uscita};
   Esito esito = Esito::Fallito;
   try {
     Esegui(contesto.dialoghi, [&] {
       contesto.stato.CartellaApplicazione = CartellaApplicazione(cartella);
-      esito = comando.esegui(contesto, righe);
+      esito = comando.esegui(contesto, opzioni);
     });
   } catch (const Rifiuto& rifiuto) {
     contesto.dialoghi.Messaggio(
@@ -81,18 +81,18 @@ int EseguiComando(const Comando& comando, const QCommandLineParser& righe, const
 
 int LeggiComando(const Comando& comando, const QStringList& argomenti, const QString& cartella,
                  QTextStream& uscita) {
-  QCommandLineParser righe;
-  AggiungiComuni(righe);
+  QCommandLineParser opzioni;
+  AggiungiComuni(opzioni);
   for (const Opzione& opzione : comando.opzioni) {
-    righe.addOption({QString::fromUtf8(opzione.nome), {}, QString::fromUtf8(opzione.valore)});
+    opzioni.addOption({QString::fromUtf8(opzione.nome), {}, QString::fromUtf8(opzione.valore)});
   }
-  const bool letto = righe.parse(argomenti);
-  if (righe.isSet(kAiuto)) {
+  const bool letto = opzioni.parse(argomenti);
+  if (opzioni.isSet(kAiuto)) {
     uscita << UsoComando(comando);
     return static_cast<int>(Esito::Fatto);
   }
-  if (!letto) return Sbagliato(Motivo(righe), UsoComando(comando));
-  const qsizetype dati = righe.positionalArguments().size();
+  if (!letto) return Sbagliato(Motivo(opzioni), UsoComando(comando));
+  const qsizetype dati = opzioni.positionalArguments().size();
   if (dati < comando.argomenti || (dati > comando.argomenti && !comando.ancheOltre)) {
     return Sbagliato(QStringLiteral("gli argomenti di \"%1\" sono %2%3")
                          .arg(QString::fromUtf8(comando.nome),
@@ -100,8 +100,8 @@ int LeggiComando(const Comando& comando, const QStringList& argomenti, const QSt
                          .arg(comando.argomenti),
                      UsoComando(comando));
   }
-  return EseguiComando(comando, righe, righe.isSet(kCartella) ? righe.value(kCartella) : cartella,
-                       uscita);
+  return EseguiComando(comando, opzioni,
+                       opzioni.isSet(kCartella) ? opzioni.value(kCartella) : cartella, uscita);
 }
 
 }  // namespace
@@ -114,23 +114,23 @@ std::span<const Comando> Comandi() {
 }
 
 int EseguiTorvi(const QStringList& argomenti, QTextStream& uscita) {
-  QCommandLineParser righe;
-  righe.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
-  AggiungiComuni(righe);
-  const bool letto = righe.parse(argomenti);
-  if (righe.isSet(kAiuto)) {
+  QCommandLineParser opzioni;
+  opzioni.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+  AggiungiComuni(opzioni);
+  const bool letto = opzioni.parse(argomenti);
+  if (opzioni.isSet(kAiuto)) {
     uscita << UsoGenerale();
     return static_cast<int>(Esito::Fatto);
   }
-  if (!letto) return Sbagliato(Motivo(righe), UsoGenerale());
-  QStringList resto = righe.positionalArguments();
+  if (!letto) return Sbagliato(Motivo(opzioni), UsoGenerale());
+  QStringList resto = opzioni.positionalArguments();
   if (resto.isEmpty()) return Sbagliato(QStringLiteral("manca il comando"), UsoGenerale());
   const auto comando = std::ranges::find_if(
       Comandi(), [&](const Comando& uno) { return resto.first() == QLatin1String(uno.nome); });
   if (comando == Comandi().end()) {
     return Sbagliato(QStringLiteral("comando sconosciuto: ") + resto.first(), UsoGenerale());
   }
-  return LeggiComando(*comando, resto, righe.value(kCartella), uscita);
+  return LeggiComando(*comando, resto, opzioni.value(kCartella), uscita);
 }
 
 }  // namespace torvi

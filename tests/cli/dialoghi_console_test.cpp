@@ -1,6 +1,11 @@
 #include "cli/dialoghi_console.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
 
 namespace torvi {
 namespace {
@@ -39,6 +44,46 @@ TEST(DialoghiConsole, SaysOneLineForEachMessageAndShowsNoProgressInAFile) {
   dialoghi.MostraErrori(QStringLiteral("Errori\r\n"));
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "Prima riga seconda – già\n");
   EXPECT_EQ(testo, QStringLiteral("Errori\r\n"));
+}
+
+// Standard error as a terminal, as long as it lives.
+class Terminale {
+ public:
+  Terminale() : errori_(dup(STDERR_FILENO)), capo_(posix_openpt(O_RDWR | O_NOCTTY)) {
+    EXPECT_EQ(grantpt(capo_), 0);
+    EXPECT_EQ(unlockpt(capo_), 0);
+    schermo_ = open(ptsname(capo_), O_RDWR | O_NOCTTY);
+    EXPECT_EQ(dup2(schermo_, STDERR_FILENO), STDERR_FILENO);
+  }
+  Terminale(const Terminale&) = delete;
+  Terminale& operator=(const Terminale&) = delete;
+  ~Terminale() {
+    dup2(errori_, STDERR_FILENO);
+    for (const int uno : {errori_, capo_, schermo_}) close(uno);
+  }
+  [[nodiscard]] std::string Scritto() const {
+    std::array<char, 1000> byte = {};
+    return {byte.data(), static_cast<std::size_t>(read(capo_, byte.data(), byte.size()))};
+  }
+
+ private:
+  int errori_;
+  int capo_;
+  int schermo_ = -1;
+};
+
+TEST(DialoghiConsole, ShowsHowFarARunHasComeOnATerminal) {
+  QString testo;
+  QTextStream uscita(&testo);
+  DialoghiConsole dialoghi(uscita);
+  const Terminale terminale;
+  dialoghi.Ambito(QStringLiteral("B01 (2 di 3): "));
+  dialoghi.Avanzamento(QStringLiteral("Note"), 100, 250);
+  EXPECT_EQ(terminale.Scritto(), "\rB01 (2 di 3): Note: 100 di 250");
+  dialoghi.Avanzamento(QStringLiteral("Note"), 5, 0);  // over the longer line
+  EXPECT_EQ(terminale.Scritto(), "\rB01 (2 di 3): Note: 5         ");
+  dialoghi.Messaggio(QStringLiteral("Fine"));
+  EXPECT_EQ(terminale.Scritto(), "\r                     \rFine\r\n");
 }
 
 }  // namespace
