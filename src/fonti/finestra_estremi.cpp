@@ -5,6 +5,7 @@
 #include "fonti/elenchi_fonte.h"
 #include "shell/finestra_combo.h"
 #include "shell/finestra_fuoco.h"
+#include "shell/finestra_misure.h"
 #include "ui_finestra_estremi.h"
 
 namespace torvi {
@@ -53,9 +54,7 @@ FinestraEstremi::FinestraEstremi(QWidget* genitore)
     connect(&campo, &QLineEdit::textChanged, this, &FinestraEstremi::Cambiato);
   }
   for (QGroupBox* riquadro : {ui_->FrameEstremi, ui_->FrameRipartizioni}) {
-    QSizePolicy misura = riquadro->sizePolicy();
-    misura.setRetainSizeWhenHidden(true);
-    riquadro->setSizePolicy(misura);
+    TieniIlPosto(*riquadro);
   }
 }
 
@@ -74,11 +73,7 @@ void FinestraEstremi::Mostra(bool estremi, bool ripartizioni) {
   ui_->FrameRipartizioni->setVisible(ripartizioni);
 }
 
-void FinestraEstremi::SoloRipartizioni() {
-  QSizePolicy misura = ui_->FrameEstremi->sizePolicy();
-  misura.setRetainSizeWhenHidden(false);
-  ui_->FrameEstremi->setSizePolicy(misura);
-}
+void FinestraEstremi::SoloRipartizioni() { TieniIlPosto(*ui_->FrameEstremi, false); }
 
 void FinestraEstremi::EntraRipartizioni() { ui_->txtArt->setFocus(); }
 

@@ -10,6 +10,7 @@
 #include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
 #include "shell/finestra_frecce.h"
+#include "shell/finestra_misure.h"
 #include "shell/guardia.h"
 #include "shell/valori.h"
 #include "ui_frmTabAltraFonte_pagina.h"
@@ -22,12 +23,6 @@ constexpr int kStraniero = 2;
 constexpr int kCanonico = 3;
 
 [[nodiscard]] bool HaSezione(int indice) { return indice <= kComunitario; }
-
-void MantieniPosto(QWidget& controllo) {
-  QSizePolicy misura = controllo.sizePolicy();
-  misura.setRetainSizeWhenHidden(true);
-  controllo.setSizePolicy(misura);
-}
 
 [[nodiscard]] std::optional<QString> Selezionata(const QListWidget& lista) {
   const auto scelte = lista.selectedItems();
@@ -61,7 +56,7 @@ frmTabAltraFonte_pagina::frmTabAltraFonte_pagina(StatoGlobale& stato, Dialoghi& 
   for (QWidget* controllo :
        {static_cast<QWidget*>(ui_->FrameAltro), static_cast<QWidget*>(ui_->LabelLibero),
         static_cast<QWidget*>(ui_->txtLibero)}) {
-    MantieniPosto(*controllo);
+    TieniIlPosto(*controllo);
   }
   MostraAltro(false);
   RiempiListaFonte({});

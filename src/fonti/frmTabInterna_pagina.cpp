@@ -6,6 +6,7 @@
 #include "shell/finestra_cerca_lista.h"
 #include "shell/finestra_combo.h"
 #include "shell/finestra_frecce.h"
+#include "shell/finestra_misure.h"
 #include "shell/guardia.h"
 #include "ui_frmTabInterna_pagina.h"
 
@@ -27,13 +28,6 @@ constexpr VoceInterna kCodificazione{.indice = 0,
                                      .elenco = ElencoInfo::Nessuno,
                                      .info2 = false,
                                      .info3 = nullptr};
-
-// A hidden control leaves its place blank, so that what stands around does not jump.
-void TieniIlPosto(QWidget& controllo) {
-  QSizePolicy misura = controllo.sizePolicy();
-  misura.setRetainSizeWhenHidden(true);
-  controllo.setSizePolicy(misura);
-}
 
 void MostraSe(bool serve, std::initializer_list<QWidget*> controlli) {
   for (QWidget* controllo : controlli) {

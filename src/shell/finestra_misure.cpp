@@ -21,4 +21,10 @@ void AllargaPerIlTitolo(QMessageBox& riquadro) {
                    griglia->columnCount());
 }
 
+void TieniIlPosto(QWidget& controllo, bool tieni) {
+  QSizePolicy misura = controllo.sizePolicy();
+  misura.setRetainSizeWhenHidden(tieni);
+  controllo.setSizePolicy(misura);
+}
+
 }  // namespace torvi

@@ -8,6 +8,9 @@ namespace torvi {
 
 // Makes a window smaller where the screen, at its scale, has no room for it.
 void AdattaAlloSchermo(QWidget& finestra);
+// Whether a control that is hidden leaves its place blank, so that what stands around does not
+// jump.
+void TieniIlPosto(QWidget& controllo, bool tieni = true);
 // Makes a box wide enough for its title.
 void AllargaPerIlTitolo(QMessageBox& riquadro);
 
