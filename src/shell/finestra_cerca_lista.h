@@ -10,8 +10,8 @@ namespace torvi {
 // on and at last in the first. Without one the selection stays.
 void CercaNellaLista(QListWidget& lista, const QString& inizio);
 
-// A field beside its list: typing selects an item, a double click or Enter on a selected item copies
-// it.
+// A field beside its list: typing selects an item, a double click or Enter on a selected item
+// copies it.
 void CollegaCampoALista(QLineEdit& campo, QListWidget& lista);
 
 }  // namespace torvi

@@ -6,12 +6,12 @@
 
 namespace torvi {
 
-// The file or folder of that path as it is spelled on disk: each part that is not there as written is
-// sought ignoring case. What is not there at all keeps the spelling it was given.
+// The file or folder of that path as it is spelled on disk: each part that is not there as written
+// is sought ignoring case. What is not there at all keeps the spelling it was given.
 [[nodiscard]] QString TrovaPercorso(const QString& percorso);
-// Below the application folder, looked up as above.
-[[nodiscard]] QString FileArchivio(const QString& cartellaApplicazione, const QString& nome);  // mdb/
-[[nodiscard]] QString FileUscita(const QString& cartellaApplicazione, const QString& nome);    // dump/
+// In mdb/ and in dump/ of the application folder, looked up as above.
+[[nodiscard]] QString FileArchivio(const QString& cartellaApplicazione, const QString& nome);
+[[nodiscard]] QString FileUscita(const QString& cartellaApplicazione, const QString& nome);
 // Makes mdb/ and dump/ where they are missing. Error 75 names the folder that cannot be made.
 void PreparaCartelle(const QString& cartellaApplicazione);
 // Names of the files of a folder that match a pattern ("lexxdump*.*"), ignoring case, in

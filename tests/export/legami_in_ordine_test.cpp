@@ -31,11 +31,10 @@ TEST(LegamiInOrdine, EachDocumentGetsItsOwnInStoredOrder) {
   const CartellaDiProva cartella;
   const Database archivio = ArchivioConLegami(cartella);
   LegamiInOrdine legami(archivio, "select * from legameDocFonte order by legameDocFonte.IDDoc");
+  // Back to one before, and the same once more.
   const std::initializer_list<std::pair<qint64, QList<qint64>>> casi = {
-      {1, {}},          {2, {20, 21, 22}}, {3, {}},           {7, {70}},
-      {9, {90}},        {10, {}},          {2, {20, 21, 22}},  // back to one before, and the same
-                                                               // once more
-      {2, {20, 21, 22}}};
+      {1, {}},   {2, {20, 21, 22}}, {3, {}},           {7, {70}},
+      {9, {90}}, {10, {}},          {2, {20, 21, 22}}, {2, {20, 21, 22}}};
   for (const auto& [documento, fonti] : casi) EXPECT_EQ(Fonti(legami, documento), fonti);
 }
 
