@@ -104,7 +104,7 @@ void frmTabAltraFonte_pagina::CollegaComandi() {
            {ui_->cmdAbbandona, &frmTabAltraFonte_pagina::cmdAbbandona_Click},
            {ui_->cmdAid, &frmTabAltraFonte_pagina::cmdAid_Click}}) {
     connect(pulsante, &QPushButton::clicked, this,
-            [this, gestore] { Esegui(dialoghi_, [this, gestore] { (this->*gestore)(); }); });
+            [this, gestore = gestore] { Esegui(dialoghi_, [&] { (this->*gestore)(); }); });
   }
 }
 

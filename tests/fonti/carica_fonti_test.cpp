@@ -113,7 +113,9 @@ TEST_F(Caricamento, FindsTheNameInTheCatalogueOfTheCode) {
     SCOPED_TRACE(tp);
     EXPECT_EQ(Letta({{"TP", tp}, {"fonte", 1}}).FonteNorm, nome);
     for (const Campo& perduta : {Campo(99), Campo()}) {
-      const auto leggi = [&] { EXPECT_EQ(Letta({{"TP", tp}, {"fonte", perduta}}).FonteNorm, ""); };
+      const auto leggi = [&, tp = tp] {
+        EXPECT_EQ(Letta({{"TP", tp}, {"fonte", perduta}}).FonteNorm, "");
+      };
       EXPECT_EQ(NumeroErrore(leggi), deveEsserci ? 3021 : 0);
     }
   }
@@ -134,10 +136,12 @@ TEST_F(Caricamento, StopsAtADanglingKeyOfASmallTable) {
         Caso{"IDStato", false, true}}) {
     SCOPED_TRACE(colonna);
     for (const auto& [tp, letta] : {std::pair{"GIA", interna}, std::pair{"FSI", esterna}}) {
-      const auto leggi = [&] { Letta({{"TP", tp}, {"fonte", 1}, {colonna, 5}}); };
-      EXPECT_EQ(NumeroErrore(leggi), letta ? 3021 : 0) << tp;
+      const auto leggi = [&, tp = tp, colonna = colonna](const Campo& valore) {
+        return NumeroErrore([&] { Letta({{"TP", tp}, {"fonte", 1}, {colonna, valore}}); });
+      };
+      EXPECT_EQ(leggi(5), letta ? 3021 : 0) << tp;
       EXPECT_EQ(stato.RigheFonte.size(), letta ? 0U : 1U) << tp;
-      EXPECT_EQ(NumeroErrore([&] { Letta({{"TP", tp}, {"fonte", 1}, {colonna, Campo()}}); }), 0);
+      EXPECT_EQ(leggi(Campo()), 0);
     }
   }
 }
