@@ -24,9 +24,9 @@ constexpr VoceInterna kCodificazione{.indice = 0,
                                      .estremi = false,
                                      .altro = false,
                                      .regione = false,
-                                     .info1 = nullptr,
-                                     .elenco = ElencoInfo::Nessuno,
                                      .info2 = false,
+                                     .elenco = ElencoInfo::Nessuno,
+                                     .info1 = nullptr,
                                      .info3 = nullptr};
 
 void MostraSe(bool serve, std::initializer_list<QWidget*> controlli) {

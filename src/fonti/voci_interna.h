@@ -17,7 +17,7 @@ struct SchedaInterna {
 [[nodiscard]] std::span<const SchedaInterna> SchedeInterna();
 
 // Where the lines of lstElenco1 come from.
-enum class ElencoInfo { Nessuno, Province, Ministeri, Amministrazioni, Autorita, Citta };
+enum class ElencoInfo : quint8 { Nessuno, Province, Ministeri, Amministrazioni, Autorita, Citta };
 
 struct VoceInterna {
   int indice;
@@ -27,9 +27,9 @@ struct VoceInterna {
   bool estremi;
   bool altro;
   bool regione;
-  const char16_t* info1;  // caption; null: off
+  bool info2;  // the section
   ElencoInfo elenco;
-  bool info2;             // the section
+  const char16_t* info1;  // caption; null: off
   const char16_t* info3;  // caption; null: off
 };
 // Of tabs 2 and 3, in their order.

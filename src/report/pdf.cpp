@@ -40,7 +40,7 @@ QStringList Argomenti(const QFileInfo& stampa, const QString& cartella) {
 
 QString ProgrammaPdf() {
   for (const QString& nome : {u"soffice"_s, u"libreoffice"_s}) {
-    const QString programma = QStandardPaths::findExecutable(nome);
+    QString programma = QStandardPaths::findExecutable(nome);
     if (!programma.isEmpty()) return programma;
   }
   throw ErroreEsecuzione::ConDescrizione(
@@ -56,7 +56,7 @@ QString ConvertiInPdf(const QString& programma, const QString& stampa) {
   processo.setStandardErrorFile(QProcess::nullDevice());
   processo.start(programma, Argomenti(origine, cartella.path()));
   processo.waitForFinished(-1);
-  const QString pdf = origine.absoluteDir().filePath(NomePdf(origine));
+  QString pdf = origine.absoluteDir().filePath(NomePdf(origine));
   const QString scritto = cartella.filePath(origine.completeBaseName() + ".pdf"_L1);
   QFile::remove(pdf);
   if (!QFile::copy(scritto, pdf)) {

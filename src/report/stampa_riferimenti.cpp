@@ -67,7 +67,7 @@ QString RigaRiferimenti(ContestoStampa& contesto, const QString& idRecord,
   AggiungiLingue(riferimento.codificato, documento);
   if (!fascicolo.volume.isEmpty()) riferimento.codificato += " VOL="_L1 + fascicolo.volume;
 
-  const QString esteso = Paragrafo("Riferimenti estesi: "_L1, riferimento.esteso);
+  QString esteso = Paragrafo("Riferimenti estesi: "_L1, riferimento.esteso);
   if (!contesto.completa) return esteso;
   return Paragrafo("Riferimenti bibl. 1: "_L1, fascicolo.primo) +
          Paragrafo("Riferimenti bibl. 2: "_L1, riferimento.codificato) + esteso;

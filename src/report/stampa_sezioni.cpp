@@ -39,7 +39,7 @@ bool ConCodice(const QString& tp) {
 
 QString TestoFonte(const Recordset& fonte) {
   const QLatin1Char asterisco('*');
-  const QString testo = fonte.Fields("testo").Testo();
+  QString testo = fonte.Fields("testo").Testo();
   const QString tp = fonte.Fields("TP").TestoOVuoto();
   if (!ConCodice(tp) || testo.contains(asterisco)) return testo;
   return testo + asterisco + tp + asterisco;
