@@ -148,7 +148,7 @@ TEST_F(FormeRicerca, ProposesThePartByTheField) {
       Cerca([this](QWidget& modale) {
         auto& campo = Trova<QComboBox>(modale, "ComboCampo");
         auto& parte = Trova<QComboBox>(modale, "ComboParte");
-        const auto mostra = [&parte] {
+        const auto mostra = [&parte]() -> QString {
           return parte.currentText() + (parte.isEnabled() ? "" : " bloccata");
         };
         EXPECT_FALSE(parte.isEnabled());
