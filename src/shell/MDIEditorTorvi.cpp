@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QScopeGuard>
+#include <QStatusBar>
 
 #include "classificazione/caricatori.h"
 #include "document/frmRicerca.h"
