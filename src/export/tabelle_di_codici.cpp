@@ -26,7 +26,7 @@ TabelleDiCodici::Tabella& TabelleDiCodici::Trova(std::string_view nome, std::str
   for (Tabella& tabella : tabelle_) {
     if (tabella.nome == nome && tabella.indice == indice) return tabella;
   }
-  return tabelle_.emplace_back(std::string(nome), std::string(indice), Righe());
+  return tabelle_.emplace_back(Tabella{std::string(nome), std::string(indice), Righe()});
 }
 
 const Recordset& TabelleDiCodici::Cerca(std::string_view nome, const Campo& chiave,
