@@ -39,6 +39,7 @@ Campo Recordset::Corpo::Fields(int colonna) {
 
 Riga Recordset::Corpo::Copia() {
   std::vector<Campo> valori;
+  valori.reserve(Colonne().Quante());
   for (int i = 0; i < static_cast<int>(Colonne().Quante()); ++i) valori.push_back(Fields(i));
   return {std::make_shared<NomiColonne>(Colonne()), std::move(valori)};
 }
