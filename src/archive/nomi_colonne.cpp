@@ -1,7 +1,7 @@
 #include "archive/nomi_colonne.h"
 
 #include <algorithm>
-#include <bit>
+#include <functional>
 
 #include "archive/errore.h"
 
@@ -19,7 +19,7 @@ bool Uguali(std::string_view a, std::string_view b) {
 }  // namespace
 
 int NomiColonne::Posizione(std::string_view nome) const {
-  const auto indirizzo = std::bit_cast<std::uintptr_t>(nome.data()) % ricordate_.size();
+  const auto indirizzo = std::hash<const char*>()(nome.data()) % ricordate_.size();
   // The memory is only a hint: at the same address there may be another text by now.
   const std::size_t ricordata = ricordate_[indirizzo];
   if (ricordata < grafie_.size() && grafie_[ricordata].nome == nome) {
