@@ -213,9 +213,29 @@ fonti_altre() {
   scheda frmTabAltraFonte_trattati 'nit{Tab}{Tab}{Tab}{Tab}{Down}{Down}' '{Escape}'
   scheda frmTabAltraFonte_internazionale '{ctrl+a}gei{Tab}{Down}{Tab}3{Tab}mar{Tab}1995'
   scheda frmTabAltraFonte_comunitario 'derivato{Tab}reg. ue{Tab}{Tab}{Tab}2016{Tab}679{Tab}5'
-  scheda frmTabAltraFonte_straniero "ns$(volte 5 '{Tab}')1382$(volte 7 '{Tab}')c. civ.{Tab}Francia"
+  scheda frmTabAltraFonte_straniero \
+    "ns$(volte 5 '{Tab}')1382$(volte 7 '{Tab}')c. civ.{Tab}Francia" '{Tab}{space}'
+  ritratto frmLista "Lista" ''
+  finestra "Tipi di diritto diverso da quello interno"
+  batti '{ctrl+Tab}'
   scheda frmTabAltraFonte_canonico 'fcg{Tab}{Down}{Tab}{Tab}{Tab}1999'
   scheda frmTabAltraFonte_storiche 'fsr{Tab}{Down}{Tab}D. 1.1.1' '{Escape}'
+  finestra "$documento"
+}
+
+# A ministry that the archive does not know.
+ente_nuovo() {
+  batti '{F9}'
+  finestra "Tipo di fonte"
+  batti '{Return}'
+  finestra "Fonte di diritto interno"
+  batti "{ctrl+Tab}{ctrl+Tab}governativi{Tab}{Down}{Tab}Mare e pesca$(volte 4 '{Tab}')2003{alt+e}"
+  finestra "$documento"
+  batti '{F4}'
+  finestra "Attenzione"
+  ritratto frmImmissioneTesto "Immissione testo" s 'Ministero del mare e della pesca' '{Tab}{Return}'
+  finestra "TorviEditor"
+  batti '{Return}'
   finestra "$documento"
 }
 
@@ -305,8 +325,8 @@ uscita() {
 "$cartella/TorviEditor" 2>"$lavoro/messaggi" &
 processi+=($!)
 for passo in consegna_nuova apertura esportazione stampe accodamento documento classificazione \
-  riassunto testi_brevi fonti_interne fonti_altre correzione_fonte combo_e_periodico ante_2000 \
-  cancellazione ricerca riservata lista_sigle uscita; do
+  riassunto testi_brevi fonti_interne fonti_altre ente_nuovo correzione_fonte combo_e_periodico \
+  ante_2000 cancellazione ricerca riservata lista_sigle uscita; do
   "$passo"
 done
 ls "$immagini"
