@@ -1,7 +1,6 @@
 #include "document/frmRicerca.h"
 
 #include <algorithm>
-#include <array>
 
 #include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
@@ -9,12 +8,6 @@
 #include "ui_frmRicerca.h"
 
 namespace torvi {
-namespace {
-
-// The items of ComboParte.
-constexpr std::array kParti = {ModoCampo::Tutte, ModoCampo::AlmenoUna, ModoCampo::Sequenza};
-
-}  // namespace
 
 frmRicerca::frmRicerca(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre)
     : QDialog(padre), ui_(std::make_unique<Ui::frmRicerca>()), stato_(stato), dialoghi_(dialoghi) {
@@ -43,12 +36,12 @@ const CampoRicerca* frmRicerca::Campo() const {
 
 ModoCampo frmRicerca::Modo() const {
   if (ui_->optIntero->isChecked()) return ModoCampo::Intero;
-  return kParti.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()));
+  return kVociParte.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()));
 }
 
 void frmRicerca::ProponeParte(ModoCampo modo, bool bloccata) {
-  const auto* parte = std::ranges::find(kParti, modo);
-  ui_->ComboParte->setCurrentIndex(static_cast<int>(parte - kParti.begin()));
+  const auto* parte = std::ranges::find(kVociParte, modo);
+  ui_->ComboParte->setCurrentIndex(static_cast<int>(parte - kVociParte.begin()));
   ui_->ComboParte->setEnabled(!bloccata);
 }
 
@@ -61,7 +54,7 @@ void frmRicerca::ComboCampo_Click() {
 // The field counts only when it is chosen after this.
 void frmRicerca::optParte_Click(bool scelta) {
   if (scelta) {
-    ProponeParte(kParti.front(), false);
+    ProponeParte(kVociParte.front(), false);
   } else {
     ui_->ComboParte->setEnabled(false);
   }

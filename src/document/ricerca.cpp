@@ -78,9 +78,8 @@ constexpr std::array kCampi = {
 
 // The delivery number is an estimate: a deleted document moves those after it.
 QString RigaRisultato(const StatoGlobale& stato, qint64 numero) {
-  const QString progressivo = RiempiZeri(QString::number(numero + stato.ContatoreDoc - 1), 4);
-  return QString::number(numero) + QLatin1String(" --> ") + stato.PrefissoDoc + progressivo +
-         QLatin1String(" ?");
+  return QString::number(numero) + QLatin1String(" --> ") +
+         NumeroIntero(stato, numero + stato.ContatoreDoc - 1) + QLatin1String(" ?");
 }
 
 void Raccogli(StatoGlobale& stato, Recordset& trovati, RisultatoRicerca& risultato) {

@@ -45,8 +45,8 @@ void RiempiScelta(StatoGlobale& stato, Dialoghi& dialoghi, SceltaDoc& scelta) {
   if (documenti.Eof()) dialoghi.Messaggio(QStringLiteral("Nessun documento presente!"));
   const int colonna = documenti.Colonna("IDDocumento");
   for (qint64 contatore = stato.ContatoreDoc; !documenti.Eof(); documenti.MoveNext()) {
-    nuova.lstDocumento += documenti.Fields(colonna).Testo() + QLatin1String(" --> ") +
-                          stato.PrefissoDoc + RiempiZeri(QString::number(contatore), 4);
+    nuova.lstDocumento +=
+        documenti.Fields(colonna).Testo() + QLatin1String(" --> ") + NumeroIntero(stato, contatore);
     ++contatore;
   }
   scelta = std::move(nuova);

@@ -1,6 +1,7 @@
 #include "export/elenco_fonti.h"
 
 #include "export/verifica_catalogo.h"
+#include "fonti/righe_fonte.h"
 #include "shell/valori.h"
 
 namespace torvi {
@@ -53,15 +54,9 @@ constexpr Controllo kControlli[] = {
     {true, AttoNonConfermato, "Fonte errata: "_L1},
 };
 
-// Kinds of source whose type code stands behind the citation.
-bool Marcata(const QString& tp) {
-  return tp.startsWith("NI"_L1) || tp.startsWith("GE"_L1) || tp == "NS"_L1 || tp == "GS"_L1 ||
-         tp.startsWith(QLatin1Char('F'));
-}
-
 QString Elemento(const Citazione& citazione) {
   constexpr QLatin1Char kStella('*');
-  if (!Marcata(citazione.tp) || citazione.testo.contains(kStella)) return citazione.testo;
+  if (!FonteEsterna(citazione.tp) || citazione.testo.contains(kStella)) return citazione.testo;
   return citazione.testo + kStella + citazione.tp + kStella;
 }
 

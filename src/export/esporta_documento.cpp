@@ -1,7 +1,5 @@
 #include "export/esporta_documento.h"
 
-#include <array>
-
 #include "export/classi.h"
 #include "export/elenco_fonti.h"
 #include "export/fonti_documento.h"
@@ -14,14 +12,6 @@ namespace torvi {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-
-// The tag of the note follows from the document's type; a type that is not here has no note field.
-struct TagNota {
-  const char* td;
-  const char* tag;
-};
-constexpr std::array kTagNota = {TagNota{"02", "20"}, TagNota{"03", "15"}, TagNota{"04", "16"},
-                                 TagNota{"07", "17"}, TagNota{"08", "18"}, TagNota{"09", "19"}};
 
 class Documento {
  public:
@@ -116,10 +106,8 @@ void Documento::Nota() {
     }
     return;
   }
-  for (const TagNota& nota : kTagNota) {
-    if (td_ != QLatin1String(nota.td)) continue;
-    Testo({QStringLiteral("4"), QStringLiteral("nota"), QString::fromLatin1(nota.tag)});
-  }
+  const QLatin1StringView tag = TagNota(td_);
+  if (!tag.isEmpty()) Testo({QStringLiteral("4"), QStringLiteral("nota"), tag});
 }
 
 void Documento::Testi() {

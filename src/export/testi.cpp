@@ -97,6 +97,16 @@ void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QStr
   contesto.record.AggiungiTesto(tag, nomi.join("\\ "_L1));
 }
 
+QLatin1StringView TagNota(const QString& td) {
+  static constexpr std::pair<QLatin1StringView, QLatin1StringView> kTag[] = {
+      {"02"_L1, "20"_L1}, {"03"_L1, "15"_L1}, {"04"_L1, "16"_L1},
+      {"07"_L1, "17"_L1}, {"08"_L1, "18"_L1}, {"09"_L1, "19"_L1}};
+  for (const auto& [tipo, tag] : kTag) {
+    if (td == tipo) return tag;
+  }
+  return {};
+}
+
 TestiDocumento::TestiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
     const Recordset& riga = legami.Riga();

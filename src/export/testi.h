@@ -27,6 +27,9 @@ inline const CampoTesto kEnglishAbstract = {QStringLiteral("8"), QStringLiteral(
                                             tag::kEnglishAbstract};
 }  // namespace testo
 
+// The tag of the note, which follows from the document's type. Empty: the type has no note.
+[[nodiscard]] QLatin1StringView TagNota(const QString& td);
+
 // The texts of one document. Of several of one `Tipo` the first counts.
 class TestiDocumento {
  public:

@@ -1,7 +1,6 @@
 #include "fonti/frmTabAltraFonte_trattati.h"
 
 #include <QKeyEvent>
-#include <array>
 
 #include "fonti/trattati.h"
 #include "shell/finestra_cerca_lista.h"
@@ -10,12 +9,6 @@
 #include "ui_frmTabAltraFonte_trattati.h"
 
 namespace torvi {
-namespace {
-
-// The items of ComboParte.
-constexpr std::array kParti = {ModoCampo::Tutte, ModoCampo::AlmenoUna, ModoCampo::Sequenza};
-
-}  // namespace
 
 frmTabAltraFonte_trattati::frmTabAltraFonte_trattati(StatoGlobale& stato, Dialoghi& dialoghi,
                                                      QWidget* padre)
@@ -69,7 +62,7 @@ void frmTabAltraFonte_trattati::optParte_Click(bool scelta) {
 
 ModoCampo frmTabAltraFonte_trattati::Modo() const {
   if (ui_->optIntero->isChecked()) return ModoCampo::Intero;
-  return kParti.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()));
+  return kVociParte.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()));
 }
 
 void frmTabAltraFonte_trattati::cmdCercaNIT_Click() {

@@ -1,7 +1,6 @@
 #include "fonti/frmTabInterna_catalogo.h"
 
 #include <QKeyEvent>
-#include <array>
 
 #include "archive/errore.h"
 #include "fonti/controlli_fonte.h"
@@ -12,12 +11,6 @@
 #include "ui_frmTabInterna_catalogo.h"
 
 namespace torvi {
-namespace {
-
-// The items of ComboParte.
-constexpr std::array kParti = {ModoCampo::Tutte, ModoCampo::AlmenoUna, ModoCampo::Sequenza};
-
-}  // namespace
 
 frmTabInterna_catalogo::frmTabInterna_catalogo(Dialoghi& dialoghi, QWidget* padre)
     : QWidget(padre), ui_(std::make_unique<Ui::frmTabInterna_catalogo>()), dialoghi_(dialoghi) {
@@ -66,7 +59,7 @@ DomandaCatalogo frmTabInterna_catalogo::Domanda() const {
           .txtCatalogoParola = ui_->txtCatalogoParola->text(),
           .modo = ui_->optIntero->isChecked()
                       ? ModoCampo::Intero
-                      : kParti.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()))};
+                      : kVociParte.at(static_cast<std::size_t>(ui_->ComboParte->currentIndex()))};
 }
 
 void frmTabInterna_catalogo::optParte_Click(bool scelta) {

@@ -3,11 +3,6 @@
 namespace torvi {
 namespace {
 
-bool FonteEsterna(const QString& tp) {
-  return tp.startsWith(QLatin1String("NI")) || tp.startsWith(QLatin1String("GE")) ||
-         tp.startsWith(QLatin1Char('F')) || tp == QLatin1String("NS") || tp == QLatin1String("GS");
-}
-
 bool MostraCodice(const QString& tp, RegolaLista regola) {
   switch (regola) {
     case RegolaLista::Caricata:
@@ -21,6 +16,11 @@ bool MostraCodice(const QString& tp, RegolaLista regola) {
 }
 
 }  // namespace
+
+bool FonteEsterna(const QString& tp) {
+  return tp.startsWith(QLatin1String("NI")) || tp.startsWith(QLatin1String("GE")) ||
+         tp.startsWith(QLatin1Char('F')) || tp == QLatin1String("NS") || tp == QLatin1String("GS");
+}
 
 bool FonteInterna(const QString& tp) {
   return tp.startsWith(QLatin1String("LI")) || tp.startsWith(QLatin1String("GI")) ||

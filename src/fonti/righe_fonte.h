@@ -10,6 +10,8 @@ namespace torvi {
 
 // Codes that begin LI or GI, and AC: sources of internal law.
 [[nodiscard]] bool FonteInterna(const QString& tp);
+// Codes that begin NI, GE or F, and NS and GS: sources of other law, whose lines bear their code.
+[[nodiscard]] bool FonteEsterna(const QString& tp);
 
 // Who wrote the lines last. After a source of internal law no line bears its code; a code that
 // belongs to no kind of law bears it only after another source was entered.

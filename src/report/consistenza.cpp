@@ -55,10 +55,6 @@ qint64 StampaFascicoli(const Database& archivio, Dialoghi& dialoghi, FileTesto& 
   return totale;
 }
 
-QString Numero(const StatoGlobale& stato, qint64 numero) {
-  return stato.PrefissoDoc + RiempiZeri(QString::number(numero), 4);
-}
-
 }  // namespace
 
 void StampaConsistenza(StatoGlobale& stato, Dialoghi& dialoghi) {
@@ -74,8 +70,9 @@ void StampaConsistenza(StatoGlobale& stato, Dialoghi& dialoghi) {
   uscita.Print({});
   uscita.Print("Documenti: "_L1 + totale);
   uscita.Print({});
-  uscita.Print("Num. iniziale: "_L1 + Numero(stato, stato.ContatoreDoc) + "   Num. finale: "_L1 +
-               Numero(stato, stato.ContatoreDoc + documenti - 1) + "   Num. docc.: "_L1 + quanti);
+  uscita.Print("Num. iniziale: "_L1 + NumeroIntero(stato, stato.ContatoreDoc) +
+               "   Num. finale: "_L1 + NumeroIntero(stato, stato.ContatoreDoc + documenti - 1) +
+               "   Num. docc.: "_L1 + quanti);
   dialoghi.Messaggio("TotTAbs: "_L1 + totale + " --- Num. docc.: "_L1 + quanti);
   Concludi(uscita, clessidra, dialoghi, QStringLiteral("Fine stampa consistenza"));
 }

@@ -16,7 +16,6 @@
 #include "shell/apertura.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
-#include "shell/valori.h"
 
 namespace torvi {
 namespace {
@@ -179,12 +178,9 @@ EsitoLotto EseguiLotto(StatoGlobale& stato, Dialoghi& dialoghi, Lotto lotto, AlG
 int ContaDocumentiConsegna(StatoGlobale& stato, FileTesto& file) {
   LeggiInfoConsegna(stato);
   const int n = stato.DbArchivio.Conta(u"from tabDocumento"_s);
-  const auto numero = [&stato](int contatore) -> QString {
-    return stato.PrefissoDoc + RiempiZeri(QString::number(contatore), 4);
-  };
   file.Print("Consegna "_L1 + stato.SiglaConsegna + ": "_L1 + QString::number(n).rightJustified(3) +
-             " documenti da "_L1 + numero(stato.ContatoreDoc) + " a "_L1 +
-             numero(stato.ContatoreDoc + n - 1));
+             " documenti da "_L1 + NumeroIntero(stato, stato.ContatoreDoc) + " a "_L1 +
+             NumeroIntero(stato, stato.ContatoreDoc + n - 1));
   return n;
 }
 

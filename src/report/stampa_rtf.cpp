@@ -1,8 +1,5 @@
 #include "report/stampa_rtf.h"
 
-#include <algorithm>
-#include <array>
-
 #include "export/giro_documenti.h"
 #include "report/rtf.h"
 #include "report/stampa_classi.h"
@@ -16,15 +13,6 @@ namespace torvi {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-
-// The tag of the note follows from the document's type.
-struct TagNota {
-  QLatin1StringView td;
-  QLatin1StringView tag;
-};
-constexpr std::array kTagNota = {TagNota{"02"_L1, "20"_L1}, TagNota{"03"_L1, "15"_L1},
-                                 TagNota{"04"_L1, "16"_L1}, TagNota{"07"_L1, "17"_L1},
-                                 TagNota{"08"_L1, "18"_L1}, TagNota{"09"_L1, "19"_L1}};
 
 class Documento {
  public:
@@ -108,8 +96,8 @@ void Documento::TraduzioneENota() {
   Scrivi(traduzione);
   const QString td = riga_.Fields("td").TestoOVuoto();
   if (!contesto_.completa || td == "01"_L1 || td == "05"_L1) return;
-  const auto* nota = std::ranges::find(kTagNota, td, &TagNota::td);
-  Scrivi(nota == kTagNota.end() ? traduzione : RigaTesto(testi_, "4"_L1, nota->tag));
+  const QLatin1StringView nota = TagNota(td);
+  Scrivi(nota.isEmpty() ? traduzione : RigaTesto(testi_, "4"_L1, nota));
 }
 
 void Documento::Classificazione() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "fonti/righe_fonte.h"
 #include "report/rtf.h"
 
 namespace torvi {
@@ -31,17 +32,11 @@ constexpr std::array kEtichette = {
     Etichetta{"99"_L1, "\\i Nota compilatore: }{\\i "_L1},
 };
 
-// The kinds of source whose code an operator checks on paper.
-bool ConCodice(const QString& tp) {
-  return tp.startsWith("NI"_L1) || tp.startsWith("GE"_L1) || tp == "NS"_L1 || tp == "GS"_L1 ||
-         tp.startsWith(QLatin1Char('F'));
-}
-
 QString TestoFonte(const Recordset& fonte) {
   const QLatin1Char asterisco('*');
   QString testo = fonte.Fields("testo").Testo();
   const QString tp = fonte.Fields("TP").TestoOVuoto();
-  if (!ConCodice(tp) || testo.contains(asterisco)) return testo;
+  if (!FonteEsterna(tp) || testo.contains(asterisco)) return testo;
   return testo + asterisco + tp + asterisco;
 }
 

@@ -46,6 +46,10 @@ QString NumeroDoc(const StatoGlobale& stato) {
   return RiempiZeri(QString::number(stato.ContatoreDoc), 4);
 }
 
+QString NumeroIntero(const StatoGlobale& stato, qint64 contatore) {
+  return stato.PrefissoDoc + RiempiZeri(QString::number(contatore), 4);
+}
+
 void RegistraUsoFunzione(const StatoGlobale& stato, const QString& codice) {
   Recordset info = ApriInfo(stato);
   info.Edit();

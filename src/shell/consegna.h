@@ -10,6 +10,8 @@ namespace torvi {
 void LeggiInfoConsegna(StatoGlobale& stato);
 // NumeroDoc: ContatoreDoc padded to at least four characters.
 [[nodiscard]] QString NumeroDoc(const StatoGlobale& stato);
+// The whole number of a document: PrefissoDoc and that counter, padded the same.
+[[nodiscard]] QString NumeroIntero(const StatoGlobale& stato, qint64 contatore);
 // Sets the marker column of a control function ("1" to "9") to "1". Any other code stores nothing
 // but still edits the row. Markers are never cleared.
 void RegistraUsoFunzione(const StatoGlobale& stato, const QString& codice);
