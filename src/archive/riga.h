@@ -17,7 +17,11 @@ class Riga {
 
   // As Recordset::Fields; no such column: error 3265.
   [[nodiscard]] const Campo& Fields(std::string_view nome) const {
-    return valori_[static_cast<std::size_t>(nomi_->Richiedi(nome))];
+    return Fields(nomi_->Richiedi(nome));
+  }
+  // By the place of the column in the statement, from 0.
+  [[nodiscard]] const Campo& Fields(int colonna) const {
+    return valori_[static_cast<std::size_t>(colonna)];
   }
 
  private:

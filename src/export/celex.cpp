@@ -92,20 +92,19 @@ DatiCelex LeggiDatiCelex(const Recordset& fonte) {
           .Ordinanza = fonte.Fields("ordinanza").Logico()};
 }
 
-QString CelexDaFonte(const StatoGlobale& stato, qint16 idFonte) {
-  const Recordset fonte = stato.DbArchivio.OpenRecordset(
-      QStringLiteral("SELECT TabFonte.*, tabFonteCom.IDFonteCom, tabFonteCom.FonteCom, "
-                     "tabFonteCom.Settore,  tabFonteCom.Codice, tabFonteCom.AnnoF "
-                     "FROM TabFonte INNER JOIN tabFonteCom "
-                     "ON TabFonte.Fonte = tabFonteCom.IDFonteCom WHERE TabFonte.IDFonte = ?"),
-      {Campo(idFonte)});
-  if (fonte.Eof()) return kNonTrovato;
-  if (!fonte.Fields("Settore").Presente()) return {};
-  DatiCelex dati = LeggiDatiCelex(fonte);
-  if (fonte.Fields("IDFonteCom").Intero() == kTrattatoRinumerato) {
-    dati.AnnoF = AnnoTrattato(stato.PrefissoDoc);
-  }
-  return NumeroCelex(dati);
+QString CelexDaFonte(const StatoGlobale& stato, const FonteLetta& fonte, const RigaCodice& tipo) {
+  (void)fonte[ColonnaFonte::IDFonte].Intero16();
+  if (!tipo.Fields("Settore").Presente()) return {};
+  const bool rinumerato = tipo.Fields("IDFonteCom").Intero() == kTrattatoRinumerato;
+  return NumeroCelex(
+      {.Settore = tipo.Fields("Settore").Testo(),
+       .Codice = tipo.Fields("Codice").Testo(),
+       .Articolo = fonte[ColonnaFonte::articolo].TestoOVuoto(),
+       .AnnoF = rinumerato ? AnnoTrattato(stato.PrefissoDoc) : tipo.Fields("AnnoF").TestoOVuoto(),
+       .Altro = fonte[ColonnaFonte::altro].TestoOVuoto(),
+       .Numero = fonte[ColonnaFonte::numero].TestoOVuoto(),
+       .Anno = fonte[ColonnaFonte::anno].TestoOVuoto(),
+       .Ordinanza = fonte[ColonnaFonte::ordinanza].Logico()});
 }
 
 }  // namespace torvi

@@ -13,6 +13,20 @@ constexpr char16_t kFineAscii = 0x80;
 static_assert(kCp850.size() == 128);
 static_assert(kCp1252.size() == 32);
 
+// Characters that are converted at once: so many, always, and without a branch, that the compiler
+// makes a few wide steps of them.
+constexpr qsizetype kBlocco = 32;
+
+// False where one of them is not ASCII; `byte` is then of no use.
+bool CopiaBloccoAscii(const char16_t* c, char* byte) {
+  char16_t tutti = 0;
+  for (qsizetype i = 0; i < kBlocco; ++i) {
+    tutti |= c[i];
+    byte[i] = static_cast<char>(c[i]);
+  }
+  return tutti < kFineAscii;
+}
+
 // A byte for every UTF-16 unit, so that lengths counted on the text hold in the file: a character
 // outside the basic plane gives two.
 class Tavola {
@@ -28,21 +42,15 @@ class Tavola {
   }
   [[nodiscard]] char Byte(char16_t carattere) const { return byte_[carattere]; }
   [[nodiscard]] bool Manca(char16_t carattere) const { return byte_[carattere] == kMancante; }
-  // Most text is ASCII, which the table maps to itself: blocks of it are copied without a look-up.
+  // Most text is ASCII, which the table maps to itself: only blocks that hold something else are
+  // looked up character by character.
   void Converti(QStringView testo, char* byte) const {
-    constexpr qsizetype kBlocco = 8;
     const char16_t* c = testo.utf16();
     qsizetype restano = testo.size();
     for (; restano >= kBlocco; restano -= kBlocco, c += kBlocco, byte += kBlocco) {
-      char16_t tutti = 0;
-      for (qsizetype i = 0; i < kBlocco; ++i) tutti |= c[i];
-      if (tutti < kFineAscii) {
-        for (qsizetype i = 0; i < kBlocco; ++i) byte[i] = static_cast<char>(c[i]);
-      } else {
-        for (qsizetype i = 0; i < kBlocco; ++i) byte[i] = byte_[c[i]];
-      }
+      if (!CopiaBloccoAscii(c, byte)) Cerca(c, kBlocco, byte);
     }
-    for (; restano > 0; --restano) *byte++ = byte_[*c++];
+    Cerca(c, restano, byte);
   }
   [[nodiscard]] QByteArray Converti(QStringView testo) const {
     QByteArray byte(testo.size(), Qt::Uninitialized);
@@ -51,6 +59,10 @@ class Tavola {
   }
 
  private:
+  void Cerca(const char16_t* c, qsizetype quanti, char* byte) const {
+    for (qsizetype i = 0; i < quanti; ++i) byte[i] = Byte(c[i]);
+  }
+
   std::array<char, 0x10000> byte_{};
 };
 

@@ -8,8 +8,8 @@
 #include "export/descrizioni_1999.h"
 #include "export/file_testo.h"
 #include "export/legami_in_ordine.h"
+#include "export/nomi_responsabili.h"
 #include "export/record.h"
-#include "export/ricordati.h"
 #include "export/riferimento_fascicolo.h"
 #include "export/tabelle_di_codici.h"
 #include "shell/stato_globale.h"
@@ -28,7 +28,7 @@ struct ContestoEsportazione {
   QString CodiciClasse = {};  // classification of the current document
   TabelleDiCodici codici{stato.DbArchivio};
   LegamiDocumento legami{stato.DbArchivio};
-  Ricordati<QString> nomi = {};  // of people, as a record has them
+  NomiResponsabili nomi{stato.DbArchivio, QLatin1StringView("+")};
   CoppieClasse coppieClasse{stato.DbArchivio, codici};
   Descrizioni1999 descrizioni1999{stato.DbArchivio};
   CoppieDecodificate coppie = {};

@@ -14,17 +14,14 @@ struct CoppiaClasse {
 
 class CoppieClasse {
  public:
-  CoppieClasse(const Database& archivio, TabelleDiCodici& codici)
-      : archivio_(archivio), codici_(codici) {}
-  CoppieClasse(const CoppieClasse&) = delete;
-  CoppieClasse& operator=(const CoppieClasse&) = delete;
+  CoppieClasse(const Database& archivio, TabelleDiCodici& codici);
 
   // Nothing where no row has that key. A descriptor without row: error 3021.
-  [[nodiscard]] std::shared_ptr<CoppiaClasse> Cerca(const Campo& idClasse);
+  [[nodiscard]] std::shared_ptr<const CoppiaClasse> Cerca(const Campo& idClasse) {
+    return note_.Cerca(idClasse);
+  }
 
  private:
-  Database archivio_;
-  TabelleDiCodici& codici_;
   Ricordati<CoppiaClasse> note_;
 };
 

@@ -11,8 +11,8 @@ constexpr qsizetype kRicordate = 4096;
 // What is no code of a descriptor is free text.
 QString Descrittore(TabelleDiCodici& codici, const QString& coppia) {
   if (coppia.mid(kCodice, 1) != ";"_L1) return {};
-  const Recordset& riga =
-      codici.Cerca("tabClasse2000-D", coppia.mid(kCodice + 1, kCodice), "CodiceD");
+  const RigaCodice& riga =
+      codici.Cerca(TavolaCodici::CodiceDescrittore, coppia.mid(kCodice + 1, kCodice));
   return "; "_L1 + (riga.NoMatch() ? coppia.mid(kCodice + 1) : riga.Fields("descrizione").Testo());
 }
 
@@ -24,7 +24,7 @@ const CoppiaDecodificata& CoppieDecodificate::Cerca(TabelleDiCodici& codici,
   if (nota != note_.constEnd()) return *nota;
   if (note_.size() >= kRicordate) note_.clear();
   const QString codice = coppia.left(kCodice);
-  const Recordset& riga = codici.Cerca("tabClasse2000-S", codice, "CodiceS");
+  const RigaCodice& riga = codici.Cerca(TavolaCodici::CodiceSistematico, codice);
   return *note_.insert(coppia, {.codice = codice,
                                 .sigla = riga.Fields("sigla").Testo(),
                                 .descrizione = riga.Fields("descrizione").Testo(),

@@ -10,7 +10,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 struct Citazione {
-  const Riga& fonte;
+  const FonteLetta& fonte;
   QString tp;
   QString testo;
 };
@@ -20,19 +20,19 @@ constexpr qint64 kFonteTar = 117;  // the row of TabFonteInterna
 bool E(const Campo& campo, qint64 valore) { return !campo.Nullo() && campo.Intero() == valore; }
 
 bool TarSenzaRegione(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
-  return citazione.tp == "GIA"_L1 && E(citazione.fonte.Fields("fonte"), kFonteTar) &&
-         E(citazione.fonte.Fields("IDRegione"), 0);
+  return citazione.tp == "GIA"_L1 && E(citazione.fonte[ColonnaFonte::fonte], kFonteTar) &&
+         E(citazione.fonte[ColonnaFonte::IDRegione], 0);
 }
 
 bool NumeroOltreLimite(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
   // The number is needed as text whatever the kind of source.
-  const QString numero = citazione.fonte.Fields("numero").Testo();
+  const QString numero = citazione.fonte[ColonnaFonte::numero].Testo();
   return citazione.tp == "GICO"_L1 && Val(numero) > 1000;
 }
 
 bool NumeroMancante(ContestoEsportazione& /*contesto*/, const Citazione& citazione) {
   return (citazione.tp == "GICO"_L1 || citazione.tp == "GICA"_L1) &&
-         citazione.fonte.Fields("numero").Testo().isEmpty();
+         citazione.fonte[ColonnaFonte::numero].Testo().isEmpty();
 }
 
 bool AttoNonConfermato(ContestoEsportazione& contesto, const Citazione& citazione) {
@@ -62,7 +62,7 @@ QString Elemento(const Citazione& citazione) {
 
 }  // namespace
 
-void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<Riga>& fonti,
+void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<FonteLetta>& fonti,
                        const QString& idRecord) {
   if (fonti.empty()) {
     if (contesto.stato.ControlloFonti) {
@@ -71,9 +71,10 @@ void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<Riga>& 
     return;
   }
   QString elenco;
-  for (const Riga& fonte : fonti) {
+  for (const FonteLetta& fonte : fonti) {
     const bool prima = &fonte == &fonti.front();
-    const Citazione citazione = {fonte, fonte.Fields("tp").Testo(), fonte.Fields("testo").Testo()};
+    const Citazione citazione = {fonte, fonte[ColonnaFonte::TP].Testo(),
+                                 fonte[ColonnaFonte::testo].Testo()};
     if (!prima) elenco += QLatin1Char('\\');
     elenco += Elemento(citazione);
     for (const Controllo& controllo : kControlli) {

@@ -122,7 +122,7 @@ void Documento::Testi() {
 }
 
 void Documento::Fonti() {
-  const std::vector<Riga> fonti = FontiDocumento(contesto_.legami.fonti, idDoc_);
+  const std::vector<FonteLetta> fonti = FontiDocumento(contesto_.legami.fonti, idDoc_);
   ScriviElencoFonti(contesto_, fonti, idRecord_);
   if (flag_.flagIsis) ScriviFontiEtichettate(contesto_, fonti);
 }

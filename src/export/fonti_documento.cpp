@@ -2,10 +2,10 @@
 
 namespace torvi {
 
-std::vector<Riga> FontiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
-  std::vector<Riga> fonti;
+std::vector<FonteLetta> FontiDocumento(LegamiInOrdine& legami, qint64 idDoc) {
+  std::vector<FonteLetta> fonti;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
-    fonti.push_back(legami.Riga().Copia());
+    fonti.emplace_back(legami.Riga().Copia());
   }
   return fonti;
 }

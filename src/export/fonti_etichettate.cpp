@@ -12,13 +12,13 @@ using namespace Qt::Literals::StringLiterals;
 
 // The tables that name the kind of a source.
 struct Famiglia {
-  std::string_view tabella;
+  TavolaCodici tavola;
   std::string_view colonna;
 };
-constexpr Famiglia kInterna = {"TabFonteInterna", "FonteNorm"};
-constexpr Famiglia kComunitaria = {"TabFonteCom", "FonteCom"};
-constexpr Famiglia kInternazionale = {"TabFonteInt", "FonteInt"};
-constexpr Famiglia kCanonica = {"TabFonteCan", "FonteCan"};
+constexpr Famiglia kInterna = {TavolaCodici::FonteInterna, "FonteNorm"};
+constexpr Famiglia kComunitaria = {TavolaCodici::FonteCom, "FonteCom"};
+constexpr Famiglia kInternazionale = {TavolaCodici::FonteInt, "FonteInt"};
+constexpr Famiglia kCanonica = {TavolaCodici::FonteCan, "FonteCan"};
 
 struct VoceFamiglia {
   QLatin1StringView tp;
@@ -38,41 +38,49 @@ constexpr VoceFamiglia kFamiglie[] = {
     {"GEI"_L1, &kInternazionale}, {"FCC"_L1, &kCanonica},       {"FCG"_L1, &kCanonica},
 };
 
+// The mark of a subfield, with the blank that stands for an empty value.
+using Marca = QStringView;
+
 struct SottocampoTesto {
-  QLatin1StringView marca;
-  std::string_view colonna;
+  Marca marca;
+  ColonnaFonte colonna;
   std::optional<PassoUrn> passo = {};
 };
 
 constexpr SottocampoTesto kTesti[] = {
-    {"^y"_L1, "anno", PassoUrn::Anno},
-    {"^m"_L1, "mese", PassoUrn::Mese},
-    {"^d"_L1, "giorno", PassoUrn::Giorno},
-    {"^n"_L1, "numero", PassoUrn::Numero},
-    {"^a"_L1, "articolo"},
-    {"^j"_L1, "ripa"},
-    {"^c"_L1, "comma"},
-    {"^k"_L1, "ripc"},
-    {"^l"_L1, "lettera"},
-    {"^g"_L1, "allegato"},
+    {u"^y ", ColonnaFonte::anno, PassoUrn::Anno},
+    {u"^m ", ColonnaFonte::mese, PassoUrn::Mese},
+    {u"^d ", ColonnaFonte::giorno, PassoUrn::Giorno},
+    {u"^n ", ColonnaFonte::numero, PassoUrn::Numero},
+    {u"^a ", ColonnaFonte::articolo},
+    {u"^j ", ColonnaFonte::ripa},
+    {u"^c ", ColonnaFonte::comma},
+    {u"^k ", ColonnaFonte::ripc},
+    {u"^l ", ColonnaFonte::lettera},
+    {u"^g ", ColonnaFonte::allegato},
 };
 
 struct SottocampoChiave {
-  QLatin1StringView marca;
-  std::string_view chiave;  // column of the source
-  std::string_view tabella;
+  Marca marca;
+  ColonnaFonte chiave;
+  TavolaCodici tavola;
   std::string_view colonna;
 };
 
-constexpr SottocampoChiave kStato = {"^s"_L1, "IDStato", "TabStato", "stato"};
-constexpr SottocampoChiave kMinistero = {"^o"_L1, "IDMinistero", "TabMinistero", "MinisteroNorm"};
-constexpr SottocampoChiave kAmministrazione = {"^e"_L1, "IDAmministrazione", "TabAmministrazione",
-                                               "AmministrazioneNorm"};
-constexpr SottocampoChiave kAutorita = {"^e"_L1, "IDAutorita", "TabAutorita", "AutoritaNorm"};
-constexpr SottocampoChiave kRegione = {"^r"_L1, "IDRegione", "TabRegione", "regione"};
-constexpr SottocampoChiave kProvincia = {"^p"_L1, "IDProvincia", "TabProvincia", "provincia"};
-constexpr SottocampoChiave kCitta = {"^i"_L1, "IDCitta", "TabCitta", "citta"};
-constexpr SottocampoChiave kSezione = {"^z"_L1, "IDSezione", "TabSezione", "sigla"};
+constexpr SottocampoChiave kStato = {u"^s ", ColonnaFonte::IDStato, TavolaCodici::Stato, "stato"};
+constexpr SottocampoChiave kMinistero = {u"^o ", ColonnaFonte::IDMinistero, TavolaCodici::Ministero,
+                                         "MinisteroNorm"};
+constexpr SottocampoChiave kAmministrazione = {
+    u"^e ", ColonnaFonte::IDAmministrazione, TavolaCodici::Amministrazione, "AmministrazioneNorm"};
+constexpr SottocampoChiave kAutorita = {u"^e ", ColonnaFonte::IDAutorita, TavolaCodici::Autorita,
+                                        "AutoritaNorm"};
+constexpr SottocampoChiave kRegione = {u"^r ", ColonnaFonte::IDRegione, TavolaCodici::Regione,
+                                       "regione"};
+constexpr SottocampoChiave kProvincia = {u"^p ", ColonnaFonte::IDProvincia, TavolaCodici::Provincia,
+                                         "provincia"};
+constexpr SottocampoChiave kCitta = {u"^i ", ColonnaFonte::IDCitta, TavolaCodici::Citta, "citta"};
+constexpr SottocampoChiave kSezione = {u"^z ", ColonnaFonte::IDSezione, TavolaCodici::Sezione,
+                                       "sigla"};
 
 const Famiglia* FamigliaDi(const QString& tp, bool prima) {
   for (const VoceFamiglia& voce : kFamiglie) {
@@ -85,17 +93,20 @@ class CampoEtichettato {
  public:
   explicit CampoEtichettato(ContestoEsportazione& contesto) : contesto_(contesto) {}
 
-  void AggiungiFonte(const Riga& fonte);
+  void AggiungiFonte(const FonteLetta& fonte);
   [[nodiscard]] const QString& Testo() const { return testo_; }
 
  private:
-  void Sottocampo(QLatin1StringView marca, const QString& valore) { testo_ += marca + valore; }
-  void SottocampoVuoto(QLatin1StringView marca) { testo_ += marca + QLatin1Char(' '); }
-  void TipoDiFonte(const Riga& fonte, const QString& tp);
-  void Parte(const Riga& fonte, const SottocampoTesto& parte);
-  const Recordset* Nome(const Riga& fonte, const SottocampoChiave& nome, bool vuotoSeManca = true);
-  void Ente(const Riga& fonte);
-  void Territorio(const Riga& fonte);
+  void Sottocampo(Marca marca, const QString& valore) {
+    testo_.append(marca.chopped(1)).append(valore);
+  }
+  void SottocampoVuoto(Marca marca) { testo_.append(marca); }
+  void TipoDiFonte(const FonteLetta& fonte, const QString& tp);
+  void Parte(const FonteLetta& fonte, const SottocampoTesto& parte);
+  const RigaCodice* Nome(const FonteLetta& fonte, const SottocampoChiave& nome,
+                         bool vuotoSeManca = true);
+  void Ente(const FonteLetta& fonte);
+  void Territorio(const FonteLetta& fonte);
 
   ContestoEsportazione& contesto_;
   QString testo_;
@@ -103,25 +114,25 @@ class CampoEtichettato {
   bool prima_ = true;
 };
 
-void CampoEtichettato::TipoDiFonte(const Riga& fonte, const QString& tp) {
+void CampoEtichettato::TipoDiFonte(const FonteLetta& fonte, const QString& tp) {
   const Famiglia* famiglia = FamigliaDi(tp, prima_);
   if (famiglia == nullptr) {
-    SottocampoVuoto("^f"_L1);
-    SottocampoVuoto("^x"_L1);
+    SottocampoVuoto(u"^f ");
+    SottocampoVuoto(u"^x ");
     return;
   }
-  const Recordset& tipo = contesto_.codici.Cerca(famiglia->tabella, fonte.Fields("fonte"));
-  Sottocampo("^f"_L1, tipo.Fields(famiglia->colonna).Testo());
+  const RigaCodice& tipo = contesto_.codici.Cerca(famiglia->tavola, fonte[ColonnaFonte::fonte]);
+  Sottocampo(u"^f ", tipo.Fields(famiglia->colonna).Testo());
   if (famiglia == &kComunitaria) {
-    Sottocampo("^x"_L1, CelexDaFonte(contesto_.stato, fonte.Fields("IDFonte").Intero16()));
+    Sottocampo(u"^x ", CelexDaFonte(contesto_.stato, fonte, tipo));
     return;
   }
-  SottocampoVuoto("^x"_L1);
+  SottocampoVuoto(u"^x ");
   if (famiglia == &kInterna) urnCorrente_ = tipo.Fields("URN").TestoOVuoto();
 }
 
-void CampoEtichettato::Parte(const Riga& fonte, const SottocampoTesto& parte) {
-  const Campo& campo = fonte.Fields(parte.colonna);
+void CampoEtichettato::Parte(const FonteLetta& fonte, const SottocampoTesto& parte) {
+  const Campo& campo = fonte[parte.colonna];
   if (!campo.Presente()) {
     SottocampoVuoto(parte.marca);
     return;
@@ -132,40 +143,40 @@ void CampoEtichettato::Parte(const Riga& fonte, const SottocampoTesto& parte) {
 }
 
 // The row that the key names, if the source has one.
-const Recordset* CampoEtichettato::Nome(const Riga& fonte, const SottocampoChiave& nome,
-                                        bool vuotoSeManca) {
-  const Campo& chiave = fonte.Fields(nome.chiave);
+const RigaCodice* CampoEtichettato::Nome(const FonteLetta& fonte, const SottocampoChiave& nome,
+                                         bool vuotoSeManca) {
+  const Campo& chiave = fonte[nome.chiave];
   if (chiave.Nullo() || chiave.Intero() == 0) {
     if (vuotoSeManca) SottocampoVuoto(nome.marca);
     return nullptr;
   }
-  const Recordset& riga = contesto_.codici.Cerca(nome.tabella, chiave);
+  const RigaCodice& riga = contesto_.codici.Cerca(nome.tavola, chiave);
   Sottocampo(nome.marca, riga.Fields(nome.colonna).Testo());
   return &riga;
 }
 
 // The issuing body: an administration, an authority, or both under the same mark.
-void CampoEtichettato::Ente(const Riga& fonte) {
+void CampoEtichettato::Ente(const FonteLetta& fonte) {
   const bool amministrazione = Nome(fonte, kAmministrazione, false) != nullptr;
   Nome(fonte, kAutorita, !amministrazione);
 }
 
-void CampoEtichettato::Territorio(const Riga& fonte) {
-  const Recordset* regione = Nome(fonte, kRegione);
+void CampoEtichettato::Territorio(const FonteLetta& fonte) {
+  const RigaCodice* regione = Nome(fonte, kRegione);
   if (regione != nullptr && !urnCorrente_.isEmpty()) {
     CompletaUrn(urnCorrente_, regione->Fields("codRegioneURN").Testo());
   }
-  const Recordset* provincia = Nome(fonte, kProvincia);
+  const RigaCodice* provincia = Nome(fonte, kProvincia);
   if (provincia != nullptr && !urnCorrente_.isEmpty()) {
     CompletaUrn(urnCorrente_, provincia->Fields(kProvincia.colonna).Testo().toLower());
   }
 }
 
-void CampoEtichettato::AggiungiFonte(const Riga& fonte) {
+void CampoEtichettato::AggiungiFonte(const FonteLetta& fonte) {
   urnCorrente_.clear();
   if (!prima_) testo_ += QLatin1Char('\\');
-  const QString tp = fonte.Fields("tp").Testo();
-  Sottocampo("^t"_L1, tp);
+  const QString tp = fonte[ColonnaFonte::TP].Testo();
+  Sottocampo(u"^t ", tp);
   TipoDiFonte(fonte, tp);
   for (const SottocampoTesto& parte : kTesti) Parte(fonte, parte);
   Nome(fonte, kStato);
@@ -174,16 +185,20 @@ void CampoEtichettato::AggiungiFonte(const Riga& fonte) {
   Territorio(fonte);
   Nome(fonte, kCitta);
   Nome(fonte, kSezione);
-  Sottocampo("^u"_L1, urnCorrente_.isEmpty() ? QStringLiteral(" ") : urnCorrente_);
+  if (urnCorrente_.isEmpty()) {
+    SottocampoVuoto(u"^u ");
+  } else {
+    Sottocampo(u"^u ", urnCorrente_);
+  }
   prima_ = false;
 }
 
 }  // namespace
 
-void ScriviFontiEtichettate(ContestoEsportazione& contesto, const std::vector<Riga>& fonti) {
+void ScriviFontiEtichettate(ContestoEsportazione& contesto, const std::vector<FonteLetta>& fonti) {
   if (fonti.empty()) return;
   CampoEtichettato campo(contesto);
-  for (const Riga& fonte : fonti) campo.AggiungiFonte(fonte);
+  for (const FonteLetta& fonte : fonti) campo.AggiungiFonte(fonte);
   contesto.record.AggiungiTesto(tag::kFontiEtichettate, campo.Testo());
 }
 

@@ -1,5 +1,7 @@
 #include "export/legami_in_ordine.h"
 
+#include "export/fonte_letta.h"
+
 namespace torvi {
 
 void LegamiInOrdine::Apri() {
@@ -37,9 +39,7 @@ LegamiDocumento::LegamiDocumento(const Database& archivio)
       testi(archivio,
             QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDTesto = "
                            "tabTesto.IDTesto order by legameDocTesto.IDDoc")),
-      fonti(archivio,
-            QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDFnt = "
-                           "tabFonte.IDFonte order by legameDocFonte.IDDoc")),
+      fonti(archivio, IstruzioneFonti()),
       classi(archivio,
              QStringLiteral("select * from legameDocClass order by legameDocClass.IDDoc")),
       classi1999(archivio,

@@ -2,11 +2,12 @@
 
 namespace torvi {
 
-Recordset ApriRiferimento(const Database& archivio, qint16 idRifBibl) {
-  return archivio.OpenRecordset(
-      QStringLiteral("select * from tabRifBibl, tabRivista where tabRifBibl.IDRifBibl = ? and "
-                     "tabRifBibl.IDRivista = tabRivista.IDRivista"),
-      {static_cast<qint64>(idRifBibl)});
+RigheCondivise RigheRiferimenti() {
+  return {.istruzione = QStringLiteral("select * from tabRifBibl, tabRivista where "
+                                       "tabRifBibl.IDRivista = tabRivista.IDRivista"),
+          .condizione = QStringLiteral(" and tabRifBibl.IDRifBibl = ?"),
+          .chiave = "IDRifBibl",
+          .massimo = 512};
 }
 
 }  // namespace torvi

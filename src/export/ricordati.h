@@ -1,33 +1,85 @@
-// What a run made of the rows that it meets over and over, by their keys. The rows that were not
-// met for longest give way, so that the memory stays the same however long the run is.
+// What a run makes of the rows that its documents share, by their keys. A delivery cites most rows
+// of such a table, so the first question reads all of them, as far as the memory goes. What is not
+// among them is looked up, and the rows that were not asked for longest give way: the memory stays
+// the same however long the run is.
 #pragma once
 
 #include <QCache>
+#include <functional>
 #include <memory>
 
-#include "archive/campo.h"
+#include "archive/database.h"
+#include "archive/errore.h"
 
 namespace torvi {
+
+// Where the rows come from.
+struct RigheCondivise {
+  QString istruzione;  // gives all of them
+  QString condizione;  // what narrows it down to one key, with `?` for it
+  const char* chiave;  // column of the key, a whole number
+  int massimo = 4096;  // that are kept
+};
 
 template <typename Valore>
 class Ricordati {
  public:
-  // `leggi` takes the key and gives a unique pointer to the value, empty where no row has that key:
-  // so it is with a Null key, too. A failure of it is not remembered.
-  template <typename Lettura>
-  [[nodiscard]] std::shared_ptr<Valore> Cerca(const Campo& chiave, const Lettura& leggi) {
+  using Componi = std::function<Valore(const Recordset&)>;
+  Ricordati(const Database& archivio, const RigheCondivise& righe, Componi componi)
+      : archivio_(archivio),
+        righe_(righe),
+        unaSola_(righe.istruzione + righe.condizione),
+        componi_(std::move(componi)),
+        noti_(righe.massimo) {}
+  Ricordati(const Ricordati&) = delete;
+  Ricordati& operator=(const Ricordati&) = delete;
+
+  // Nothing where no row has that key: so it is with a Null key, too. A failure of `componi` is
+  // thrown each time that the row is asked for, and only then.
+  [[nodiscard]] std::shared_ptr<const Valore> Cerca(const Campo& chiave) {
     if (chiave.Nullo()) return nullptr;
+    if (!letti_) LeggiTutti();
     const qint64 numero = chiave.Intero();
     if (const Condiviso* noto = noti_.object(numero)) return *noto;
-    Condiviso nuovo = leggi(numero);
-    if (nuovo != nullptr) noti_.insert(numero, std::make_unique<Condiviso>(nuovo).release());
-    return nuovo;
+    const Recordset riga = archivio_.OpenRecordset(unaSola_, {numero});
+    return riga.Eof() ? nullptr : Ricorda(numero, riga);
+  }
+
+  // The next question reads the rows anew.
+  void Dimentica() {
+    noti_.clear();
+    letti_ = false;
   }
 
  private:
-  using Condiviso = std::shared_ptr<Valore>;
-  static constexpr int kRicordati = 4096;
-  QCache<qint64, Condiviso> noti_{kRicordati};
+  using Condiviso = std::shared_ptr<const Valore>;
+
+  void LeggiTutti() {
+    letti_ = true;
+    Recordset righe = archivio_.OpenRecordset(righe_.istruzione);
+    for (; !righe.Eof() && noti_.size() < righe_.massimo; righe.MoveNext()) {
+      const Campo chiave = righe.Fields(righe_.chiave);
+      if (chiave.Nullo() || noti_.contains(chiave.Intero())) continue;
+      try {
+        Ricorda(chiave.Intero(), righe);
+      } catch (const ErroreEsecuzione&) {
+        continue;  // nobody has asked for that row yet
+      }
+    }
+  }
+
+  Condiviso Ricorda(qint64 numero, const Recordset& riga) {
+    const auto nuovo = std::make_shared<const Valore>(componi_(riga));
+    noti_.insert(numero, std::make_unique<Condiviso>(nuovo).release());
+    return nuovo;
+  }
+
+  Database archivio_;
+  RigheCondivise righe_;
+  QString unaSola_;
+  Componi componi_;
+  bool letti_ = false;
+  QCache<qint64, Condiviso> noti_;
 };
 
 }  // namespace torvi

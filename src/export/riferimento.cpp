@@ -90,7 +90,7 @@ void Riferimento::Bibliografia(const QString& bib) {
     return;
   }
   Codifica("BIB", bib);
-  const Recordset& tabBib = contesto_.codici.Cerca("TabBIB", bib);
+  const RigaCodice& tabBib = contesto_.codici.Cerca(TavolaCodici::Bibliografia, bib);
   esteso_ += ", ("_L1 + tabBib.Fields("TipoBibliografia").Testo() + QLatin1Char(')');
 }
 

@@ -1,42 +1,99 @@
 #include "export/tabelle_di_codici.h"
 
+#include "archive/collazione.h"
+#include "archive/errore.h"
+
 namespace torvi {
 namespace {
+
+using namespace Qt::Literals::StringLiterals;
 
 // Not only codes are sought: a free text that might be one is, too, and there is no end of those.
 constexpr std::size_t kRicordate = 4096;
 
-Recordset CercaPerChiave(const Database& archivio, const std::string& tabella,
-                         const std::string& indice, const Campo& chiave) {
-  Recordset riga = archivio.OpenRecordset(QString::fromStdString(tabella));
-  riga.Index(indice);
-  riga.Seek(chiave);
-  return riga;
+struct NomiTavola {
+  QLatin1StringView tabella;
+  const char* chiave;
+  QLatin1StringView colonne;  // the others that are read
+};
+
+// In the order of TavolaCodici.
+constexpr std::array<NomiTavola, kTavoleCodici> kNomi = {{
+    {"TabFonteInterna"_L1, "IDFonteInterna", "FonteNorm, URN"_L1},
+    {"TabFonteCom"_L1, "IDFonteCom", "FonteCom, Settore, Codice, AnnoF"_L1},
+    {"TabFonteInt"_L1, "IDFonteInt", "FonteInt"_L1},
+    {"TabFonteCan"_L1, "IDFonteCan", "FonteCan"_L1},
+    {"TabStato"_L1, "IDStato", "stato"_L1},
+    {"TabMinistero"_L1, "IDMinistero", "MinisteroNorm"_L1},
+    {"TabAmministrazione"_L1, "IDAmministrazione", "AmministrazioneNorm"_L1},
+    {"TabAutorita"_L1, "IDAutorita", "AutoritaNorm"_L1},
+    {"TabRegione"_L1, "IDRegione", "regione, codRegioneURN"_L1},
+    {"TabProvincia"_L1, "IDProvincia", "provincia"_L1},
+    {"TabCitta"_L1, "IDCitta", "citta"_L1},
+    {"TabSezione"_L1, "IDSez", "sigla"_L1},
+    {"TabBIB"_L1, "IDBib", "TipoBibliografia"_L1},
+    {"tabClasse2000-S"_L1, "CodiceS", "sigla, descrizione"_L1},
+    {"tabClasse2000-D"_L1, "IDClasseD", "CodiceD"_L1},
+    {"tabClasse2000-D"_L1, "CodiceD", "descrizione"_L1},
+}};
+
+const NomiTavola& NomiDi(TavolaCodici quale) { return kNomi.at(static_cast<std::size_t>(quale)); }
+
+// The key comes first.
+QString Istruzione(TavolaCodici quale) {
+  const NomiTavola& nomi = NomiDi(quale);
+  return "select "_L1 + nomi.chiave + ", "_L1 + nomi.colonne + " from ["_L1 + nomi.tabella + ']';
 }
 
 }  // namespace
 
-std::size_t TabelleDiCodici::Impronta::operator()(const Campo::Valore& chiave) const {
-  if (const auto* testo = std::get_if<QString>(&chiave)) return qHash(*testo);
-  const auto* numero = std::get_if<qint64>(&chiave);
-  return numero == nullptr ? 0 : static_cast<std::size_t>(*numero);
+const Campo& RigaCodice::Fields(std::string_view nome) const {
+  if (!riga_) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
+  return riga_->Fields(nome);
 }
 
-TabelleDiCodici::Tabella& TabelleDiCodici::Trova(std::string_view nome, std::string_view indice) {
-  for (Tabella& tabella : tabelle_) {
-    if (tabella.nome == nome && tabella.indice == indice) return tabella;
+bool TabelleDiCodici::Prima::operator()(const Chiave& a, const Chiave& b) const {
+  const auto* numeroA = std::get_if<qint64>(&a);
+  const auto* numeroB = std::get_if<qint64>(&b);
+  if (numeroA != nullptr && numeroB != nullptr) return *numeroA < *numeroB;
+  const auto* testoA = std::get_if<std::string>(&a);
+  const auto* testoB = std::get_if<std::string>(&b);
+  if (testoA == nullptr || testoB == nullptr) return a < b;
+  return ConfrontaItaliano(*testoA, *testoB) < 0;
+}
+
+TabelleDiCodici::Chiave TabelleDiCodici::ChiaveDi(const Campo& campo) {
+  if (const auto* testo = std::get_if<QString>(&campo.Grezzo())) return testo->toStdString();
+  if (const auto* intero = std::get_if<qint64>(&campo.Grezzo())) return *intero;
+  if (const auto* reale = std::get_if<double>(&campo.Grezzo())) return *reale;
+  return {};
+}
+
+// Of rows with the same key the first stays.
+void TabelleDiCodici::Leggi(TavolaCodici quale, Tavola& tavola) const {
+  Recordset righe = archivio_.OpenRecordset(Istruzione(quale));
+  for (; !righe.Eof() && tavola.righe.size() < kRicordate; righe.MoveNext()) {
+    Riga riga = righe.Copia();
+    // Most tables are stored in the order of their keys.
+    tavola.righe.emplace_hint(tavola.righe.end(), ChiaveDi(riga.Fields(0)), std::move(riga));
   }
-  return tabelle_.emplace_back(Tabella{std::string(nome), std::string(indice), Righe()});
+  tavola.letta = true;
 }
 
-const Recordset& TabelleDiCodici::Cerca(std::string_view nome, const Campo& chiave,
-                                        std::string_view indice) {
-  Tabella& tabella = Trova(nome, indice);
-  const auto nota = tabella.righe.find(chiave.Grezzo());
-  if (nota != tabella.righe.end()) return nota->second;
-  if (tabella.righe.size() >= kRicordate) tabella.righe.clear();
-  Recordset riga = CercaPerChiave(archivio_, tabella.nome, tabella.indice, chiave);
-  return tabella.righe.emplace(chiave.Grezzo(), std::move(riga)).first->second;
+RigaCodice TabelleDiCodici::CercaInArchivio(TavolaCodici quale, const Campo& chiave) const {
+  const Recordset riga = archivio_.OpenRecordset(
+      Istruzione(quale) + " where "_L1 + NomiDi(quale).chiave + " = ?"_L1, {chiave});
+  return riga.Eof() ? RigaCodice() : RigaCodice(riga.Copia());
+}
+
+const RigaCodice& TabelleDiCodici::Cerca(TavolaCodici quale, const Campo& chiave) {
+  Tavola& tavola = tavole_.at(static_cast<std::size_t>(quale));
+  if (!tavola.letta) Leggi(quale, tavola);
+  const Chiave cercata = ChiaveDi(chiave);
+  const auto nota = tavola.righe.find(cercata);
+  if (nota != tavola.righe.end()) return nota->second;
+  if (tavola.righe.size() >= 2 * kRicordate) tavola.righe.clear();
+  return tavola.righe.emplace(cercata, CercaInArchivio(quale, chiave)).first->second;
 }
 
 }  // namespace torvi

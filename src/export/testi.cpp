@@ -63,29 +63,13 @@ QString MessaggioMancanza(const CampoTesto& campo, const QString& td, const QStr
 
 }  // namespace
 
-std::unique_ptr<QString> LeggiNome(const Database& archivio, qint64 idResponsabilita,
-                                   const char* fra) {
-  const Recordset riga = archivio.OpenRecordset(
-      QStringLiteral("select * from tabResponsabilita where IDResponsabilita = ?"),
-      {idResponsabilita});
-  if (riga.Eof()) return nullptr;
-  auto nome = std::make_unique<QString>(Trim(riga.Fields("PrimoElemento").Testo()));
-  if (!riga.Fields("flagCollettivo").Logico()) {
-    *nome += QLatin1StringView(fra) + Trim(riga.Fields("SecondoElemento").Testo());
-  }
-  return nome;
-}
-
 void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord) {
-  const auto leggi = [&contesto](qint64 id) {
-    return LeggiNome(contesto.stato.DbArchivio, id, "+");
-  };
   LegamiInOrdine& legami = contesto.legami.responsabilita;
   QString tag;
   QStringList nomi;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
     const Recordset& legame = legami.Riga();
-    const auto nome = contesto.nomi.Cerca(legame.Fields("IDResponsabilita"), leggi);
+    const auto nome = contesto.nomi.Cerca(legame.Fields("IDResponsabilita"));
     if (nome == nullptr) continue;
     if (nomi.isEmpty()) tag = legame.Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
     nomi += *nome;

@@ -41,12 +41,7 @@ class TestiDocumento {
   std::vector<std::pair<QString, Campo>> testi_;
 };
 
-// A name with `fra` between its two elements; of a body, the first alone. Nothing where there is no
-// such row. A person without `SecondoElemento` (Null): error 94.
-[[nodiscard]] std::unique_ptr<QString> LeggiNome(const Database& archivio, qint64 idResponsabilita,
-                                                 const char* fra);
-
-// Authors or curators: one field for all names, under the tag of the first. A single name without
+// Authors or curators: one field for all names, under the tag of the first. A person without
 // `SecondoElemento` (Null): error 94.
 void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QString& idRecord);
 

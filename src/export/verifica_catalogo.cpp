@@ -17,18 +17,20 @@ constexpr QLatin1StringView kAttiCoperti[] = {
 
 }  // namespace
 
-EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const Riga& fonte) {
+EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const FonteLetta& fonte) {
   const QString fonteNorm =
-      contesto.codici.Cerca("TabFonteInterna", fonte.Fields("fonte")).Fields("FonteNorm").Testo();
+      contesto.codici.Cerca(TavolaCodici::FonteInterna, fonte[ColonnaFonte::fonte])
+          .Fields("FonteNorm")
+          .Testo();
   if (std::ranges::find(kAttiCoperti, fonteNorm) == std::end(kAttiCoperti)) {
     return EsitoCatalogo::NonCoperto;
   }
   contesto.catalogo.Apri();
   const AttoCercato atto = {.FonteNorm = fonteNorm,
-                            .giorno = fonte.Fields("giorno").TestoOVuoto(),
-                            .mese = fonte.Fields("mese").TestoOVuoto(),
-                            .anno = fonte.Fields("anno").TestoOVuoto(),
-                            .numero = fonte.Fields("numero").TestoOVuoto()};
+                            .giorno = fonte[ColonnaFonte::giorno].TestoOVuoto(),
+                            .mese = fonte[ColonnaFonte::mese].TestoOVuoto(),
+                            .anno = fonte[ColonnaFonte::anno].TestoOVuoto(),
+                            .numero = fonte[ColonnaFonte::numero].TestoOVuoto()};
   // A date that lacks a part needs no test of its own: it is on no calendar.
   return contesto.catalogo.Contiene(atto) ? EsitoCatalogo::Trovato : EsitoCatalogo::NonConfermato;
 }

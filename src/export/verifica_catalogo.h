@@ -2,6 +2,7 @@
 #pragma once
 
 #include "export/contesto.h"
+#include "export/fonte_letta.h"
 
 namespace torvi {
 
@@ -13,6 +14,7 @@ enum class EsitoCatalogo {
 
 // `fonte` is a row of TabFonte. A `fonte` without its row in TabFonteInterna: error 3021; a
 // catalogue that is needed and not there: error 3024.
-[[nodiscard]] EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const Riga& fonte);
+[[nodiscard]] EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto,
+                                             const FonteLetta& fonte);
 
 }  // namespace torvi

@@ -5,7 +5,7 @@
 #include "export/coppie_decodificate.h"
 #include "export/descrizioni_1999.h"
 #include "export/legami_in_ordine.h"
-#include "export/ricordati.h"
+#include "export/nomi_responsabili.h"
 #include "export/tabelle_di_codici.h"
 #include "report/stampa_fascicolo.h"
 #include "shell/stato_globale.h"
@@ -18,7 +18,7 @@ struct ContestoStampa {
   QString CodiciClasse = {};  // classification of the current document
   TabelleDiCodici codici{stato.DbArchivio};
   LegamiDocumento legami{stato.DbArchivio};
-  Ricordati<QString> nomi = {};  // of people, as the print has them
+  NomiResponsabili nomi{stato.DbArchivio, QLatin1StringView(", ")};
   CoppieClasse coppieClasse{stato.DbArchivio, codici};
   CoppieDecodificate coppie = {};
   Descrizioni1999 descrizioni1999{stato.DbArchivio};

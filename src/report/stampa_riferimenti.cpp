@@ -32,7 +32,7 @@ void AggiungiPagine(Riferimento& riferimento, const QString& pagine) {
 void AggiungiBibliografia(ContestoStampa& contesto, Riferimento& riferimento, const QString& bib) {
   if (bib.isEmpty()) return;
   riferimento.codificato += " BIB="_L1 + bib;
-  const Recordset& tabBib = contesto.codici.Cerca("TabBIB", bib);
+  const RigaCodice& tabBib = contesto.codici.Cerca(TavolaCodici::Bibliografia, bib);
   riferimento.esteso += ", ("_L1 + tabBib.Fields("TipoBibliografia").Testo() + QLatin1Char(')');
 }
 

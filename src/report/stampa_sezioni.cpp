@@ -43,14 +43,11 @@ QString TestoFonte(const Recordset& fonte) {
 }  // namespace
 
 QString RigaResponsabili(ContestoStampa& contesto, qint64 idDoc) {
-  const auto leggi = [&contesto](qint64 id) {
-    return LeggiNome(contesto.stato.DbArchivio, id, ", ");
-  };
   LegamiInOrdine& legami = contesto.legami.responsabilita;
   bool autore = false;
   QStringList nomi;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
-    const auto nome = contesto.nomi.Cerca(legami.Riga().Fields("IDResponsabilita"), leggi);
+    const auto nome = contesto.nomi.Cerca(legami.Riga().Fields("IDResponsabilita"));
     if (nome == nullptr) continue;
     if (nomi.isEmpty()) autore = legami.Riga().Fields("flagAutore").Logico();
     nomi += *nome;

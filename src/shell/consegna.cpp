@@ -16,25 +16,23 @@ qint16 NumeroIniziale(const QString& testo) {
   return Intero16(static_cast<qint64>(std::nearbyint(std::clamp(Val(testo), -kOltre, kOltre))));
 }
 
-Recordset ApriInfo(const StatoGlobale& stato) {
-  Recordset info = stato.DbArchivio.OpenRecordset(QStringLiteral("TabInfo"));
-  if (info.Eof()) {
-    throw ErroreEsecuzione(Errore::NessunRecordCorrente,
-                           QStringLiteral("TabInfo è vuota in ") + stato.DbArchivio.Name());
-  }
-  return info;
+ErroreEsecuzione InfoVuota(const StatoGlobale& stato) {
+  return ErroreEsecuzione(Errore::NessunRecordCorrente,
+                          QStringLiteral("TabInfo è vuota in ") + stato.DbArchivio.Name());
 }
 
 }  // namespace
 
 void LeggiInfoConsegna(StatoGlobale& stato) {
-  Recordset info = ApriInfo(stato);
+  const std::vector<Riga> righe =
+      stato.DbArchivio.LeggiRighe(QStringLiteral("select * from TabInfo"));
+  if (righe.empty()) throw InfoVuota(stato);
+  const Riga& info = righe.front();
   stato.PrefissoDoc =
       info.Fields("AnnoProduzione").Testo() + info.Fields("IDCentroSpoglio").Testo();
   stato.ContatoreDoc = NumeroIniziale(info.Fields("NumInizio").Testo());
   stato.SiglaConsegna = info.Fields("Consegna").Testo();
-  info.MoveNext();
-  if (!info.Eof()) {
+  if (righe.size() > 1) {
     throw ErroreEsecuzione::ConDescrizione(
         Errore::OggettoNonTrovato,
         QStringLiteral("TabInfo ha più di una riga: non si sa di quale consegna sia l'archivio ") +
@@ -51,7 +49,8 @@ QString NumeroIntero(const StatoGlobale& stato, qint64 contatore) {
 }
 
 void RegistraUsoFunzione(const StatoGlobale& stato, const QString& codice) {
-  Recordset info = ApriInfo(stato);
+  Recordset info = stato.DbArchivio.OpenRecordset(QStringLiteral("TabInfo"));
+  if (info.Eof()) throw InfoVuota(stato);
   info.Edit();
   for (const Marcatore& marcatore : kMarcatori) {
     if (codice == marcatore.codice) info.Assegna(marcatore.colonna, "1");

@@ -44,21 +44,23 @@ void FontiDiProva::NuovoCatalogo(const char* abbreviazione) const {
             {"promulgazione", "07/08/1990"}});
 }
 
+std::vector<FonteLetta> FontiDiProva::Fonti(ContestoEsportazione& contesto) {
+  return FontiDocumento(contesto.legami.fonti, kDocumento);
+}
+
 Scritto FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
   return torvi::Scrivi(cartella, stato, scrittore);
 }
 
 Scritto FontiDiProva::Elenco() {
   return Scrivi([](ContestoEsportazione& contesto) {
-    ScriviElencoFonti(contesto, FontiDocumento(contesto.legami.fonti, kDocumento),
-                      QStringLiteral("2001A0012"));
+    ScriviElencoFonti(contesto, Fonti(contesto), QStringLiteral("2001A0012"));
   });
 }
 
 Scritto FontiDiProva::Etichettate() {
-  return Scrivi([](ContestoEsportazione& contesto) {
-    ScriviFontiEtichettate(contesto, FontiDocumento(contesto.legami.fonti, kDocumento));
-  });
+  return Scrivi(
+      [](ContestoEsportazione& contesto) { ScriviFontiEtichettate(contesto, Fonti(contesto)); });
 }
 
 }  // namespace torvi

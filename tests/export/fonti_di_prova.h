@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "export/fonte_letta.h"
 #include "export/scritto.h"
 
 namespace torvi {
@@ -25,6 +26,8 @@ class FontiDiProva {
 
   // A fresh run with its own files; errors of `scrittore` are caught.
   Scritto Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
+  // The sources of the document, as a run reads them.
+  [[nodiscard]] static std::vector<FonteLetta> Fonti(ContestoEsportazione& contesto);
   [[nodiscard]] Scritto Elenco();
   [[nodiscard]] Scritto Etichettate();
 

@@ -183,15 +183,13 @@ TEST_F(FontiEtichettateTest, CelexOfTheEuFamily) {
   EXPECT_EQ(Celex({{"TP", "GEC"}, {"fonte", corte}, {"altro", "C-1/99"}, {"ordinanza", true}}),
             "61999CO0001");
   EXPECT_EQ(Celex({{"TP", "GEC"}, {"fonte", corte}}), " ");
-  const qint64 fonte = prova.Fonte({{"TP", "NIC"}, {"fonte", trattato}, {"articolo", "1"}});
   for (const auto& [prefisso, celex] : {std::pair("2002A", "11997E001"),
                                         {"2003A", "12002E001"},
                                         {"2010A", "12002E001"},
                                         {"", "11997E001"}}) {
     prova.stato.PrefissoDoc = QString::fromUtf8(prefisso);
-    EXPECT_EQ(CelexDaFonte(prova.stato, Intero16(fonte)).toStdString(), celex) << prefisso;
+    EXPECT_EQ(Celex({{"TP", "NIC"}, {"fonte", trattato}, {"articolo", "1"}}), celex) << prefisso;
   }
-  EXPECT_EQ(CelexDaFonte(prova.stato, 9999), QStringLiteral(" "));
 }
 
 TEST_F(FontiEtichettateTest, AKeyWithoutItsRowEndsTheRun) {

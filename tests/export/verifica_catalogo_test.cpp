@@ -31,13 +31,10 @@ class VerificaCatalogoTest : public testing::Test {
     return Esito();
   }
   int Esito() {
-    const Riga fonte =
-        prova.stato.DbArchivio
-            .LeggiRighe(QStringLiteral("select * from TabFonte order by IDFonte desc"))
-            .at(0);
     auto esito = EsitoCatalogo::Trovato;
-    const Scritto scritto = prova.Scrivi(
-        [&](ContestoEsportazione& contesto) { esito = VerificaCatalogo(contesto, fonte); });
+    const Scritto scritto = prova.Scrivi([&](ContestoEsportazione& contesto) {
+      esito = VerificaCatalogo(contesto, prova.Fonti(contesto).front());
+    });
     return scritto.errore != 0 ? scritto.errore : static_cast<int>(esito);
   }
 
