@@ -16,7 +16,7 @@ QStringList LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QStr
   LegamiInOrdine& legami = contesto.legami.classi;
   QStringList coppie;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
-    const auto coppia = contesto.coppieClasse.Cerca(legami.Riga().Fields("IDClass"));
+    const CoppiaClasse* coppia = contesto.coppieClasse.Cerca(legami.Riga().Fields("IDClass"));
     if (coppia == nullptr) continue;
     coppie += coppia->codici;
     if (coppia->messaggio.isEmpty()) continue;

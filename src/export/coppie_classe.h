@@ -16,10 +16,9 @@ class CoppieClasse {
  public:
   CoppieClasse(const Database& archivio, TabelleDiCodici& codici);
 
-  // Nothing where no row has that key. A descriptor without row: error 3021.
-  [[nodiscard]] std::shared_ptr<const CoppiaClasse> Cerca(const Campo& idClasse) {
-    return note_.Cerca(idClasse);
-  }
+  // Nothing where no row has that key; good until the next search. A descriptor without row: error
+  // 3021.
+  [[nodiscard]] const CoppiaClasse* Cerca(const Campo& idClasse) { return note_.Cerca(idClasse); }
 
  private:
   Ricordati<CoppiaClasse> note_;

@@ -37,7 +37,8 @@ LegamiDocumento::LegamiDocumento(const Database& archivio)
     : responsabilita(archivio,
                      QStringLiteral("select * from legameDocResp order by legameDocResp.IDDoc")),
       testi(archivio,
-            QStringLiteral("select * from legameDocTesto, tabTesto where legameDocTesto.IDTesto = "
+            QStringLiteral("select legameDocTesto.IDDoc, legameDocTesto.Tipo, tabTesto.testo from "
+                           "legameDocTesto, tabTesto where legameDocTesto.IDTesto = "
                            "tabTesto.IDTesto order by legameDocTesto.IDDoc")),
       fonti(archivio, IstruzioneFonti()),
       classi(archivio,

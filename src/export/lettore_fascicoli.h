@@ -21,15 +21,14 @@ class LettoreFascicoli {
   [[nodiscard]] const Fascicolo& Leggi(qint16 idRifBibl, const QString& annoProduzione) {
     if (annoProduzione_ != annoProduzione) noti_.Dimentica();
     annoProduzione_ = annoProduzione;
-    ultimo_ = noti_.Cerca(static_cast<qint64>(idRifBibl));
-    if (ultimo_ == nullptr) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
-    return *ultimo_;
+    const Fascicolo* fascicolo = noti_.Cerca(static_cast<qint64>(idRifBibl));
+    if (fascicolo == nullptr) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
+    return *fascicolo;
   }
 
  private:
   QString annoProduzione_;
   Ricordati<Fascicolo> noti_;
-  std::shared_ptr<const Fascicolo> ultimo_;
 };
 
 }  // namespace torvi

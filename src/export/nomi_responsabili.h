@@ -10,9 +10,9 @@ class NomiResponsabili {
   // `fra` stands between the two elements of a name.
   NomiResponsabili(const Database& archivio, QLatin1StringView fra);
 
-  // Both elements; of a body, the first alone. Nothing where there is no such row. A person without
-  // `SecondoElemento` (Null): error 94.
-  [[nodiscard]] std::shared_ptr<const QString> Cerca(const Campo& idResponsabilita) {
+  // Both elements; of a body, the first alone. Nothing where there is no such row; good until the
+  // next search. A person without `SecondoElemento` (Null): error 94.
+  [[nodiscard]] const QString* Cerca(const Campo& idResponsabilita) {
     return noti_.Cerca(idResponsabilita);
   }
 

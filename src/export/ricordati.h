@@ -1,12 +1,11 @@
 // What a run makes of the rows that its documents share, by their keys. A delivery cites most rows
 // of such a table, so the first question reads all of them, as far as the memory goes. What is not
-// among them is looked up, and the rows that were not asked for longest give way: the memory stays
-// the same however long the run is.
+// among them is looked up, and where there is no more room the memory starts anew: it stays the
+// same however long the run is.
 #pragma once
 
-#include <QCache>
+#include <QHash>
 #include <functional>
-#include <memory>
 
 #include "archive/database.h"
 #include "archive/errore.h"
@@ -29,18 +28,20 @@ class Ricordati {
       : archivio_(archivio),
         righe_(righe),
         unaSola_(righe.istruzione + righe.condizione),
-        componi_(std::move(componi)),
-        noti_(righe.massimo) {}
+        componi_(std::move(componi)) {}
   Ricordati(const Ricordati&) = delete;
   Ricordati& operator=(const Ricordati&) = delete;
 
-  // Nothing where no row has that key: so it is with a Null key, too. A failure of `componi` is
-  // thrown each time that the row is asked for, and only then.
-  [[nodiscard]] std::shared_ptr<const Valore> Cerca(const Campo& chiave) {
+  // Nothing where no row has that key: so it is with a Null key, too. The value stays good until
+  // the next call. A failure of `componi` is thrown each time that the row is asked for, and only
+  // then.
+  [[nodiscard]] const Valore* Cerca(const Campo& chiave) {
     if (chiave.Nullo()) return nullptr;
     if (!letti_) LeggiTutti();
     const qint64 numero = chiave.Intero();
-    if (const Condiviso* noto = noti_.object(numero)) return *noto;
+    const auto noto = noti_.constFind(numero);
+    if (noto != noti_.constEnd()) return &*noto;
+    if (noti_.size() >= righe_.massimo) noti_.clear();
     const Recordset riga = archivio_.OpenRecordset(unaSola_, {numero});
     return riga.Eof() ? nullptr : Ricorda(numero, riga);
   }
@@ -52,8 +53,6 @@ class Ricordati {
   }
 
  private:
-  using Condiviso = std::shared_ptr<const Valore>;
-
   void LeggiTutti() {
     letti_ = true;
     Recordset righe = archivio_.OpenRecordset(righe_.istruzione);
@@ -68,10 +67,8 @@ class Ricordati {
     }
   }
 
-  Condiviso Ricorda(qint64 numero, const Recordset& riga) {
-    const auto nuovo = std::make_shared<const Valore>(componi_(riga));
-    noti_.insert(numero, std::make_unique<Condiviso>(nuovo).release());
-    return nuovo;
+  const Valore* Ricorda(qint64 numero, const Recordset& riga) {
+    return &*noti_.insert(numero, componi_(riga));
   }
 
   Database archivio_;
@@ -79,7 +76,7 @@ class Ricordati {
   QString unaSola_;
   Componi componi_;
   bool letti_ = false;
-  QCache<qint64, Condiviso> noti_;
+  QHash<qint64, Valore> noti_;
 };
 
 }  // namespace torvi

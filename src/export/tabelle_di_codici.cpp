@@ -45,21 +45,18 @@ QString Istruzione(TavolaCodici quale) {
   return "select "_L1 + nomi.chiave + ", "_L1 + nomi.colonne + " from ["_L1 + nomi.tabella + ']';
 }
 
+template <typename Chiave>
+bool TestiUguali(const Chiave& a, const Chiave& b) {
+  const auto* testoA = std::get_if<std::string>(&a);
+  const auto* testoB = std::get_if<std::string>(&b);
+  return testoA != nullptr && testoB != nullptr && ConfrontaItaliano(*testoA, *testoB) == 0;
+}
+
 }  // namespace
 
 const Campo& RigaCodice::Fields(std::string_view nome) const {
   if (!riga_) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
   return riga_->Fields(nome);
-}
-
-bool TabelleDiCodici::Prima::operator()(const Chiave& a, const Chiave& b) const {
-  const auto* numeroA = std::get_if<qint64>(&a);
-  const auto* numeroB = std::get_if<qint64>(&b);
-  if (numeroA != nullptr && numeroB != nullptr) return *numeroA < *numeroB;
-  const auto* testoA = std::get_if<std::string>(&a);
-  const auto* testoB = std::get_if<std::string>(&b);
-  if (testoA == nullptr || testoB == nullptr) return a < b;
-  return ConfrontaItaliano(*testoA, *testoB) < 0;
 }
 
 TabelleDiCodici::Chiave TabelleDiCodici::ChiaveDi(const Campo& campo) {
@@ -69,13 +66,18 @@ TabelleDiCodici::Chiave TabelleDiCodici::ChiaveDi(const Campo& campo) {
   return {};
 }
 
-// Of rows with the same key the first stays.
+// In the order of the keys, so that of keys which the archive takes for equal the first row comes
+// first: the others are never found, not even by their own spelling.
 void TabelleDiCodici::Leggi(TavolaCodici quale, Tavola& tavola) const {
-  Recordset righe = archivio_.OpenRecordset(Istruzione(quale));
+  Recordset righe =
+      archivio_.OpenRecordset(Istruzione(quale) + " order by "_L1 + NomiDi(quale).chiave);
+  Chiave precedente;
   for (; !righe.Eof() && tavola.righe.size() < kRicordate; righe.MoveNext()) {
     Riga riga = righe.Copia();
-    // Most tables are stored in the order of their keys.
-    tavola.righe.emplace_hint(tavola.righe.end(), ChiaveDi(riga.Fields(0)), std::move(riga));
+    Chiave chiave = ChiaveDi(riga.Fields(0));
+    if (TestiUguali(precedente, chiave)) continue;
+    precedente = chiave;
+    tavola.righe.emplace(std::move(chiave), std::move(riga));
   }
   tavola.letta = true;
 }
@@ -89,11 +91,11 @@ RigaCodice TabelleDiCodici::CercaInArchivio(TavolaCodici quale, const Campo& chi
 const RigaCodice& TabelleDiCodici::Cerca(TavolaCodici quale, const Campo& chiave) {
   Tavola& tavola = tavole_.at(static_cast<std::size_t>(quale));
   if (!tavola.letta) Leggi(quale, tavola);
-  const Chiave cercata = ChiaveDi(chiave);
+  Chiave cercata = ChiaveDi(chiave);
   const auto nota = tavola.righe.find(cercata);
   if (nota != tavola.righe.end()) return nota->second;
   if (tavola.righe.size() >= 2 * kRicordate) tavola.righe.clear();
-  return tavola.righe.emplace(cercata, CercaInArchivio(quale, chiave)).first->second;
+  return tavola.righe.emplace(std::move(cercata), CercaInArchivio(quale, chiave)).first->second;
 }
 
 }  // namespace torvi

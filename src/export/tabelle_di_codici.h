@@ -3,10 +3,10 @@
 #pragma once
 
 #include <array>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <variant>
 
 #include "archive/database.h"
@@ -56,12 +56,9 @@ class TabelleDiCodici {
 
  private:
   using Chiave = std::variant<std::monostate, qint64, double, std::string>;
-  struct Prima {
-    bool operator()(const Chiave& a, const Chiave& b) const;
-  };
   struct Tavola {
     bool letta = false;
-    std::map<Chiave, RigaCodice, Prima> righe;
+    std::unordered_map<Chiave, RigaCodice> righe;
   };
   [[nodiscard]] static Chiave ChiaveDi(const Campo& campo);
   void Leggi(TavolaCodici quale, Tavola& tavola) const;

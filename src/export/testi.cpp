@@ -69,7 +69,7 @@ void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QStr
   QStringList nomi;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
     const Recordset& legame = legami.Riga();
-    const auto nome = contesto.nomi.Cerca(legame.Fields("IDResponsabilita"));
+    const QString* nome = contesto.nomi.Cerca(legame.Fields("IDResponsabilita"));
     if (nome == nullptr) continue;
     if (nomi.isEmpty()) tag = legame.Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
     nomi += *nome;
@@ -127,13 +127,11 @@ bool EsisteTesto(const ContestoEsportazione& contesto, const TestiDocumento& tes
                  std::initializer_list<QStringView> tipi) {
   const auto trovato = [&testi](QStringView tipo) { return testi.Trova(tipo) != nullptr; };
   if (std::ranges::any_of(tipi, trovato)) return true;
-  Recordset legami = contesto.stato.DbArchivio.OpenRecordset(
+  const std::vector<Riga> legami = contesto.stato.DbArchivio.LeggiRighe(
       QStringLiteral("select Tipo from legameDocTesto where legameDocTesto.IDDoc = ?"), {idDoc});
-  for (; !legami.Eof(); legami.MoveNext()) {
-    const QString tipo = legami.Fields("Tipo").TestoOVuoto();
-    if (std::ranges::find(tipi, tipo) != tipi.end()) return true;
-  }
-  return false;
+  return std::ranges::any_of(legami, [&tipi](const Riga& legame) {
+    return std::ranges::find(tipi, legame.Fields("Tipo").TestoOVuoto()) != tipi.end();
+  });
 }
 
 }  // namespace torvi

@@ -13,7 +13,7 @@ QStringList Coppie(ContestoStampa& contesto, qint64 idDoc) {
   LegamiInOrdine& legami = contesto.legami.classi;
   QStringList coppie;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
-    const auto coppia = contesto.coppieClasse.Cerca(legami.Riga().Fields("IDClass"));
+    const CoppiaClasse* coppia = contesto.coppieClasse.Cerca(legami.Riga().Fields("IDClass"));
     if (coppia != nullptr) coppie += coppia->codici;
   }
   return coppie;

@@ -47,7 +47,7 @@ QString RigaResponsabili(ContestoStampa& contesto, qint64 idDoc) {
   bool autore = false;
   QStringList nomi;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
-    const auto nome = contesto.nomi.Cerca(legami.Riga().Fields("IDResponsabilita"));
+    const QString* nome = contesto.nomi.Cerca(legami.Riga().Fields("IDResponsabilita"));
     if (nome == nullptr) continue;
     if (nomi.isEmpty()) autore = legami.Riga().Fields("flagAutore").Logico();
     nomi += *nome;
