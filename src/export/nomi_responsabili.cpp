@@ -11,7 +11,7 @@ const RigheCondivise kResponsabili = {
     .chiave = "IDResponsabilita"};
 
 QString ComponiNome(const Recordset& riga, QLatin1StringView fra) {
-  const QString primo = Trim(riga.Fields("PrimoElemento").Testo());
+  QString primo = Trim(riga.Fields("PrimoElemento").Testo());
   if (riga.Fields("flagCollettivo").Logico()) return primo;
   return primo + fra + Trim(riga.Fields("SecondoElemento").Testo());
 }
