@@ -295,39 +295,6 @@ class Genuini : public Comandi {
   }
 };
 
-TEST_F(Genuini, TheConsistenzaOfAGenuineDeliveryIsWhatItsTablesSay) {
-  const EsitoProgramma esito =
-      Esegui({QStringLiteral("stampa"), QStringLiteral("consistenza"), Archivio()});
-  EXPECT_TRUE(esito.errori.endsWith(
-      QStringLiteral("TotTAbs: 22 --- Num. docc.: 23\nFine stampa consistenza\n")));
-  QByteArray righe = Uscita("consistenza.A01");
-  EXPECT_EQ(righe.replace("\r\n", "\n").replace("      ", "").toStdString(),
-            "1###AVPC 2001 3 4\n"
-            "1###BUCA 1998 4 2\n"
-            "1###CLPR 2000 1 1\n"
-            "1###CLPR 2000 1 5\n"
-            "1###CODC 2001 4 2\n"
-            "1###DPAQ 2000 2 4\n"
-            "1###FMAR 2001 1 2\n"
-            "1###FMAR 2001 1 6\n"
-            "1###MIAN 2000 9 \n"
-            "1###NGTI 2000 2 3\n"
-            "1###NGTI 2000 2 1\n"
-            "1###OCTR 2001 1 4\n"
-            "1###OCTR 2001 1 2\n"
-            "1###QADP 2000 4 5\n"
-            "2###RGI 2001 3 3\n"
-            "1###RGI 2000 3 3\n"
-            "1###RLDA 2001 3 1-2\n"
-            "1###UEAC 0/00 2 \n"
-            "2###UEAC 2001 2 5\n"
-            "1###ZALP 2000 3 1\n"
-            "\n"
-            "Documenti: 22\n"
-            "\n"
-            "Num. iniziale: 2001A0012   Num. finale: 2001A0034   Num. docc.: 23\n");
-}
-
 TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
   const QByteArray originale = Byte(Archivio());
   const QString nuovo = cartella_.Mdb(QStringLiteral("nuovo.mdb"));
