@@ -32,8 +32,8 @@ QByteArray PrimiByte(const QString& percorso) {
 }
 
 std::unique_ptr<SQLite::Database> ApriMotore(const QString& percorso, Accesso accesso) {
-  // The program has one thread: the engine's own locks would only cost time at every column, and
-  // its count of the memory in use, one more lock, at every piece of memory.
+  // No connection is used by two threads at once: the engine's own locks would only cost time at
+  // every column, and its count of the memory in use, one more lock, at every piece of memory.
   [[maybe_unused]] static const int kSenzaConti = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
   const int modo =
       SQLite::OPEN_NOMUTEX |

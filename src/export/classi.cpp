@@ -16,7 +16,8 @@ QStringList LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QStr
   LegamiInOrdine& legami = contesto.legami.classi;
   QStringList coppie;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
-    const CoppiaClasse* coppia = contesto.coppieClasse.Cerca(legami.Riga().Fields("IDClass"));
+    const CoppiaClasse* coppia =
+        contesto.condivise.coppieClasse.Cerca(legami.Riga().Fields("IDClass"));
     if (coppia == nullptr) continue;
     coppie += coppia->codici;
     if (coppia->messaggio.isEmpty()) continue;

@@ -19,6 +19,7 @@ class CoppieClasse {
   // Nothing where no row has that key; good until the next search. A descriptor without row: error
   // 3021.
   [[nodiscard]] const CoppiaClasse* Cerca(const Campo& idClasse) { return note_.Cerca(idClasse); }
+  void LeggiTutte() { note_.LeggiTutti(); }
 
  private:
   Ricordati<CoppiaClasse> note_;

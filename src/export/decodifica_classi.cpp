@@ -12,7 +12,7 @@ void ScriviClassi1999(ContestoEsportazione& contesto, bool conCodice) {
   for (const QString& codice : contesto.CodiciClasse.split(kSeparatore)) {
     QString classe = PuntaCodice(codice) + QLatin1Char(' ');
     if (conCodice) classe += codice + QLatin1Char(' ');
-    classi += classe + contesto.descrizioni1999.Cerca(codice);
+    classi += classe + contesto.condivise.descrizioni1999.Cerca(codice);
   }
   contesto.record.AggiungiTesto(tag::kClassi1999, classi.join(kSeparatore));
 }
@@ -26,7 +26,8 @@ void ScriviClassiStorico(ContestoEsportazione& contesto) {
   }
   QStringList classi;
   for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
-    const CoppiaDecodificata& coppia = contesto.coppie.Cerca(contesto.codici, pezzo);
+    const CoppiaDecodificata& coppia =
+        contesto.condivise.coppie.Cerca(contesto.condivise.codici, pezzo);
     classi += coppia.sigla + QLatin1Char('|') + coppia.descrizione + coppia.descrittore;
   }
   contesto.record.AggiungiTesto(tag::kClassiStorico, classi.join(kSeparatore));
@@ -40,7 +41,8 @@ void ScriviClassiCassazione(ContestoEsportazione& contesto) {
   QString classi;
   QString ultimo;
   for (const QString& pezzo : contesto.CodiciClasse.split(kSeparatore)) {
-    const CoppiaDecodificata& coppia = contesto.coppie.Cerca(contesto.codici, pezzo);
+    const CoppiaDecodificata& coppia =
+        contesto.condivise.coppie.Cerca(contesto.condivise.codici, pezzo);
     if (coppia.codice != ultimo) {
       if (!classi.isEmpty()) classi += kSeparatore;
       classi += coppia.sigla + QLatin1Char(' ') + coppia.descrizione;

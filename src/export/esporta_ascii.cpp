@@ -45,8 +45,9 @@ class FileEsportazione {
 
   [[nodiscard]] FileTesto& Uscita() { return uscita_; }
   [[nodiscard]] ContestoEsportazione Contesto(StatoGlobale& stato, Record& record,
-                                              CatalogoNorme& catalogo) {
-    return {stato, record, errori_, errClasse_, errFonte_, catalogo};
+                                              CatalogoNorme& catalogo,
+                                              TabelleCondivise& condivise) {
+    return {stato, record, errori_, errClasse_, errFonte_, catalogo, condivise};
   }
 
   // The empty lines stand for a run that came to its end, so all it found must be on disk first.
@@ -103,18 +104,19 @@ QStringList FileErroriAccodati(const StatoGlobale& stato) {
 
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag) {
   CatalogoNorme catalogo(stato.CartellaApplicazione);
-  EsportaAscii(stato, dialoghi, flag, catalogo);
+  TabelleCondivise condivise(stato.DbArchivio);
+  EsportaAscii(stato, dialoghi, flag, catalogo, condivise);
 }
 
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag,
-                  CatalogoNorme& catalogo) {
+                  CatalogoNorme& catalogo, TabelleCondivise& condivise) {
   Clessidra clessidra(dialoghi);
   LeggiInfoConsegna(stato);
   const Destinazione destinazione =
       stato.ModoBatch ? Accodata(stato) : ChiediDestinazione(stato, dialoghi, flag);
   FileEsportazione file(stato, destinazione);
   Record record;
-  ContestoEsportazione contesto = file.Contesto(stato, record, catalogo);
+  ContestoEsportazione contesto = file.Contesto(stato, record, catalogo, condivise);
   const int fatti = GiraDocumenti(
       stato, dialoghi, QStringLiteral("Esportazione"), QStringLiteral("from tabDocumento"),
       [&](const Recordset& riga) { EsportaDocumento(contesto, flag, riga, file.Uscita()); });

@@ -121,7 +121,8 @@ void CampoEtichettato::TipoDiFonte(const FonteLetta& fonte, const QString& tp) {
     SottocampoVuoto(u"^x ");
     return;
   }
-  const RigaCodice& tipo = contesto_.codici.Cerca(famiglia->tavola, fonte[ColonnaFonte::fonte]);
+  const RigaCodice& tipo =
+      contesto_.condivise.codici.Cerca(famiglia->tavola, fonte[ColonnaFonte::fonte]);
   Sottocampo(u"^f ", tipo.Fields(famiglia->colonna).Testo());
   if (famiglia == &kComunitaria) {
     Sottocampo(u"^x ", CelexDaFonte(contesto_.stato, fonte, tipo));
@@ -150,7 +151,7 @@ const RigaCodice* CampoEtichettato::Nome(const FonteLetta& fonte, const Sottocam
     if (vuotoSeManca) SottocampoVuoto(nome.marca);
     return nullptr;
   }
-  const RigaCodice& riga = contesto_.codici.Cerca(nome.tavola, chiave);
+  const RigaCodice& riga = contesto_.condivise.codici.Cerca(nome.tavola, chiave);
   Sottocampo(nome.marca, riga.Fields(nome.colonna).Testo());
   return &riga;
 }

@@ -19,14 +19,23 @@ class LettoreFascicoli {
 
   // No such reference, or no such journal: error 3021. The result stays good until the next call.
   [[nodiscard]] const Fascicolo& Leggi(qint16 idRifBibl, const QString& annoProduzione) {
-    if (annoProduzione_ != annoProduzione) noti_.Dimentica();
-    annoProduzione_ = annoProduzione;
+    NellAnno(annoProduzione);
     const Fascicolo* fascicolo = noti_.Cerca(static_cast<qint64>(idRifBibl));
     if (fascicolo == nullptr) throw ErroreEsecuzione(Errore::NessunRecordCorrente);
     return *fascicolo;
   }
+  void LeggiTutti(const QString& annoProduzione) {
+    NellAnno(annoProduzione);
+    noti_.LeggiTutti();
+  }
 
  private:
+  void NellAnno(const QString& annoProduzione) {
+    if (annoProduzione_ == annoProduzione) return;
+    noti_.Dimentica();
+    annoProduzione_ = annoProduzione;
+  }
+
   QString annoProduzione_;
   Ricordati<Fascicolo> noti_;
 };

@@ -15,6 +15,7 @@ class NomiResponsabili {
   [[nodiscard]] const QString* Cerca(const Campo& idResponsabilita) {
     return noti_.Cerca(idResponsabilita);
   }
+  void LeggiTutti() { noti_.LeggiTutti(); }
 
  private:
   Ricordati<QString> noti_;

@@ -37,7 +37,7 @@ class Ricordati {
   // then.
   [[nodiscard]] const Valore* Cerca(const Campo& chiave) {
     if (chiave.Nullo()) return nullptr;
-    if (!letti_) LeggiTutti();
+    LeggiTutti();
     const qint64 numero = chiave.Intero();
     const auto noto = noti_.constFind(numero);
     if (noto != noti_.constEnd()) return &*noto;
@@ -46,14 +46,9 @@ class Ricordati {
     return riga.Eof() ? nullptr : Ricorda(numero, riga);
   }
 
-  // The next question reads the rows anew.
-  void Dimentica() {
-    noti_.clear();
-    letti_ = false;
-  }
-
- private:
+  // The first question does it, if nobody did before.
   void LeggiTutti() {
+    if (letti_) return;
     letti_ = true;
     Recordset righe = archivio_.OpenRecordset(righe_.istruzione);
     for (; !righe.Eof() && noti_.size() < righe_.massimo; righe.MoveNext()) {
@@ -67,6 +62,13 @@ class Ricordati {
     }
   }
 
+  // The next question reads the rows anew.
+  void Dimentica() {
+    noti_.clear();
+    letti_ = false;
+  }
+
+ private:
   const Valore* Ricorda(qint64 numero, const Recordset& riga) {
     return &*noti_.insert(numero, componi_(riga));
   }

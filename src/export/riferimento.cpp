@@ -90,7 +90,7 @@ void Riferimento::Bibliografia(const QString& bib) {
     return;
   }
   Codifica("BIB", bib);
-  const RigaCodice& tabBib = contesto_.codici.Cerca(TavolaCodici::Bibliografia, bib);
+  const RigaCodice& tabBib = contesto_.condivise.codici.Cerca(TavolaCodici::Bibliografia, bib);
   esteso_ += ", ("_L1 + tabBib.Fields("TipoBibliografia").Testo() + QLatin1Char(')');
 }
 
@@ -103,7 +103,7 @@ void Riferimento::Lingua(const char* sottocampo, const QString& lingua) {
 void ScriviRiferimento(ContestoEsportazione& contesto, const TestiDocumento& testi, qint64 idDoc,
                        const QString& idRecord, const DatiDocumento& documento) {
   const RiferimentoFascicolo& fascicolo =
-      contesto.riferimenti.Leggi(documento.IDRifBibl, idRecord.left(4));
+      contesto.condivise.riferimenti.Leggi(documento.IDRifBibl, idRecord.left(4));
   Riferimento riferimento(contesto, testi, idDoc, idRecord);
   riferimento.Fascicolo(fascicolo);
   riferimento.Documento(documento, fascicolo.volume);

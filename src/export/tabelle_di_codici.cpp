@@ -68,7 +68,9 @@ TabelleDiCodici::Chiave TabelleDiCodici::ChiaveDi(const Campo& campo) {
 
 // In the order of the keys, so that of keys which the archive takes for equal the first row comes
 // first: the others are never found, not even by their own spelling.
-void TabelleDiCodici::Leggi(TavolaCodici quale, Tavola& tavola) const {
+TabelleDiCodici::Tavola& TabelleDiCodici::Letta(TavolaCodici quale) {
+  Tavola& tavola = tavole_.at(static_cast<std::size_t>(quale));
+  if (tavola.letta) return tavola;
   Recordset righe =
       archivio_.OpenRecordset(Istruzione(quale) + " order by "_L1 + NomiDi(quale).chiave);
   Chiave precedente;
@@ -80,6 +82,11 @@ void TabelleDiCodici::Leggi(TavolaCodici quale, Tavola& tavola) const {
     tavola.righe.emplace(std::move(chiave), std::move(riga));
   }
   tavola.letta = true;
+  return tavola;
+}
+
+void TabelleDiCodici::LeggiTutte() {
+  for (std::size_t i = 0; i < kTavoleCodici; ++i) Letta(static_cast<TavolaCodici>(i));
 }
 
 RigaCodice TabelleDiCodici::CercaInArchivio(TavolaCodici quale, const Campo& chiave) const {
@@ -89,8 +96,7 @@ RigaCodice TabelleDiCodici::CercaInArchivio(TavolaCodici quale, const Campo& chi
 }
 
 const RigaCodice& TabelleDiCodici::Cerca(TavolaCodici quale, const Campo& chiave) {
-  Tavola& tavola = tavole_.at(static_cast<std::size_t>(quale));
-  if (!tavola.letta) Leggi(quale, tavola);
+  Tavola& tavola = Letta(quale);
   Chiave cercata = ChiaveDi(chiave);
   const auto nota = tavola.righe.find(cercata);
   if (nota != tavola.righe.end()) return nota->second;

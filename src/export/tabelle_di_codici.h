@@ -53,6 +53,8 @@ class TabelleDiCodici {
   // The first row with that key; text is compared as the archive compares it. The result stays good
   // until the next search in the same table.
   [[nodiscard]] const RigaCodice& Cerca(TavolaCodici quale, const Campo& chiave);
+  // Reads all tables before anybody asks.
+  void LeggiTutte();
 
  private:
   using Chiave = std::variant<std::monostate, qint64, double, std::string>;
@@ -61,7 +63,7 @@ class TabelleDiCodici {
     std::unordered_map<Chiave, RigaCodice> righe;
   };
   [[nodiscard]] static Chiave ChiaveDi(const Campo& campo);
-  void Leggi(TavolaCodici quale, Tavola& tavola) const;
+  Tavola& Letta(TavolaCodici quale);
   [[nodiscard]] RigaCodice CercaInArchivio(TavolaCodici quale, const Campo& chiave) const;
 
   Database archivio_;

@@ -69,7 +69,7 @@ void ScriviResponsabili(ContestoEsportazione& contesto, qint64 idDoc, const QStr
   QStringList nomi;
   for (legami.Cerca(idDoc); !legami.Finiti(); legami.Avanti()) {
     const Recordset& legame = legami.Riga();
-    const QString* nome = contesto.nomi.Cerca(legame.Fields("IDResponsabilita"));
+    const QString* nome = contesto.condivise.nomi.Cerca(legame.Fields("IDResponsabilita"));
     if (nome == nullptr) continue;
     if (nomi.isEmpty()) tag = legame.Fields("flagAutore").Logico() ? tag::kAutori : tag::kCuratori;
     nomi += *nome;

@@ -19,7 +19,7 @@ constexpr QLatin1StringView kAttiCoperti[] = {
 
 EsitoCatalogo VerificaCatalogo(ContestoEsportazione& contesto, const FonteLetta& fonte) {
   const QString fonteNorm =
-      contesto.codici.Cerca(TavolaCodici::FonteInterna, fonte[ColonnaFonte::fonte])
+      contesto.condivise.codici.Cerca(TavolaCodici::FonteInterna, fonte[ColonnaFonte::fonte])
           .Fields("FonteNorm")
           .Testo();
   if (std::ranges::find(kAttiCoperti, fonteNorm) == std::end(kAttiCoperti)) {

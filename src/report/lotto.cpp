@@ -10,6 +10,7 @@
 #include "archive/errore.h"
 #include "export/catalogo_norme.h"
 #include "export/esporta_ascii.h"
+#include "report/consegna_in_anticipo.h"
 #include "report/estrazioni.h"
 #include "report/sigle.h"
 #include "report/stampa_html.h"
@@ -22,30 +23,20 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-template <const FlagEsportazione& flag>
-void Esporta(StatoGlobale& stato, Dialoghi& dialoghi, CatalogoNorme& catalogo) {
-  EsportaAscii(stato, dialoghi, flag, catalogo);
-}
-
-template <auto routine>
-void SenzaCatalogo(StatoGlobale& stato, Dialoghi& dialoghi, CatalogoNorme& /*catalogo*/) {
-  routine(stato, dialoghi);
-}
-
 constexpr std::array kVoci = {
-    VoceLotto{"isis", Lotto::Isis, "lexxdump isis."_L1, {}, Esporta<kEsportaIsis>},
+    VoceLotto{"isis", Lotto::Isis, "lexxdump isis."_L1, {}, &kEsportaIsis, nullptr},
     VoceLotto{"cassazione",
               Lotto::Cassazione,
               "lexxdump cassazione."_L1,
               {},
-              Esporta<kEsportaCassazione>},
-    VoceLotto{"storico", Lotto::Storico, "lexxdump storico."_L1, {}, Esporta<kEsportaStorico>},
-    VoceLotto{"celex", Lotto::Celex, "StampaHTML "_L1, ".htm"_L1, SenzaCatalogo<StampaHTMLCelex>},
-    VoceLotto{"hudoc", Lotto::Hudoc, "StampaHTML_GEI "_L1, ".htm"_L1,
-              SenzaCatalogo<StampaHTMLHudoc>},
-    VoceLotto{"note", Lotto::Note, "note."_L1, {}, SenzaCatalogo<EstraiNote>},
-    VoceLotto{"nuovi", Lotto::Nuovi, "nuovi."_L1, {}, SenzaCatalogo<EstraiNuovi>},
-    VoceLotto{"conteggio", Lotto::Conteggio, "conteggio."_L1, {}, nullptr},
+              &kEsportaCassazione,
+              nullptr},
+    VoceLotto{"storico", Lotto::Storico, "lexxdump storico."_L1, {}, &kEsportaStorico, nullptr},
+    VoceLotto{"celex", Lotto::Celex, "StampaHTML "_L1, ".htm"_L1, nullptr, StampaHTMLCelex},
+    VoceLotto{"hudoc", Lotto::Hudoc, "StampaHTML_GEI "_L1, ".htm"_L1, nullptr, StampaHTMLHudoc},
+    VoceLotto{"note", Lotto::Note, "note."_L1, {}, nullptr, EstraiNote},
+    VoceLotto{"nuovi", Lotto::Nuovi, "nuovi."_L1, {}, nullptr, EstraiNuovi},
+    VoceLotto{"conteggio", Lotto::Conteggio, "conteggio."_L1, {}, nullptr, nullptr},
 };
 
 QString Guasto(const ErroreEsecuzione& errore) {
@@ -96,25 +87,31 @@ class Giro {
     const QStringList sigle = LeggiSigle(stato_.FileBatch);
     esito.consegne = sigle.size();
     stato_.FileBatch = FileUscita(stato_.CartellaApplicazione, NomeUscita(voce_, stato_.FileBatch));
-    if (voce_.operazione == nullptr) conteggio_.emplace(stato_.FileBatch);
+    const bool esporta = voce_.esportazione != nullptr;
+    if (!esporta && voce_.operazione == nullptr) conteggio_.emplace(stato_.FileBatch);
     const auto finito = qScopeGuard([this] { dialoghi_.Ambito({}); });
     for (const QString& sigla : sigle) {
       const qsizetype posto = esito.fatte + esito.fallite.size() + 1;
       dialoghi_.Ambito(u"%1 (%2 di %3): "_s.arg(Nominata(sigla), QString::number(posto),
                                                 QString::number(sigle.size())));
-      FaConsegna(sigla, alGuasto, esito);
+      FaConsegna(sigla, sigle.value(posto), alGuasto, esito);
     }
     if (conteggio_) ChiudiConteggio(esito.fatte);
     esito.riuscito = esito.fallite.isEmpty();
   }
 
  private:
-  void FaConsegna(const QString& sigla, AlGuasto alGuasto, EsitoLotto& esito) {
+  // `seguente` is the code behind it; empty: none.
+  void FaConsegna(const QString& sigla, const QString& seguente, AlGuasto alGuasto,
+                  EsitoLotto& esito) {
     const PuntoDiRitorno inizio(FileAccodati());
     try {
-      stato_.DbArchivio =
-          ApriArchivio(FileArchivio(stato_.CartellaApplicazione, sigla + ".mdb"_L1), dialoghi_);
-      Opera();
+      const auto pronta = anticipo_.Prendi(Percorso(sigla));
+      stato_.DbArchivio = pronta ? pronta->archivio : ApriArchivio(Percorso(sigla), dialoghi_);
+      if (voce_.esportazione != nullptr && !seguente.isEmpty()) {
+        anticipo_.Prepara(Percorso(seguente));
+      }
+      Opera(pronta.get());
       stato_.DbArchivio.Close();
       ++esito.fatte;
     } catch (const ErroreEsecuzione& errore) {
@@ -125,19 +122,31 @@ class Giro {
     }
   }
 
+  [[nodiscard]] QString Percorso(const QString& sigla) const {
+    return FileArchivio(stato_.CartellaApplicazione, sigla + ".mdb"_L1);
+  }
+
   // Not the file of a count, which is open and gets whole lines only.
   [[nodiscard]] QStringList FileAccodati() const {
     if (conteggio_) return {};
     return FileErroriAccodati(stato_) + QStringList{stato_.FileBatch};
   }
 
-  void Opera() {
-    if (!conteggio_) {
-      voce_.operazione(stato_, dialoghi_, catalogo_);
-      return;
+  void Opera(ConsegnaPronta* pronta) {
+    if (voce_.esportazione != nullptr) {
+      Esporta(pronta);
+    } else if (voce_.operazione != nullptr) {
+      voce_.operazione(stato_, dialoghi_);
+    } else {
+      dialoghi_.Avanzamento(u"Conteggio documenti"_s, 0, 0);
+      conteggio_->documenti += ContaDocumentiConsegna(stato_, conteggio_->file);
     }
-    dialoghi_.Avanzamento(u"Conteggio documenti"_s, 0, 0);
-    conteggio_->documenti += ContaDocumentiConsegna(stato_, conteggio_->file);
+  }
+
+  void Esporta(ConsegnaPronta* pronta) {
+    std::optional<TabelleCondivise> sue;
+    TabelleCondivise& condivise = pronta ? pronta->tabelle : sue.emplace(stato_.DbArchivio);
+    EsportaAscii(stato_, dialoghi_, *voce_.esportazione, catalogo_, condivise);
   }
 
   void ChiudiConteggio(qsizetype consegne) {
@@ -151,6 +160,7 @@ class Giro {
   Dialoghi& dialoghi_;
   const VoceLotto& voce_;
   CatalogoNorme catalogo_;
+  ConsegnaInAnticipo anticipo_;
   std::optional<Conteggio> conteggio_;
 };
 

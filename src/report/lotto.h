@@ -10,7 +10,7 @@
 
 namespace torvi {
 
-class CatalogoNorme;
+struct FlagEsportazione;
 
 enum class Lotto { Isis, Cassazione, Storico, Celex, Hudoc, Note, Nuovi, Conteggio };
 
@@ -19,9 +19,9 @@ struct VoceLotto {
   Lotto lotto;
   QLatin1StringView uscita;  // in dump/, before the extension of the list
   QLatin1StringView coda;    // behind it
-  // Appends to FileBatch itself; nullptr: the documents are counted. The catalogue is one for all
-  // deliveries.
-  void (*operazione)(StatoGlobale& stato, Dialoghi& dialoghi, CatalogoNorme& catalogo);
+  // Both append to FileBatch; neither: the documents are counted.
+  const FlagEsportazione* esportazione;
+  void (*operazione)(StatoGlobale& stato, Dialoghi& dialoghi);
 };
 [[nodiscard]] std::span<const VoceLotto> VociLotto();
 

@@ -16,8 +16,9 @@ Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
     FileTesto fileErrori(errori, Apertura::Scrittura);
     FileTesto fileErrClasse(errClasse, Apertura::Scrittura);
     FileTesto fileErrFonte(errFonte, Apertura::Scrittura);
-    ContestoEsportazione contesto = {stato,         record,       fileErrori,
-                                     fileErrClasse, fileErrFonte, catalogo};
+    TabelleCondivise condivise(stato.DbArchivio);
+    ContestoEsportazione contesto = {stato,        record,   fileErrori, fileErrClasse,
+                                     fileErrFonte, catalogo, condivise};
     scritto.errore = NumeroErrore([&] { scrittore(contesto); });
   }
   for (const Record::Riga& riga : record.RigheRecord()) {

@@ -1,6 +1,9 @@
 #include "report/lotto.h"
 
+#include "archive/esempio.h"
+#include "archive/master.h"
 #include "consegna_fonti.h"
+#include "export/esporta_ascii.h"
 #include "report/estrazioni.h"
 
 namespace torvi {
@@ -92,6 +95,43 @@ TEST_F(LottoDiConsegne, NamesABlankLineAndTakesBackWhatAnExportFound) {
   EXPECT_TRUE(dialoghi.Messaggi().at(1).startsWith("Consegna (riga vuota): 3024 --> "));
   EXPECT_EQ(Dump("errori.A03"), "di prima\r\n");
   EXPECT_EQ(Dump("errClasse.A03") + Dump("errFonte.A03"), "");
+}
+
+// What is read ahead of its turn must be of the right delivery, and what cannot be must wait for
+// it.
+TEST_F(LottoDiConsegne, AnExportGivesWhatEachDeliveryGivesAlone) {
+  const QString master = cartella.Mdb("master.mdb");
+  CreaMaster(master);
+  CreaCatalogo(cartella.Mdb("catalogo norme.mdb"));
+  for (const auto& [nome, documenti] : {std::pair{"E1.mdb", 3}, {"E2.mdb", 9}, {"E3.mdb", 6}}) {
+    CreaEsempio(cartella.Mdb(nome), master, documenti);
+  }
+  // The same keys stand for other things.
+  const Database seconda = OpenDatabase(cartella.Mdb("E2.mdb"));
+  for (const char* cambio : {"update TabResponsabilita set PrimoElemento = \"Altri\"",
+                             "update [TabClasse2000-S] set descrizione = \"altra\"",
+                             "update TabRivista set TitoloRivista = \"Altra\""}) {
+    seconda.Execute(cambio);
+  }
+  ScriviByte(cartella.Mdb("E4.mdb"), "non è un archivio");
+  const auto scritti = [this] {
+    QByteArray tutti;
+    for (const char* nome : {"lexxdump isis.A03", "errori.A03", "errClasse.A03", "errFonte.A03"}) {
+      tutti += Dump(nome);
+      QFile::remove(cartella.Dump(nome));
+    }
+    return tutti;
+  };
+  const EsitoLotto esito =
+      Esegue(Lotto::Isis, "E1\r\nE4\r\nE2\r\nE2\r\nL3\r\nE3\r\n", AlGuasto::Prosegui);
+  EXPECT_EQ(esito.fallite.join('|'), "E4|L3");
+  const QByteArray insieme = scritti();
+  for (const char* nome : {"E1.mdb", "E2.mdb", "E2.mdb", "E3.mdb"}) {
+    stato.DbArchivio = OpenDatabase(cartella.Mdb(nome));
+    EsportaAscii(stato, dialoghi, kEsportaIsis);
+  }
+  EXPECT_EQ(insieme, scritti());
+  EXPECT_TRUE(insieme.contains("altra") && insieme.contains("Altri"));
 }
 
 TEST_F(LottoDiConsegne, CountsDocuments) {
