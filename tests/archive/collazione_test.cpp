@@ -18,15 +18,15 @@ using namespace std::string_literals;
 int Segno(int valore) { return (valore > 0) - (valore < 0); }
 
 TEST(Collazione, HaLOrdineDegliArchiviAutentici) {
-  QFile file(QStringLiteral(TORVI_RADICE "/../shared/jet/chiavi testo.keys.json"));
+  QFile file(TORVI_RADICE "/../shared/jet/chiavi testo.keys.json");
   if (!file.open(QIODevice::ReadOnly)) GTEST_SKIP() << "manca " << file.fileName().toStdString();
   std::vector<std::pair<std::string, std::string>> testi;
   const QJsonObject radice = QJsonDocument::fromJson(file.readAll()).object();
-  for (const auto& voce : radice[QLatin1String("testo")].toArray()) {
+  for (const auto& voce : radice["testo"].toArray()) {
     const QJsonObject riga = voce.toObject();
-    if (riga[QLatin1String("testo")].isNull()) continue;
-    const QByteArray chiave = QByteArray::fromHex(riga[QLatin1String("key")].toString().toLatin1());
-    testi.emplace_back(riga[QLatin1String("testo")].toString().toStdString(), chiave.toStdString());
+    if (riga["testo"].isNull()) continue;
+    const QByteArray chiave = QByteArray::fromHex(riga["key"].toString().toLatin1());
+    testi.emplace_back(riga["testo"].toString().toStdString(), chiave.toStdString());
   }
   ASSERT_GT(testi.size(), 1000U);
   for (const auto& [testoA, chiaveA] : testi) {

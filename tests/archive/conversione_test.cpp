@@ -1,7 +1,6 @@
 #include "archive/conversione.h"
 
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,6 +13,7 @@
 #include "archive/dati_jet.h"
 #include "archive/errore.h"
 #include "archive/jet.h"
+#include "comune/file_limitati.h"
 
 namespace torvi {
 namespace {
@@ -24,12 +24,10 @@ using namespace prova;
 class Conversione : public FileGenuini {
  protected:
   void Copia(const char* mdb) {
-    originale_ = Byte(CartellaJet().filePath(QLatin1String(mdb)));
+    originale_ = Byte(CartellaJet().filePath(mdb));
     ScriviByte(vecchio_, originale_);
   }
-  [[nodiscard]] QString Nella(const char* nome) const {
-    return cartella_.filePath(QLatin1String(nome));
-  }
+  [[nodiscard]] QString Nella(const char* nome) const { return cartella_.filePath(nome); }
   [[nodiscard]] std::string File() const {
     const QDir cartella(cartella_.path());
     return cartella.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' ').toStdString();
@@ -37,13 +35,9 @@ class Conversione : public FileGenuini {
   // What fails says so with `numero` and the file's name, and leaves the folder as it was.
   void Fallisce(int numero, const QString& nominato, const std::function<void()>& lavoro) const {
     const std::string prima = File();
-    try {
-      lavoro();
-      ADD_FAILURE() << "no error";
-    } catch (const ErroreEsecuzione& errore) {
-      EXPECT_EQ(errore.Numero(), numero) << errore.what();
-      EXPECT_TRUE(errore.Descrizione().contains(nominato)) << errore.what();
-    }
+    const QString errore = ErroreDi(lavoro);
+    EXPECT_TRUE(errore.startsWith(QString::number(numero) + ' ') && errore.contains(nominato))
+        << errore.toStdString();
     EXPECT_EQ(File(), prima);
     EXPECT_TRUE(Byte(vecchio_) == originale_);
   }
@@ -99,9 +93,9 @@ TEST_F(Conversione, EveryRowOfEveryFileArrives) {
 }
 
 TEST_F(Conversione, CountersGoOnWhereTheyStood) {
-  ConvertiJet(CartellaJet().filePath(QStringLiteral("consegna.mdb")), nuovo_);
+  ConvertiJet(CartellaJet().filePath("consegna.mdb"), nuovo_);
   const Database archivio = OpenDatabase(nuovo_);
-  const QJsonObject schema = Atteso(QStringLiteral("consegna.mdb"), ".schema.json");
+  const QJsonObject schema = Atteso("consegna.mdb", ".schema.json");
   int contatori = 0;
   for (const Tabella& tabella : SchemaArchivio()) {
     const Colonna& prima = tabella.colonne.front();
@@ -113,13 +107,13 @@ TEST_F(Conversione, CountersGoOnWhereTheyStood) {
     righe.Update();
     righe.Bookmark(righe.LastModified());
     EXPECT_EQ(righe.Fields(prima.nome.toStdString()).Intero(),
-              schema[tabella.nome].toObject()[QLatin1String("lastCounter")].toInt() + 1);
+              schema[tabella.nome].toObject()["lastCounter"].toInt() + 1);
   }
   EXPECT_GT(contatori, 20);
 }
 
 TEST_F(Conversione, IndexesAndDefaultsOfBothSchemasAreThere) {
-  const QString consegna = CartellaJet().filePath(QStringLiteral("consegna.mdb"));
+  const QString consegna = CartellaJet().filePath("consegna.mdb");
   ConvertiJet(consegna, nuovo_);
   const Database archivio = OpenDatabase(nuovo_);
   const LettoreJet lettore(consegna);
@@ -154,11 +148,11 @@ TEST_F(Conversione, InPlaceTheOriginalStaysBesideTheArchive) {
     ultima = cosa;
   });
   EXPECT_GT(fatte, 0);
-  EXPECT_EQ(ultima, QStringLiteral("Verifica di TabInfo"));
+  EXPECT_EQ(ultima, "Verifica di TabInfo");
   EXPECT_EQ(File(), "archivio.mdb archivio.mdb.jet");
   EXPECT_TRUE(Byte(conservato_) == originale_);
   EXPECT_EQ(QFile::permissions(vecchio_) & QFile::ReadOther, QFile::Permissions());
-  ConfrontaTutto(OpenDatabase(vecchio_), QStringLiteral("consegna.mdb"));
+  ConfrontaTutto(OpenDatabase(vecchio_), "consegna.mdb");
 }
 
 TEST_F(Conversione, GoesOnAfterOneThatWasCutShortBetweenTheTwoNames) {
@@ -167,7 +161,7 @@ TEST_F(Conversione, GoesOnAfterOneThatWasCutShortBetweenTheTwoNames) {
   ConvertiInLoco(vecchio_);
   EXPECT_EQ(File(), "archivio.mdb archivio.mdb.jet");
   EXPECT_TRUE(Byte(conservato_) == originale_);
-  ConfrontaTutto(OpenDatabase(vecchio_), QStringLiteral("righe spostate.mdb"));
+  ConfrontaTutto(OpenDatabase(vecchio_), "righe spostate.mdb");
 }
 
 TEST_F(Conversione, ThroughALinkTheFileItselfIsConverted) {
@@ -190,7 +184,7 @@ TEST_F(Conversione, WhatCannotBeConvertedStaysAsItIs) {
   QFile::remove(conservato_);
 
   ScriviByte(nuovo_, QByteArray("altro"));
-  Fallisce(75, nuovo_ + QStringLiteral(" esiste già"), altrove);
+  Fallisce(75, nuovo_ + " esiste già", altrove);
   EXPECT_TRUE(Byte(nuovo_) == QByteArray("altro"));
   QFile::remove(nuovo_);
 
@@ -216,12 +210,12 @@ TEST_F(Conversione, AFileThatDoesNotCompareEqualIsNotDelivered) {
   Copia("consegna.mdb");
   const auto esegui = [](const char* istruzione) {
     return [istruzione](const Database& archivio) {
-      EXPECT_GT(archivio.Execute(QString::fromUtf8(istruzione)), 0) << istruzione;
+      EXPECT_GT(archivio.Execute(istruzione), 0) << istruzione;
     };
   };
   const auto aggiungi = [](const char* tabella) {
     return [tabella](const Database& archivio) {
-      Recordset righe = archivio.OpenRecordset(QLatin1String(tabella));
+      Recordset righe = archivio.OpenRecordset(tabella);
       righe.AddNew();
       righe.Update();
     };
@@ -240,10 +234,9 @@ TEST_F(Conversione, AFileThatDoesNotCompareEqualIsNotDelivered) {
     bool fatto = false;
     Fallisce(51, vecchio_, [&] {
       ConvertiInLoco(vecchio_, [&](const QString& cosa, int, int) {
-        if (fatto || !cosa.startsWith(QLatin1String("Verifica"))) return;
+        if (fatto || !cosa.startsWith("Verifica")) return;
         fatto = true;
-        const QStringList provvisori =
-            QDir(cartella_.path()).entryList({QStringLiteral("archivio.mdb.*")});
+        const QStringList provvisori = QDir(cartella_.path()).entryList({"archivio.mdb.*"});
         ASSERT_EQ(provvisori.size(), 1);
         danni[i](OpenDatabase(cartella_.filePath(provvisori.front())));
       });
@@ -252,32 +245,11 @@ TEST_F(Conversione, AFileThatDoesNotCompareEqualIsNotDelivered) {
   }
 }
 
-// For as long as it lives no file can grow over `limite`.
-class FilePiccoli {
- public:
-  explicit FilePiccoli(rlim_t limite) {
-    getrlimit(RLIMIT_FSIZE, &prima_);
-    const rlimit piccolo{limite, prima_.rlim_max};
-    segnale_ = std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &piccolo);
-  }
-  FilePiccoli(const FilePiccoli&) = delete;
-  FilePiccoli& operator=(const FilePiccoli&) = delete;
-  ~FilePiccoli() {
-    setrlimit(RLIMIT_FSIZE, &prima_);
-    (void)std::signal(SIGXFSZ, segnale_);
-  }
-
- private:
-  rlimit prima_{};
-  void (*segnale_)(int) = SIG_DFL;
-};
-
 TEST_F(Conversione, ADeviceThatFailsOnTheWayLeavesNothing) {
   Copia("consegna.mdb");
   for (const rlim_t limite : {0, 1000, 20000, 200000}) {
     SCOPED_TRACE(limite);
-    const FilePiccoli piccoli(limite);
+    const FileLimitati limitati(limite);
     Fallisce(57, vecchio_, [this] { ConvertiInLoco(vecchio_); });
     Fallisce(57, vecchio_, [this] { ConvertiJet(vecchio_, nuovo_); });
   }
@@ -290,8 +262,7 @@ TEST_F(Conversione, AFullDiskLeavesNothing) {
   if (mount("tmpfs", disco.constData(), "tmpfs", 0, "size=128k") != 0) {
     GTEST_SKIP() << "no right to mount a small disk";
   }
-  Fallisce(61, QStringLiteral("Liberare spazio"),
-           [this] { ConvertiJet(vecchio_, Nella("disco/nuovo.mdb")); });
+  Fallisce(61, "Liberare spazio", [this] { ConvertiJet(vecchio_, Nella("disco/nuovo.mdb")); });
   EXPECT_TRUE(QDir(Nella("disco")).isEmpty());
   EXPECT_EQ(umount(disco.constData()), 0);
 }
@@ -314,7 +285,7 @@ TEST_F(Conversione, AKillLosesNothing) {
     ASSERT_TRUE(WIFSIGNALED(esito));
     EXPECT_TRUE(Byte(vecchio_) == originale_);
     ConvertiInLoco(vecchio_);
-    ConfrontaTutto(OpenDatabase(vecchio_), QStringLiteral("consegna.mdb"));
+    ConfrontaTutto(OpenDatabase(vecchio_), "consegna.mdb");
     ASSERT_TRUE(QFile::remove(conservato_));
   }
 }

@@ -15,7 +15,7 @@ namespace {
 class RigheGuaste : public ::testing::Test {
  protected:
   void SetUp() override {
-    QDir(cartella.Percorso()).mkpath(QStringLiteral("dati"));
+    QDir(cartella.Percorso()).mkpath("dati");
     const QDir origine(CartellaDati());
     for (const QString& nome : origine.entryList()) {
       ScriviByte(Dati(nome), Byte(origine.filePath(nome)));
@@ -57,36 +57,32 @@ TEST_F(RigheGuaste, IlGuastoNominaFileERigaENullaAppare) {
   for (const Caso& caso : casi) {
     const QByteArray sano = Byte(Dati(caso.file));
     ScriviByte(Dati(caso.file), caso.contenuto);
-    try {
-      CreaMaster(cartella.Mdb(QStringLiteral("m.mdb")), Dati());
-      ADD_FAILURE() << caso.descrizione;
-    } catch (const ErroreEsecuzione& errore) {
-      EXPECT_EQ(errore.Numero(), caso.numero) << caso.descrizione;
-      EXPECT_TRUE(errore.Descrizione().endsWith(caso.descrizione)) << errore.what();
-    }
+    const QString errore = ErroreDi([&] { CreaMaster(cartella.Mdb("m.mdb"), Dati()); });
+    EXPECT_TRUE(errore.startsWith(QString::number(caso.numero)) &&
+                errore.endsWith(caso.descrizione))
+        << errore.toStdString();
     EXPECT_TRUE(QDir(cartella.Mdb({})).entryList(QDir::Files).isEmpty()) << caso.descrizione;
     ScriviByte(Dati(caso.file), sano);
   }
-  EXPECT_EQ(NumeroErrore([&] { CreaMaster(cartella.Mdb(QStringLiteral("m.mdb")), Dati()); }), 0);
+  EXPECT_EQ(NumeroErrore([&] { CreaMaster(cartella.Mdb("m.mdb"), Dati()); }), 0);
 }
 
 TEST_F(RigheGuaste, CelleTraVirgoletteVuoteENulle) {
-  ScriviByte(Dati(QStringLiteral("TabBib.csv")),
+  ScriviByte(Dati("TabBib.csv"),
              "IDBib,TipoBibliografia\r\n0,\"a \"\"b\"\", c\r\nd\"\r\n1,\"\"\r\n2,\r\n3,è");
-  CreaMaster(cartella.Mdb(QStringLiteral("m.mdb")), Dati());
-  const Database master = OpenDatabase(cartella.Mdb(QStringLiteral("m.mdb")));
+  CreaMaster(cartella.Mdb("m.mdb"), Dati());
+  const Database master = OpenDatabase(cartella.Mdb("m.mdb"));
   QList<Campo> letti;
-  for (Recordset righe = master.OpenRecordset(QStringLiteral("TabBib")); !righe.Eof();
-       righe.MoveNext()) {
+  for (Recordset righe = master.OpenRecordset("TabBib"); !righe.Eof(); righe.MoveNext()) {
     letti += righe.Fields("TipoBibliografia");
   }
   EXPECT_EQ(letti, (QList<Campo>{"a \"b\", c\nd", "", {}, "è"}));
 }
 
 TEST_F(RigheGuaste, UnFileDiRigheMancanteNonPassaInSilenzio) {
-  QFile::remove(Dati(QStringLiteral("TabStato.csv")));
-  EXPECT_EQ(NumeroErrore([&] { CreaMaster(cartella.Mdb(QStringLiteral("m.mdb")), Dati()); }), 53);
-  EXPECT_FALSE(QFile::exists(cartella.Mdb(QStringLiteral("m.mdb"))));
+  QFile::remove(Dati("TabStato.csv"));
+  EXPECT_EQ(NumeroErrore([&] { CreaMaster(cartella.Mdb("m.mdb"), Dati()); }), 53);
+  EXPECT_FALSE(QFile::exists(cartella.Mdb("m.mdb")));
 }
 
 }  // namespace

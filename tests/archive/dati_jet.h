@@ -16,7 +16,7 @@
 
 namespace torvi::prova {
 
-inline QDir CartellaJet() { return QDir(QStringLiteral(TORVI_RADICE "/../shared/jet")); }
+inline QDir CartellaJet() { return QDir(TORVI_RADICE "/../shared/jet"); }
 
 // What needs them is skipped where they are not.
 class FileGenuini : public testing::Test {
@@ -28,22 +28,19 @@ class FileGenuini : public testing::Test {
   }
 };
 
-inline QStringList FileJet() {
-  return CartellaJet().entryList({QStringLiteral("*.mdb")}, QDir::Files);
-}
+inline QStringList FileJet() { return CartellaJet().entryList({"*.mdb"}, QDir::Files); }
 
 // "consegna.mdb" and ".json" or ".schema.json": what the file beside it tells.
 inline QJsonObject Atteso(const QString& mdb, const char* genere) {
-  const QString nome = mdb.chopped(4) + QLatin1String(genere);
+  const QString nome = mdb.chopped(4) + genere;
   return QJsonDocument::fromJson(Byte(CartellaJet().filePath(nome))).object();
 }
 
 // A value as one string, so that differences can be read: Null, text and numbers never look alike.
 [[nodiscard]] inline QString Mostra(const QJsonValue& valore) {
-  static const QRegularExpression data(
-      QStringLiteral("^(\\d{4})-(\\d\\d)-(\\d\\d)T(\\d\\d:\\d\\d:\\d\\d)$"));
-  if (valore.isNull()) return QStringLiteral("Null");
-  if (valore.isBool()) return valore.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+  static const QRegularExpression data("^(\\d{4})-(\\d\\d)-(\\d\\d)T(\\d\\d:\\d\\d:\\d\\d)$");
+  if (valore.isNull()) return "Null";
+  if (valore.isBool()) return valore.toBool() ? "1" : "0";
   if (valore.isDouble()) return QString::number(valore.toDouble(), 'g', 15);
   const QString testo = valore.toString();
   const QRegularExpressionMatch trovata = data.match(testo);
@@ -51,11 +48,11 @@ inline QJsonObject Atteso(const QString& mdb, const char* genere) {
   const QString ora = trovata.captured(4);
   QString giorno = QLatin1Char('"') + trovata.captured(3) + QLatin1Char('/') + trovata.captured(2) +
                    QLatin1Char('/') + trovata.captured(1);
-  return ora == QLatin1String("00:00:00") ? giorno : giorno + QLatin1Char(' ') + ora;
+  return ora == "00:00:00" ? giorno : giorno + QLatin1Char(' ') + ora;
 }
 
 inline QString Mostra(const Campo& campo) {
-  if (campo.Nullo()) return QStringLiteral("Null");
+  if (campo.Nullo()) return "Null";
   if (const auto* testo = std::get_if<QString>(&campo.Grezzo())) return QLatin1Char('"') + *testo;
   return campo.Testo();
 }
@@ -66,7 +63,7 @@ using Righe = std::vector<std::string>;
 inline std::string Mostra(const std::vector<Campo>& riga) {
   QStringList valori;
   for (const Campo& campo : riga) valori += Mostra(campo);
-  return valori.join(QLatin1Char('|')).toStdString();
+  return valori.join('|').toStdString();
 }
 
 }  // namespace torvi::prova

@@ -19,30 +19,25 @@ class Esempio : public testing::Test {
  protected:
   static void SetUpTestSuite() {
     cartella_ = std::make_unique<CartellaDiProva>();
-    CreaCatalogo(cartella_->Mdb(QStringLiteral("catalogo norme.mdb")));
-    CreaEsempio(cartella_->Mdb(QStringLiteral("A01.MDB")), {}, kDocumentiEsempio);
+    CreaCatalogo(cartella_->Mdb("catalogo norme.mdb"));
+    CreaEsempio(cartella_->Mdb("A01.MDB"), {}, kDocumentiEsempio);
     StatoGlobale stato;
     stato.CartellaApplicazione = cartella_->Percorso();
-    stato.DbArchivio = OpenDatabase(cartella_->Mdb(QStringLiteral("A01.MDB")));
+    stato.DbArchivio = OpenDatabase(cartella_->Mdb("A01.MDB"));
     DialoghiScritti dialoghi;
-    dialoghi.AttendeDomanda(QStringLiteral("Controllo presenza fonti?"),
-                            QStringLiteral("Esportazione per ISIS"), Pulsanti::SiNo, Risposta::Si);
-    dialoghi.AttendeDomanda(QStringLiteral("Accodare risultato dell'esportazione?"),
-                            QStringLiteral("Esportazione"), Pulsanti::SiNo, Risposta::No);
+    dialoghi.AttendeDomanda("Controllo presenza fonti?", "Esportazione per ISIS", Pulsanti::SiNo,
+                            Risposta::Si);
+    dialoghi.AttendeDomanda("Accodare risultato dell'esportazione?", "Esportazione", Pulsanti::SiNo,
+                            Risposta::No);
     EsportaAscii(stato, dialoghi, kEsportaIsis);
   }
   static void TearDownTestSuite() { cartella_.reset(); }
 
-  static QString Uscita(const char* nome) {
-    return DaAnsi(Byte(cartella_->Dump(QString::fromLatin1(nome))));
-  }
+  static QString Uscita(const char* nome) { return DaAnsi(Byte(cartella_->Dump(nome))); }
   static QSet<QString> Valori(const QString& istruzione, const char* colonna) {
-    const Database archivio = OpenDatabase(cartella_->Mdb(QStringLiteral("A01.MDB")));
-    QSet<QString> valori;
-    for (Recordset righe = archivio.OpenRecordset(istruzione); !righe.Eof(); righe.MoveNext()) {
-      valori.insert(righe.Fields(colonna).TestoOVuoto());
-    }
-    return valori;
+    const QStringList righe =
+        RigheTesto(OpenDatabase(cartella_->Mdb("A01.MDB")), istruzione, {colonna});
+    return {righe.begin(), righe.end()};
   }
 
   static std::unique_ptr<CartellaDiProva> cartella_;
@@ -50,10 +45,10 @@ class Esempio : public testing::Test {
 std::unique_ptr<CartellaDiProva> Esempio::cartella_;
 
 TEST_F(Esempio, CitesEveryKindOfSource) {
-  const QSet<QString> citati =
-      Valori(QStringLiteral("select * from legameDocFonte, tabFonte where legameDocFonte.IDFnt = "
-                            "tabFonte.IDFonte"),
-             "TP");
+  const QSet<QString> citati = Valori(
+      "select * from legameDocFonte, tabFonte where legameDocFonte.IDFnt = "
+      "tabFonte.IDFonte",
+      "TP");
   const char* const kVocabolario =
       "LIC LIAB LICO LIO LIOA LIR LIP AC GICO GICD GICA GIO GIT GICC GIA GIQ GIB GIM GIAL GIS "
       "NIT NIA GEI NIC GEC NS GS FCC FCA FCG FSRG FSRP FSRE FSRL FSGG FSGP FSGE FSGL FSBG FSBP "
@@ -63,11 +58,11 @@ TEST_F(Esempio, CitesEveryKindOfSource) {
 }
 
 TEST_F(Esempio, HasEveryKindOfTextAndPair) {
-  EXPECT_EQ(Valori(QStringLiteral("select * from LegameDocTesto"), "Tipo").size(), 9);
-  EXPECT_EQ(Valori(QStringLiteral("select * from TabClasse2000"), "Check").size(), 4);
-  EXPECT_FALSE(Valori(QStringLiteral("select * from LegameDocClass1999"), "IDClass").isEmpty());
-  EXPECT_EQ(Valori(QStringLiteral("select * from LegameDocResp"), "flagAutore").size(), 2);
-  EXPECT_EQ(Valori(QStringLiteral("select * from TabResponsabilita"), "flagCollettivo").size(), 2);
+  EXPECT_EQ(Valori("select * from LegameDocTesto", "Tipo").size(), 9);
+  EXPECT_EQ(Valori("select * from TabClasse2000", "Check").size(), 4);
+  EXPECT_FALSE(Valori("select * from LegameDocClass1999", "IDClass").isEmpty());
+  EXPECT_EQ(Valori("select * from LegameDocResp", "flagAutore").size(), 2);
+  EXPECT_EQ(Valori("select * from TabResponsabilita", "flagCollettivo").size(), 2);
 }
 
 TEST_F(Esempio, MakesTheExportWriteEachOfItsMessages) {
@@ -97,48 +92,48 @@ TEST_F(Esempio, MakesTheExportWriteEachOfItsMessages) {
                                 "C'è abstract in inglese e manca traduzione del titolo: rec. ",
                                 "Manca fonte: ",
                                 "Manca classificazione: "}) {
-    EXPECT_TRUE(generici.contains(QString::fromUtf8(messaggio))) << messaggio;
+    EXPECT_TRUE(generici.contains(messaggio)) << messaggio;
   }
   const QString classi = Uscita("errClasse.A01");
   for (const char* messaggio :
        {"Coppia non valida (", "Coppia asteriscata valida (", "Coppia asteriscata non valida ("}) {
-    EXPECT_TRUE(classi.contains(QLatin1String(messaggio))) << messaggio;
+    EXPECT_TRUE(classi.contains(messaggio)) << messaggio;
   }
   const QString fonti = Uscita("errFonte.A01");
   for (const char* messaggio : {"Fonte TAR senza regione: ", "Fonte GICO con numero > 1000: ",
                                 "Fonte GICO/GICA senza numero: ", "Fonte errata: "}) {
-    EXPECT_TRUE(fonti.contains(QLatin1String(messaggio))) << messaggio;
+    EXPECT_TRUE(fonti.contains(messaggio)) << messaggio;
   }
   // Each is the work of one document: what is not spoiled on purpose is right.
-  EXPECT_EQ(fonti.count(QStringLiteral("\r\n")), 5) << fonti.toStdString();
+  EXPECT_EQ(fonti.count("\r\n"), 5) << fonti.toStdString();
 }
 
 TEST_F(Esempio, BeginsWithADocumentWithoutFaults) {
-  const QByteArray uscita = Byte(cartella_->Dump(QStringLiteral("lexxdump isis.A01")));
+  const QByteArray uscita = Byte(cartella_->Dump("lexxdump isis.A01"));
   EXPECT_TRUE(uscita.startsWith("2001A0012\r\n14\r\n 12001A0012\r\n 2AP=2001 NP=A0012\r\n"));
   for (const char* file : {"errori.A01", "errClasse.A01", "errFonte.A01"}) {
-    EXPECT_FALSE(Uscita(file).contains(QStringLiteral("2001A0012"))) << file;
+    EXPECT_FALSE(Uscita(file).contains("2001A0012")) << file;
   }
   EXPECT_EQ(uscita.count(" 2AP=2001 NP=A"), kDocumentiEsempio);
 }
 
 TEST_F(Esempio, IsTheSameForTheSameNumberWhateverTheMasterCameFrom) {
-  const QString master = cartella_->Mdb(QStringLiteral("master.mdb"));
+  const QString master = cartella_->Mdb("master.mdb");
   CreaMaster(master);
-  const QString dalMaster = cartella_->Mdb(QStringLiteral("1.mdb"));
-  const QString senzaMaster = cartella_->Mdb(QStringLiteral("2.mdb"));
+  const QString dalMaster = cartella_->Mdb("1.mdb");
+  const QString senzaMaster = cartella_->Mdb("2.mdb");
   CreaEsempio(dalMaster, master, 120);
-  CreaEsempio(senzaMaster, cartella_->Mdb(QStringLiteral("assente.mdb")), 120);
+  CreaEsempio(senzaMaster, cartella_->Mdb("assente.mdb"), 120);
   EXPECT_EQ(Byte(dalMaster), Byte(senzaMaster));
 }
 
 TEST_F(Esempio, LeavesAFileAndAnUnsuitableMasterAlone) {
-  const QString presente = cartella_->Mdb(QStringLiteral("presente.mdb"));
+  const QString presente = cartella_->Mdb("presente.mdb");
   ScriviByte(presente, "altro");
   EXPECT_EQ(NumeroErrore([&] { CreaEsempio(presente, {}, 1); }), 75);
   EXPECT_EQ(Byte(presente), "altro");
-  const QString nuovo = cartella_->Mdb(QStringLiteral("nuovo.mdb"));
-  const QString consegna = cartella_->Mdb(QStringLiteral("A01.MDB"));
+  const QString nuovo = cartella_->Mdb("nuovo.mdb");
+  const QString consegna = cartella_->Mdb("A01.MDB");
   EXPECT_EQ(NumeroErrore([&] { CreaEsempio(nuovo, consegna, 1); }), 3011);
   EXPECT_FALSE(QFile::exists(nuovo));
 }
@@ -146,15 +141,15 @@ TEST_F(Esempio, LeavesAFileAndAnUnsuitableMasterAlone) {
 // Counters of shared rows stay where the export can hold them, however many documents there are.
 TEST_F(Esempio, ExportsALongDeliveryWithoutARunTimeError) {
   CartellaDiProva cartella;
-  const QString percorso = cartella.Mdb(QStringLiteral("A01.MDB"));
-  CreaCatalogo(cartella.Mdb(QStringLiteral("catalogo norme.mdb")));
+  const QString percorso = cartella.Mdb("A01.MDB");
+  CreaCatalogo(cartella.Mdb("catalogo norme.mdb"));
   CreaEsempio(percorso, {}, 1500);
   for (const FlagEsportazione& flag : {kEsportaIsis, kEsportaCassazione, kEsportaStorico}) {
     StatoGlobale stato;
     stato.CartellaApplicazione = cartella.Percorso();
     stato.DbArchivio = OpenDatabase(percorso);
     stato.ModoBatch = true;
-    stato.FileBatch = cartella.Dump(QStringLiteral("lexxdump.bat"));
+    stato.FileBatch = cartella.Dump("lexxdump.bat");
     DialoghiScritti dialoghi;
     EXPECT_EQ(NumeroErrore([&] { EsportaAscii(stato, dialoghi, flag); }), 0);
     EXPECT_EQ(stato.ContatoreDoc, 1512);

@@ -16,7 +16,7 @@ class NuovoFile : public testing::Test {
     return QDir(cartella_.Percorso() + "/mdb").entryList(QDir::Files, QDir::Name);
   }
   CartellaDiProva cartella_;
-  QString destinazione_ = cartella_.Mdb(QStringLiteral("A01.MDB"));
+  QString destinazione_ = cartella_.Mdb("A01.MDB");
 };
 
 TEST_F(NuovoFile, LeavesNothingBehindUntilItIsComplete) {
@@ -48,18 +48,18 @@ TEST_F(NuovoFile, ReplacesOnlyWhereItIsToldTo) {
   file.Sostituisci();
   EXPECT_EQ(Byte(destinazione_), "nuovo");
   // The old journal would be played back into the new file.
-  EXPECT_EQ(Presenti(), QStringList{QStringLiteral("A01.MDB")});
+  EXPECT_EQ(Presenti(), QStringList{"A01.MDB"});
 }
 
 TEST_F(NuovoFile, StartsAsAWritableCopy) {
-  const QString master = cartella_.Mdb(QStringLiteral("master.mdb"));
+  const QString master = cartella_.Mdb("master.mdb");
   ScriviByte(master, "master");
   QFile::setPermissions(master, QFile::ReadOwner);
   FileNuovo file(destinazione_);
   file.Copia(master);
   EXPECT_EQ(Byte(file.Percorso()), "master");
   EXPECT_TRUE(QFile::permissions(file.Percorso()) & QFile::WriteOwner);
-  EXPECT_EQ(NumeroErrore([&] { file.Copia(cartella_.Mdb(QStringLiteral("assente.mdb"))); }), 53);
+  EXPECT_EQ(NumeroErrore([&] { file.Copia(cartella_.Mdb("assente.mdb")); }), 53);
 }
 
 TEST_F(NuovoFile, NeedsAFolderAndANameThatIsNoFolder) {

@@ -32,24 +32,23 @@ QMap<QString, Righe> LeggiTutto(const QString& percorso) {
 
 // "TEXT 255 default 0", as both sides tell a column.
 std::string Descrivi(const QJsonObject& colonna) {
-  QString testo = colonna[QLatin1String("name")].toString() + QLatin1Char(' ') +
-                  colonna[QLatin1String("type")].toString();
-  if (colonna.contains(QLatin1String("chars"))) {
-    testo += QLatin1Char(' ') + QString::number(colonna[QLatin1String("chars")].toInt());
+  QString testo = colonna["name"].toString() + QLatin1Char(' ') + colonna["type"].toString();
+  if (colonna.contains("chars")) {
+    testo += QLatin1Char(' ') + QString::number(colonna["chars"].toInt());
   }
-  if (colonna[QLatin1String("counter")].toBool()) testo += QLatin1String(" counter");
-  testo += QLatin1Char(' ') + colonna[QLatin1String("default")].toString();
+  if (colonna["counter"].toBool()) testo += " counter";
+  testo += QLatin1Char(' ') + colonna["default"].toString();
   return testo.toStdString();
 }
 
 std::string Descrivi(const Colonna& colonna) {
   const QMap<TipoColonna, QString> tipi = {
-      {TipoColonna::Contatore, QStringLiteral("LONG counter")},
-      {TipoColonna::Intero, QStringLiteral("LONG")},
+      {TipoColonna::Contatore, "LONG counter"},
+      {TipoColonna::Intero, "LONG"},
       {TipoColonna::Testo, QStringLiteral("TEXT %1").arg(colonna.larghezza)},
-      {TipoColonna::Memo, QStringLiteral("MEMO")},
-      {TipoColonna::Logico, QStringLiteral("BOOLEAN")},
-      {TipoColonna::Data, QStringLiteral("SHORT_DATE_TIME")}};
+      {TipoColonna::Memo, "MEMO"},
+      {TipoColonna::Logico, "BOOLEAN"},
+      {TipoColonna::Data, "SHORT_DATE_TIME"}};
   return QStringLiteral("%1 %2 %3")
       .arg(colonna.nome, tipi[colonna.tipo], colonna.predefinito)
       .toStdString();
@@ -57,7 +56,7 @@ std::string Descrivi(const Colonna& colonna) {
 
 std::string Descrivi(const QString& nome, const QStringList& colonne, bool unico) {
   return QStringLiteral("%1(%2)%3")
-      .arg(nome, colonne.join(QLatin1Char(',')), unico ? QStringLiteral(" unique") : QString())
+      .arg(nome, colonne.join(','), unico ? " unique" : QString())
       .toStdString();
 }
 
@@ -65,7 +64,7 @@ void ConfrontaSchema(const Tabella& tabella, const QJsonObject& atteso) {
   Righe colonne;
   Righe attese;
   for (const Colonna& colonna : tabella.colonne) colonne.push_back(Descrivi(colonna));
-  for (const auto colonna : atteso[QLatin1String("columns")].toArray()) {
+  for (const auto colonna : atteso["columns"].toArray()) {
     attese.push_back(Descrivi(colonna.toObject()));
   }
   EXPECT_EQ(colonne, attese);
@@ -74,11 +73,10 @@ void ConfrontaSchema(const Tabella& tabella, const QJsonObject& atteso) {
   for (const Indice& indice : tabella.indici) {
     indici.insert(Descrivi(indice.nome, indice.colonne, indice.unico));
   }
-  for (const auto valore : atteso[QLatin1String("indexes")].toArray()) {
+  for (const auto valore : atteso["indexes"].toArray()) {
     const QJsonObject indice = valore.toObject();
-    attesi.insert(Descrivi(indice[QLatin1String("name")].toString(),
-                           indice[QLatin1String("columns")].toVariant().toStringList(),
-                           indice[QLatin1String("unique")].toBool()));
+    attesi.insert(Descrivi(indice["name"].toString(), indice["columns"].toVariant().toStringList(),
+                           indice["unique"].toBool()));
   }
   EXPECT_EQ(indici, attesi);
 }
@@ -88,7 +86,7 @@ Righe RigheAttese(const Tabella& tabella, const QJsonArray& righe) {
   for (const auto riga : righe) {
     QStringList valori;
     for (const Colonna& colonna : tabella.colonne) valori += Mostra(riga.toObject()[colonna.nome]);
-    attese.push_back(valori.join(QLatin1Char('|')).toStdString());
+    attese.push_back(valori.join('|').toStdString());
   }
   return attese;
 }
@@ -107,10 +105,9 @@ TEST_F(Jet, EveryTableAndRowIsAsTheIndependentReaderSeesIt) {
       SCOPED_TRACE(qPrintable(tabella.nome));
       const QJsonObject atteso = schema[tabella.nome].toObject();
       ConfrontaSchema(tabella, atteso);
-      EXPECT_EQ(lettore.UltimoContatore(tabella.nome),
-                atteso[QLatin1String("lastCounter")].toInt());
+      EXPECT_EQ(lettore.UltimoContatore(tabella.nome), atteso["lastCounter"].toInt());
       const Righe lette = Leggi(lettore, tabella.nome);
-      EXPECT_EQ(lette.size(), static_cast<std::size_t>(atteso[QLatin1String("rows")].toInt()));
+      EXPECT_EQ(lette.size(), static_cast<std::size_t>(atteso["rows"].toInt()));
       EXPECT_EQ(lette, RigheAttese(tabella, righe[tabella.nome].toArray()));
     }
   }
@@ -127,11 +124,11 @@ TEST_F(Jet, DatesWithTimesAndFromBeforeTheFirst) {
     const char* testo;  // empty: no date
   };
   const double nessuno = std::numeric_limits<double>::quiet_NaN();
-  const QByteArray contenuto = Byte(CartellaJet().filePath(QStringLiteral("righe spostate.mdb")));
+  const QByteArray contenuto = Byte(CartellaJet().filePath("righe spostate.mdb"));
   const QByteArray vera = Ottetti(-16278.0);
   ASSERT_GT(contenuto.count(vera), 0);
   const QTemporaryDir cartella;
-  const QString copia = cartella.filePath(QStringLiteral("date.mdb"));
+  const QString copia = cartella.filePath("date.mdb");
   for (const Caso& caso :
        {Caso{0, "30/12/1899"}, Caso{0.5, "30/12/1899 12:00:00"}, Caso{-1.25, "29/12/1899 06:00:00"},
         Caso{36526.99999, "01/01/2000 23:59:59"}, Caso{36526.999998, "02/01/2000"},
@@ -143,7 +140,7 @@ TEST_F(Jet, DatesWithTimesAndFromBeforeTheFirst) {
     const LettoreJet lettore(copia);
     QString letta;
     const auto leggi = [&] {
-      lettore.LeggiRighe(QStringLiteral("Righe"), [&](const std::vector<Campo>& riga) {
+      lettore.LeggiRighe("Righe", [&](const std::vector<Campo>& riga) {
         if (riga[0] == Campo(5)) letta = riga[3].Testo();
       });
     };
@@ -172,7 +169,7 @@ TEST_F(Jet, EveryTypeOfColumnIsRead) {
     const char* valore;
   };
   const QTemporaryDir cartella;
-  const QString copia = cartella.filePath(QStringLiteral("tipi.mdb"));
+  const QString copia = cartella.filePath("tipi.mdb");
   for (const Caso& caso : {
            Caso{"chiavi testo.mdb", "Chiavi", 3, 2, 2, 3, "255"},
            Caso{"chiavi testo.mdb", "Chiavi", 3, 2, 3, 5, "-1"},
@@ -188,12 +185,12 @@ TEST_F(Jet, EveryTypeOfColumnIsRead) {
                 "\"-4277635217857316230765957884030963.7231"},
        }) {
     SCOPED_TRACE(testing::Message() << caso.file << ' ' << caso.tipo);
-    QByteArray contenuto = Byte(CartellaJet().filePath(QLatin1String(caso.file)));
+    QByteArray contenuto = Byte(CartellaJet().filePath(caso.file));
     contenuto[PostoDelTipo(contenuto, caso.colonne, caso.colonna)] = static_cast<char>(caso.tipo);
     ScriviByte(copia, contenuto);
     const LettoreJet lettore(copia);
     Righe valori;
-    lettore.LeggiRighe(QLatin1String(caso.tabella), [&](const std::vector<Campo>& riga) {
+    lettore.LeggiRighe(caso.tabella, [&](const std::vector<Campo>& riga) {
       valori.push_back(Mostra(riga[caso.colonna]).toStdString());
     });
     ASSERT_GT(valori.size(), caso.riga);
@@ -220,11 +217,11 @@ TEST_F(Jet, DefaultsAreKeptAsLiterals) {
     const char* valore;
     const char* letterale;
   };
-  const QByteArray contenuto = Byte(CartellaJet().filePath(QStringLiteral("consegna.mdb")));
-  const QByteArray vera = Proprieta(QStringLiteral("IDClasse2000-D"), QStringLiteral("0"));
+  const QByteArray contenuto = Byte(CartellaJet().filePath("consegna.mdb"));
+  const QByteArray vera = Proprieta("IDClasse2000-D", "0");
   ASSERT_EQ(contenuto.count(vera), 1);
   const QTemporaryDir cartella;
-  const QString copia = cartella.filePath(QStringLiteral("predefiniti.mdb"));
+  const QString copia = cartella.filePath("predefiniti.mdb");
   for (const Caso& caso :
        {Caso{"\"it's\"", "'it''s'"}, Caso{"=\"a\"\"b\"", "'a\"b'"}, Caso{"\"\"", "''"},
         Caso{"\"", ""}, Caso{"-3.5", "-3.5"}, Caso{"= 12", "12"}, Caso{"1e5", ""},
@@ -232,20 +229,20 @@ TEST_F(Jet, DefaultsAreKeptAsLiterals) {
         Caso{"Date()", ""}}) {
     SCOPED_TRACE(caso.valore);
     const QString valore = QString::fromUtf8(caso.valore).leftJustified(10);
-    const QByteArray altra = Proprieta(QStringLiteral("Check"), valore);
+    const QByteArray altra = Proprieta("Check", valore);
     ASSERT_EQ(altra.size(), vera.size());
     ScriviByte(copia, QByteArray(contenuto).replace(vera, altra));
     const LettoreJet lettore(copia);
     for (const Tabella& tabella : lettore.Tabelle()) {
       for (const Colonna& colonna : tabella.colonne) {
-        const bool questa = colonna.nome == QLatin1String("Check");
+        const bool questa = colonna.nome == "Check";
         EXPECT_EQ(colonna.predefinito.toStdString(), questa ? caso.letterale : "");
       }
     }
   }
   // What cannot be made out is no reason to refuse a file whose rows are whole.
   ScriviByte(copia, QByteArray(contenuto).replace(vera, QByteArray(vera.size(), '\xff')));
-  EXPECT_EQ(LeggiTutto(copia), LeggiTutto(CartellaJet().filePath(QStringLiteral("consegna.mdb"))));
+  EXPECT_EQ(LeggiTutto(copia), LeggiTutto(CartellaJet().filePath("consegna.mdb")));
 }
 
 // Reads a damaged file. Either it reads, or error 3343 names it; the rows read, none after an
@@ -263,10 +260,10 @@ QMap<QString, Righe> LeggiDanneggiato(const QString& percorso) {
 TEST_F(Jet, ATruncatedFileIsRefusedUnlessItLostNoRow) {
   const QTemporaryDir cartella;
   for (const char* nome : {"righe spostate.mdb", "consegna.mdb"}) {
-    const QString genuino = CartellaJet().filePath(QLatin1String(nome));
+    const QString genuino = CartellaJet().filePath(nome);
     const QByteArray contenuto = Byte(genuino);
     const auto righe = LeggiTutto(genuino);
-    const QString copia = cartella.filePath(QStringLiteral("troncato.mdb"));
+    const QString copia = cartella.filePath("troncato.mdb");
     int rifiutati = 0;
     QList<qsizetype> lunghezze = {0, 1, 4, 19, 20, 21, 4095, 4096, 4097, contenuto.size() - 1};
     for (qsizetype n = 8192; n < contenuto.size(); n += 4096) lunghezze += n;
@@ -284,12 +281,12 @@ TEST_F(Jet, ATruncatedFileIsRefusedUnlessItLostNoRow) {
 
 TEST_F(Jet, FlippedBitsNeverCrashTheReader) {
   const QTemporaryDir cartella;
-  const QString copia = cartella.filePath(QStringLiteral("guasto.mdb"));
+  const QString copia = cartella.filePath("guasto.mdb");
   std::mt19937 caso(20010412);
   int rifiutati = 0;
   for (const char* nome :
        {"righe spostate.mdb", "catalogo norme data.mdb", "classificazione.mdb"}) {
-    const QByteArray contenuto = Byte(CartellaJet().filePath(QLatin1String(nome)));
+    const QByteArray contenuto = Byte(CartellaJet().filePath(nome));
     for (int i = 0; i < 150; ++i) {
       SCOPED_TRACE(i);
       QByteArray guasto = contenuto;

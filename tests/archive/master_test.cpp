@@ -44,14 +44,13 @@ class Master : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
     cartella = std::make_unique<CartellaDiProva>();
-    CreaMaster(cartella->Mdb(QStringLiteral("master.mdb")));
-    CreaCatalogo(cartella->Mdb(QStringLiteral("catalogo norme.mdb")));
+    CreaMaster(cartella->Mdb("master.mdb"));
+    CreaCatalogo(cartella->Mdb("catalogo norme.mdb"));
   }
   static void TearDownTestSuite() { cartella.reset(); }
   void SetUp() override {
-    master = OpenDatabase(cartella->Mdb(QStringLiteral("master.mdb")), Accesso::SolaLettura);
-    catalogo =
-        OpenDatabase(cartella->Mdb(QStringLiteral("catalogo norme.mdb")), Accesso::SolaLettura);
+    master = OpenDatabase(cartella->Mdb("master.mdb"), Accesso::SolaLettura);
+    catalogo = OpenDatabase(cartella->Mdb("catalogo norme.mdb"), Accesso::SolaLettura);
   }
 
   static std::unique_ptr<CartellaDiProva> cartella;
@@ -69,8 +68,8 @@ TEST_F(Master, LeTabelleDeiDocumentiSonoVuoteELeAltrePiene) {
     EXPECT_EQ(master.OpenRecordset(tabella).Eof(), vuote.contains(tabella))
         << tabella.toStdString();
   }
-  QFile::copy(cartella->Mdb(QStringLiteral("master.mdb")), cartella->Mdb(QStringLiteral("A.mdb")));
-  const Database copia = OpenDatabase(cartella->Mdb(QStringLiteral("A.mdb")));
+  QFile::copy(cartella->Mdb("master.mdb"), cartella->Mdb("A.mdb"));
+  const Database copia = OpenDatabase(cartella->Mdb("A.mdb"));
   for (const char* tabella : {"TabDocumento", "TabRifBibl", "TabTesto", "TabResponsabilita",
                               "TabClasse2000", "TabFonte"}) {
     EXPECT_EQ(Aggiungi(copia, tabella, {}), 1) << tabella;
@@ -108,15 +107,13 @@ TEST_F(Master, LeChiaviFisseSonoAlLoroPosto) {
 // The combos of the document form take the place of a code for its value.
 TEST_F(Master, ICodiciDelDocumentoSonoInOrdine) {
   const auto codici = [&](const char* tabella, const char* colonna) {
-    return Valori(master, tabella, colonna).join(QLatin1Char(' '));
+    return Valori(master, tabella, colonna).join(' ');
   };
   EXPECT_EQ(codici("TabBib", "IDBib"), "0 1 2 3 4");
   EXPECT_EQ(codici("TabTipoDoc", "IDTD"), "01 02 03 04 05 06 07 08 09");
   EXPECT_EQ(codici("TabTAbs", "IDTAbs"), "400 500 600 700 800 900");
-  EXPECT_EQ(Righe(master, QStringLiteral("TabLingua")).front()[QStringLiteral("idLingua")],
-            Campo("00"));
-  EXPECT_EQ(Righe(master, QStringLiteral("TabLingua")).front()[QStringLiteral("Lingua")],
-            Campo("italiano"));
+  EXPECT_EQ(Righe(master, "TabLingua").front()["idLingua"], Campo("00"));
+  EXPECT_EQ(Righe(master, "TabLingua").front()["Lingua"], Campo("italiano"));
 }
 
 // Names that the entry of sources compares to the character.
@@ -162,8 +159,7 @@ TEST_F(Master, INomiCheLImmissioneConosceCiSono) {
   };
   for (const Caso& caso : casi) {
     const QString tabella = caso.tabella;
-    const QString colonna =
-        tabella == QLatin1String("TabFonteInterna") ? QStringLiteral("FonteNorm") : tabella.mid(3);
+    const QString colonna = tabella == "TabFonteInterna" ? "FonteNorm" : tabella.mid(3);
     QStringList offerti;
     Recordset righe = master.OpenRecordset(
         QStringLiteral("select * from %1 where %2").arg(tabella, caso.condizione));
@@ -201,50 +197,48 @@ TEST_F(Master, INomiNonSiRipetono) {
 
 TEST_F(Master, LeRegioniSonoQuelleDellElencoDiScelta) {
   QStringList voci;
-  for (const Riga& riga : Righe(master, QStringLiteral("TabRegione"))) {
+  for (const Riga& riga : Righe(master, "TabRegione")) {
     voci += riga["CodRegione"].Testo() + " - " + riga["regione"].Testo();
   }
-  EXPECT_EQ(voci.join(QStringLiteral(", ")),
+  EXPECT_EQ(voci.join(", "),
             "AB - Abruzzo, BA - Basilicata, CL - Calabria, CM - Campania, ER - Emilia Romagna, "
             "FV - Friuli Venezia Giulia, LA - Lazio, LI - Liguria, LO - Lombardia, MA - Marche, "
             "MO - Molise, PI - Piemonte, PU - Puglia, SA - Sardegna, SI - Sicilia, TO - Toscana, "
             "TA - Trentino Alto Adige, UM - Umbria, VA - Valle d'Aosta, VE - Veneto");
-  const QStringList province = Valori(master, QStringLiteral("TabProvincia"), "CodProvincia");
-  EXPECT_TRUE(province.contains(QStringLiteral("BZ")) && province.contains(QStringLiteral("TN")));
+  const QStringList province = Valori(master, "TabProvincia", "CodProvincia");
+  EXPECT_TRUE(province.contains("BZ") && province.contains("TN"));
   for (const QString& codice : province) EXPECT_EQ(codice.size(), 2) << codice.toStdString();
 }
 
 // An act with a place in its citation needs a template with a place holder for it, or none.
 TEST_F(Master, IModelliDegliIdentificatoriSonoBenFormati) {
   static const QRegularExpression forma(
-      QStringLiteral("^urn:nir:(stato|ministero|camera\\.deputati|senato\\.repubblica|"
-                     "consiglio\\.ministri|presidente\\.consiglio\\.ministri|"
-                     "regione\\.xxx|provincia\\.xxx):[a-z]+(\\.[a-z]+)*"
-                     "(:\\d{4}-\\d\\d-\\d\\d%3b\\d+)?$"));
-  for (const Riga& riga : Righe(master, QStringLiteral("TabFonteInterna"))) {
+      "^urn:nir:(stato|ministero|camera\\.deputati|senato\\.repubblica|"
+      "consiglio\\.ministri|presidente\\.consiglio\\.ministri|"
+      "regione\\.xxx|provincia\\.xxx):[a-z]+(\\.[a-z]+)*"
+      "(:\\d{4}-\\d\\d-\\d\\d%3b\\d+)?$");
+  for (const Riga& riga : Righe(master, "TabFonteInterna")) {
     const QString nome = riga["FonteNorm"].Testo();
     const QString modello = riga["URN"].TestoOVuoto();
     if (modello.isEmpty()) continue;
     EXPECT_TRUE(forma.match(modello).hasMatch()) << modello.toStdString();
     EXPECT_NE(riga["liv1"].Testo(), "3") << nome.toStdString();
     const QString liv2 = riga["liv2"].TestoOVuoto();
-    const bool regionale =
-        liv2 == QLatin1String("3") || (liv2 == QLatin1String("8") && nome.endsWith("r."));
-    const bool provinciale =
-        liv2 == QLatin1String("2") || (liv2 == QLatin1String("8") && !nome.endsWith("r."));
-    EXPECT_EQ(modello.contains(QLatin1String("regione.xxx")), regionale) << nome.toStdString();
-    EXPECT_EQ(modello.contains(QLatin1String("provincia.xxx")), provinciale) << nome.toStdString();
+    const bool regionale = liv2 == "3" || (liv2 == "8" && nome.endsWith("r."));
+    const bool provinciale = liv2 == "2" || (liv2 == "8" && !nome.endsWith("r."));
+    EXPECT_EQ(modello.contains("regione.xxx"), regionale) << nome.toStdString();
+    EXPECT_EQ(modello.contains("provincia.xxx"), provinciale) << nome.toStdString();
   }
 }
 
 // The save of a treaty seeks its text, from its kind on, among the international sources.
 TEST_F(Master, OgniTrattatoHaLaSuaFonte) {
-  Recordset fonti = master.OpenRecordset(QStringLiteral("TabFonteInt"));
+  Recordset fonti = master.OpenRecordset("TabFonteInt");
   fonti.Index("Fonte");
-  for (const Riga& riga : Righe(master, QStringLiteral("TabNIT"))) {
+  for (const Riga& riga : Righe(master, "TabNIT")) {
     const QString fonte = riga["fonte"].Testo();
-    EXPECT_TRUE(fonte.startsWith(riga["nit"].Testo() + QLatin1Char(' '))) << fonte.toStdString();
-    EXPECT_TRUE(QDate::fromString(riga["data"].Testo(), QStringLiteral("dd/MM/yyyy")).isValid())
+    EXPECT_TRUE(fonte.startsWith(riga["nit"].Testo() + ' ')) << fonte.toStdString();
+    EXPECT_TRUE(QDate::fromString(riga["data"].Testo(), "dd/MM/yyyy").isValid())
         << fonte.toStdString();
     fonti.Seek(fonte);
     ASSERT_FALSE(fonti.NoMatch()) << fonte.toStdString();
@@ -255,7 +249,7 @@ TEST_F(Master, OgniTrattatoHaLaSuaFonte) {
 
 TEST_F(Master, LeFontiEuropeeHannoQuelloCheServeAlLoroNumero) {
   const QMap<QString, QString> codici = {{"3", "RLDHSEF"}, {"6", "JAF"}};
-  for (const Riga& riga : Righe(master, QStringLiteral("TabFonteCom"))) {
+  for (const Riga& riga : Righe(master, "TabFonteCom")) {
     const QString nome = riga["FonteCom"].Testo();
     const QString settore = riga["Settore"].TestoOVuoto();
     const QString codice = riga["Codice"].TestoOVuoto();
@@ -270,21 +264,21 @@ TEST_F(Master, LeFontiEuropeeHannoQuelloCheServeAlLoroNumero) {
 }
 
 TEST_F(Master, LeCoppieDellaClassificazioneNominanoCodiciEsistenti) {
-  const QStringList sistematici = Valori(master, QStringLiteral("TabClasse2000-S"), "CodiceS");
-  const QStringList descrittori = Valori(master, QStringLiteral("TabClasse2000-D"), "CodiceD");
+  const QStringList sistematici = Valori(master, "TabClasse2000-S", "CodiceS");
+  const QStringList descrittori = Valori(master, "TabClasse2000-D", "CodiceD");
   EXPECT_GE(sistematici.size(), 100);
   EXPECT_GE(descrittori.size(), 300);
   for (const QString& codice : sistematici + descrittori) EXPECT_EQ(codice.size(), 5);
   const QSet<QString> s(sistematici.begin(), sistematici.end());
   const QSet<QString> d(descrittori.begin(), descrittori.end());
-  for (const Riga& riga : Righe(master, QStringLiteral("TabLegameDS"))) {
+  for (const Riga& riga : Righe(master, "TabLegameDS")) {
     EXPECT_TRUE(s.contains(riga["NS"].Testo()) && d.contains(riga["nD"].Testo()))
         << riga["NS"].Testo().toStdString() << riga["nD"].Testo().toStdString();
   }
-  for (const Riga& riga : Righe(master, QStringLiteral("TabLegameDSA"))) {
+  for (const Riga& riga : Righe(master, "TabLegameDSA")) {
     const QString termine = riga["nD"].Testo();
     EXPECT_TRUE(s.contains(riga["NS"].Testo())) << riga["NS"].Testo().toStdString();
-    EXPECT_TRUE(termine.startsWith(QLatin1Char('*'))) << termine.toStdString();
+    EXPECT_TRUE(termine.startsWith('*')) << termine.toStdString();
     // The decoders would take the first characters for a descriptor's code.
     EXPECT_FALSE(d.contains(termine.left(5))) << termine.toStdString();
   }
@@ -293,13 +287,12 @@ TEST_F(Master, LeCoppieDellaClassificazioneNominanoCodiciEsistenti) {
 // A root code has no parent to show, any other is found only together with its parent.
 TEST_F(Master, LAlberoDellaClassificazioneAnterioreHaSoloRamiVivi) {
   QMap<qint64, QString> codici;
-  for (const Riga& riga : Righe(master, QStringLiteral("TabClasse1999"))) {
+  for (const Riga& riga : Righe(master, "TabClasse1999")) {
     codici[riga["IDClasse1999"].Intero()] = riga["Codice"].Testo();
   }
-  for (const Riga& riga : Righe(master, QStringLiteral("TabClasse1999"))) {
+  for (const Riga& riga : Righe(master, "TabClasse1999")) {
     const QString codice = riga["Codice"].Testo();
-    const bool radice =
-        codice.size() == 2 || (codice.size() == 3 && codice.startsWith(QLatin1String("D9")));
+    const bool radice = codice.size() == 2 || (codice.size() == 3 && codice.startsWith("D9"));
     ASSERT_EQ(riga["ID_PADRE"].Nullo(), radice) << codice.toStdString();
     if (!radice) {
       EXPECT_EQ(codici[riga["ID_PADRE"].Intero()], codice.chopped(1));
@@ -308,10 +301,10 @@ TEST_F(Master, LAlberoDellaClassificazioneAnterioreHaSoloRamiVivi) {
 }
 
 TEST_F(Master, LeRivisteHannoSigleDiDueAQuattroLettereEUnaPeriodicita) {
-  static const QRegularExpression sigla(QStringLiteral("^[A-Z]{2,4}$"));
-  const QStringList periodicita = Valori(master, QStringLiteral("TabPeriodicita"), "IDPeriodicita");
-  EXPECT_TRUE(periodicita.contains(QStringLiteral("9")));
-  for (const Riga& riga : Righe(master, QStringLiteral("TabRivista"))) {
+  static const QRegularExpression sigla("^[A-Z]{2,4}$");
+  const QStringList periodicita = Valori(master, "TabPeriodicita", "IDPeriodicita");
+  EXPECT_TRUE(periodicita.contains("9"));
+  for (const Riga& riga : Righe(master, "TabRivista")) {
     EXPECT_TRUE(sigla.match(riga["CPER"].Testo()).hasMatch()) << riga["CPER"].Testo().toStdString();
     EXPECT_TRUE(periodicita.contains(riga["IDPeriodicita"].Testo()));
   }
@@ -324,7 +317,7 @@ TEST_F(Master, TuttoSiScriveNellePagineDiCodice) {
         for (const Campo& campo : riga) {
           const QString testo = campo.TestoOVuoto();
           EXPECT_EQ(DaAnsi(ConvertiAnsi(testo)), testo) << tabella.toStdString();
-          EXPECT_EQ(ConvertiOem(testo).count('?'), testo.count(QLatin1Char('?')));
+          EXPECT_EQ(ConvertiOem(testo).count('?'), testo.count('?'));
         }
       }
     }
@@ -336,12 +329,11 @@ TEST_F(Master, IlCatalogoDelleNormeECoerente) {
       {"l.cost.", "l. cost."}, {"dir.p.c.m.", "dir. p.c.m."}, {"d.lgs.", "d.lg."}};
   const QStringList mesi = {"gennaio", "febbraio", "marzo",     "aprile",  "maggio",   "giugno",
                             "luglio",  "agosto",   "settembre", "ottobre", "novembre", "dicembre"};
-  const QList<Riga> righe = Righe(catalogo, QStringLiteral("tabCatalogo"));
+  const QList<Riga> righe = Righe(catalogo, "tabCatalogo");
   EXPECT_GE(righe.size(), 250);
   for (const Riga& riga : righe) {
     const QString estremi = riga["estremi"].Testo();
-    const QDate data =
-        QDate::fromString(riga["promulgazione"].Testo(), QStringLiteral("dd/MM/yyyy"));
+    const QDate data = QDate::fromString(riga["promulgazione"].Testo(), "dd/MM/yyyy");
     ASSERT_TRUE(data.isValid()) << estremi.toStdString();
     EXPECT_EQ(riga["anno"], Campo(data.year())) << estremi.toStdString();
     const QString abbreviazione = riga["abbreviazione"].Testo();
@@ -353,18 +345,17 @@ TEST_F(Master, IlCatalogoDelleNormeECoerente) {
     if (!riga["numero"].Nullo()) attesi += QLatin1String(", n. ") + riga["numero"].Testo();
     EXPECT_EQ(estremi, attesi);
   }
-  const QStringList chiavi = Valori(catalogo, QStringLiteral("tabCatalogo"), "pd");
-  for (const QString& pd : Valori(catalogo, QStringLiteral("PD"), QStringLiteral("pd"))) {
+  const QStringList chiavi = Valori(catalogo, "tabCatalogo", "pd");
+  for (const QString& pd : Valori(catalogo, "PD", "pd")) {
     EXPECT_TRUE(chiavi.contains(pd)) << pd.toStdString();
   }
-  EXPECT_TRUE(catalogo.OpenRecordset(QStringLiteral("tabCatalogoRidotta")).Eof());
+  EXPECT_TRUE(catalogo.OpenRecordset("tabCatalogoRidotta").Eof());
 }
 
 TEST_F(Master, LaStessaRicettaDaGliStessiByte) {
-  CreaMaster(cartella->Mdb(QStringLiteral("secondo.mdb")));
-  EXPECT_EQ(Byte(cartella->Mdb(QStringLiteral("secondo.mdb"))),
-            Byte(cartella->Mdb(QStringLiteral("master.mdb"))));
-  EXPECT_EQ(NumeroErrore([&] { CreaMaster(cartella->Mdb(QStringLiteral("secondo.mdb"))); }), 75);
+  CreaMaster(cartella->Mdb("secondo.mdb"));
+  EXPECT_EQ(Byte(cartella->Mdb("secondo.mdb")), Byte(cartella->Mdb("master.mdb")));
+  EXPECT_EQ(NumeroErrore([&] { CreaMaster(cartella->Mdb("secondo.mdb")); }), 75);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace {
 class RecordsetTest : public testing::Test {
  protected:
   qint64 Sezione(const char* sigla, const char* nome) {
-    return Aggiungi(db_, QStringLiteral("TabSezione"), {{"sigla", sigla}, {"sezione", nome}});
+    return Aggiungi(db_, "TabSezione", {{"sigla", sigla}, {"sezione", nome}});
   }
   // The codes in the order of the moves.
   static QString Codici(Recordset& righe, bool avanti = true) {
@@ -58,8 +58,8 @@ TEST_F(RecordsetTest, SiMuoveAvantiEIndietroNellOrdineDeiPosti) {
 
 TEST_F(RecordsetTest, UnIndiceOrdinaIMovimentiESenzaRiguardoAlleMaiuscole) {
   for (const char* sigla : {"ZZ", "aa", "MM", "AA"}) Sezione(sigla, "t");
-  Aggiungi(db_, QStringLiteral("TabSezione"), {{"sezione", "senza codice"}});
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  Aggiungi(db_, "TabSezione", {{"sezione", "senza codice"}});
+  Recordset righe = db_.OpenRecordset("TabSezione");
   righe.Index("sigla");
   EXPECT_EQ(" aa AA MM ZZ", Codici(righe));
   righe.MovePrevious();
@@ -70,7 +70,7 @@ TEST_F(RecordsetTest, UnIndiceOrdinaIMovimentiESenzaRiguardoAlleMaiuscole) {
 TEST_F(RecordsetTest, SeekTrovaLaPrimaDelleUgualiOMancaEAllorNonCERiga) {
   Sezione("RGI", "prima");
   const qint64 doppia = Sezione("rgi", "seconda");
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  Recordset righe = db_.OpenRecordset("TabSezione");
   righe.Index("Sigla");
   righe.Seek("Rgi");
   ASSERT_FALSE(righe.NoMatch());
@@ -83,8 +83,8 @@ TEST_F(RecordsetTest, SeekTrovaLaPrimaDelleUgualiOMancaEAllorNonCERiga) {
   righe.Index("PrimaryKey");
   righe.Seek(QString::number(doppia));
   EXPECT_EQ("seconda", righe.Fields("sezione").Testo());
-  Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "07"}, {"Lingua", "sardo"}});
-  Recordset lingue = db_.OpenRecordset(QStringLiteral("TabLingua"));
+  Aggiungi(db_, "TabLingua", {{"idLingua", "07"}, {"Lingua", "sardo"}});
+  Recordset lingue = db_.OpenRecordset("TabLingua");
   lingue.Index("PrimaryKey");
   lingue.Seek("07");
   EXPECT_EQ("sardo", lingue.Fields("lingua").Testo());
@@ -92,7 +92,7 @@ TEST_F(RecordsetTest, SeekTrovaLaPrimaDelleUgualiOMancaEAllorNonCERiga) {
 
 TEST_F(RecordsetTest, AddNewLasciaLaRigaCorrenteELastModifiedLaNuova) {
   Sezione("A", "uno");
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  Recordset righe = db_.OpenRecordset("TabSezione");
   righe.AddNew();
   righe.Assegna("sigla", "B");
   EXPECT_EQ("B", righe.Fields("Sigla").Testo());
@@ -113,12 +113,12 @@ TEST_F(RecordsetTest, EditCambiaSoloCioCheSiAssegna) {
     Recordset righe = db_.OpenRecordset(origine);
     if (righe.Fields("sigla").Testo() != "B") righe.MoveNext();
     righe.Edit();
-    righe.Assegna("sezione", QStringLiteral("L'«àncora» \"x\""));
+    righe.Assegna("sezione", "L'«àncora» \"x\"");
     righe.Update();
-    EXPECT_EQ(QStringLiteral("L'«àncora» \"x\""), righe.Fields("sezione").Testo()) << origine;
+    EXPECT_EQ("L'«àncora» \"x\"", righe.Fields("sezione").Testo()) << origine;
     EXPECT_EQ("B", righe.Fields("sigla").Testo()) << origine;
   }
-  Recordset tutte = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  Recordset tutte = db_.OpenRecordset("TabSezione");
   EXPECT_EQ("uno", tutte.Fields("sezione").Testo());
 }
 
@@ -131,48 +131,47 @@ TEST_F(RecordsetTest, DeleteToglieLaRigaEIlPassoSeguenteVaAllaSuccessiva) {
     righe.MoveNext();
     EXPECT_NE("A", righe.Fields("sigla").Testo()) << origine;
   }
-  Recordset restano = db_.OpenRecordset(QStringLiteral("TabSezione"));
+  Recordset restano = db_.OpenRecordset("TabSezione");
   EXPECT_EQ("C", Codici(restano));
 }
 
 TEST_F(RecordsetTest, UnNumeroCancellatoNonTornaPiu) {
   Sezione("A", "t");
   const qint64 ultimo = Sezione("B", "t");
-  db_.Execute(QStringLiteral("delete * from TabSezione where sigla = 'B'"));
+  db_.Execute("delete * from TabSezione where sigla = 'B'");
   EXPECT_EQ(ultimo + 1, Sezione("C", "t"));
 }
 
 TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
   Sezione("A", "t");
-  Recordset unione = db_.OpenRecordset(QStringLiteral("select * from TabSezione, TabPeriodicita"));
-  Recordset righe = db_.OpenRecordset(QStringLiteral("TabSezione"));
-  Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}});
+  Recordset unione = db_.OpenRecordset("select * from TabSezione, TabPeriodicita");
+  Recordset righe = db_.OpenRecordset("TabSezione");
+  Aggiungi(db_, "TabLingua", {{"idLingua", "00"}});
   const struct {
     int numero;
     std::function<void()> azione;
   } casi[] = {
       {3265, [&] { (void)righe.Fields("Manca"); }},
-      {3078, [&] { (void)db_.OpenRecordset(QStringLiteral("TabManca")); }},
-      {3078, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabManca")); }},
-      {3061,
-       [&] { (void)db_.OpenRecordset(QStringLiteral("select * from TabSezione where x = 1")); }},
-      {3075, [&] { (void)db_.OpenRecordset(QStringLiteral("select * from where")); }},
-      {3075, [&] { db_.Execute(QStringLiteral("delete * from TabSezione where sigla = 'A")); }},
+      {3078, [&] { (void)db_.OpenRecordset("TabManca"); }},
+      {3078, [&] { (void)db_.OpenRecordset("select * from TabManca"); }},
+      {3061, [&] { (void)db_.OpenRecordset("select * from TabSezione where x = 1"); }},
+      {3075, [&] { (void)db_.OpenRecordset("select * from where"); }},
+      {3075, [&] { db_.Execute("delete * from TabSezione where sigla = 'A"); }},
       {3022,
        [&] {
-         Aggiungi(db_, QStringLiteral("TabLingua"), {{"idLingua", "00"}});
+         Aggiungi(db_, "TabLingua", {{"idLingua", "00"}});
        }},
       {3022,
        [&] {
-         Aggiungi(db_, QStringLiteral("TabSezione"), {{"IDSez", 1}});
+         Aggiungi(db_, "TabSezione", {{"IDSez", 1}});
        }},
       {3421,
        [&] {
-         Aggiungi(db_, QStringLiteral("TabSezione"), {{"nuovo", "x"}});
+         Aggiungi(db_, "TabSezione", {{"nuovo", "x"}});
        }},
       {3027, [&] { unione.AddNew(); }},
       {3251, [&] { unione.Seek(1); }},
-      {91, [&] { (void)Database().OpenRecordset(QStringLiteral("TabInfo")); }},
+      {91, [&] { (void)Database().OpenRecordset("TabInfo"); }},
       {91, [&] { Database().Close(); }},
   };
   for (const auto& caso : casi) {
@@ -183,30 +182,30 @@ TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
 TEST_F(RecordsetTest, ChiusoLArchivioOgniUsoFallisceENientePuoCadere) {
   Sezione("A", "t");
   Sezione("B", "t");
-  Recordset tabella = db_.OpenRecordset(QStringLiteral("TabSezione"));
-  Recordset ferma = db_.OpenRecordset(QStringLiteral("select * from TabSezione"));
+  Recordset tabella = db_.OpenRecordset("TabSezione");
+  Recordset ferma = db_.OpenRecordset("select * from TabSezione");
   const Database copia = db_;
   db_.Close();
   EXPECT_EQ(3420, NumeroErrore([&] { tabella.MoveNext(); }));
   EXPECT_EQ(3420, NumeroErrore([&] { (void)ferma.Fields("sigla"); }));
-  EXPECT_EQ(3420, NumeroErrore([&] { (void)copia.OpenRecordset(QStringLiteral("TabInfo")); }));
+  EXPECT_EQ(3420, NumeroErrore([&] { (void)copia.OpenRecordset("TabInfo"); }));
   EXPECT_EQ(3420, NumeroErrore([&] { db_.Close(); }));
 }
 
 TEST_F(RecordsetTest, UnIstruzioneRipresaConAltriValoriDaLeSueRighe) {
   for (int i = 0; i < 4; ++i) {
-    Aggiungi(db_, QStringLiteral("LegameDocTesto"),
+    Aggiungi(db_, "LegameDocTesto",
              {{"IDDoc", i % 2}, {"IDTesto", i}, {"Tipo", QString::number(i)}});
   }
-  const QString istruzione = QStringLiteral(
-      "select * from legameDocTesto where legameDocTesto.IDDoc = ?and legameDocTesto.Tipo = ?");
-  Recordset prima = db_.OpenRecordset(istruzione, {0, QStringLiteral("2")});
-  Recordset seconda = db_.OpenRecordset(istruzione, {1, QStringLiteral("3")});
+  const QString istruzione =
+      "select * from legameDocTesto where legameDocTesto.IDDoc = ?and legameDocTesto.Tipo = ?";
+  Recordset prima = db_.OpenRecordset(istruzione, {0, "2"});
+  Recordset seconda = db_.OpenRecordset(istruzione, {1, "3"});
   EXPECT_EQ(2, prima.Fields("IDTesto").Intero());
   EXPECT_EQ(3, seconda.Fields("IDTesto").Intero());
   prima.Close();
   EXPECT_EQ(3420, NumeroErrore([&] { (void)prima.Eof(); }));
-  EXPECT_TRUE(db_.OpenRecordset(istruzione, {1, QStringLiteral("2")}).Eof());
+  EXPECT_TRUE(db_.OpenRecordset(istruzione, {1, "2"}).Eof());
 }
 
 }  // namespace

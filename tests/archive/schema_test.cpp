@@ -17,17 +17,17 @@ namespace {
 QString TipoGenuino(const Colonna& colonna) {
   switch (colonna.tipo) {
     case TipoColonna::Contatore:
-      return QStringLiteral("LONG counter");
+      return "LONG counter";
     case TipoColonna::Intero:
-      return QStringLiteral("LONG");
+      return "LONG";
     case TipoColonna::Testo:
-      return QStringLiteral("TEXT");
+      return "TEXT";
     case TipoColonna::Memo:
-      return QStringLiteral("MEMO");
+      return "MEMO";
     case TipoColonna::Logico:
-      return QStringLiteral("BOOLEAN");
+      return "BOOLEAN";
     case TipoColonna::Data:
-      return QStringLiteral("SHORT_DATE_TIME");
+      return "SHORT_DATE_TIME";
     case TipoColonna::Reale:
       break;
   }
@@ -50,7 +50,7 @@ void ConfrontaColonne(const Tabella& nostra, const QJsonArray& genuine) {
     const QJsonObject genuina = genuine[i].toObject();
     const Colonna& colonna = nostra.colonne[static_cast<std::size_t>(i)];
     QString tipo = genuina["type"].toString();
-    if (genuina["counter"].toBool()) tipo += QLatin1String(" counter");
+    if (genuina["counter"].toBool()) tipo += " counter";
     EXPECT_EQ(colonna.nome, genuina["name"].toString());
     EXPECT_EQ(TipoGenuino(colonna), tipo) << colonna.nome.toStdString();
     if (colonna.larghezza > 0) {
@@ -73,8 +73,8 @@ void ConfrontaIndici(const Tabella& nostra, const QJsonArray& genuini) {
 
 TEST(Schema, HaTuttoQuelloDiUnArchivioGenuino) {
   const std::vector<std::pair<QString, const std::vector<Tabella>&>> casi = {
-      {QStringLiteral("master.schema.json"), SchemaArchivio()},
-      {QStringLiteral("catalogo norme.schema.json"), SchemaCatalogo()},
+      {"master.schema.json", SchemaArchivio()},
+      {"catalogo norme.schema.json", SchemaCatalogo()},
   };
   for (const auto& [file, schema] : casi) {
     if (FileGenuino(file).isEmpty()) GTEST_SKIP() << "../shared/jet is not at hand";
@@ -92,7 +92,7 @@ TEST(Schema, HaTuttoQuelloDiUnArchivioGenuino) {
 
 class SchemaSuDisco : public ::testing::Test {
  protected:
-  [[nodiscard]] QString Percorso(const QString& nome = QStringLiteral("nuovo.mdb")) const {
+  [[nodiscard]] QString Percorso(const QString& nome = "nuovo.mdb") const {
     return cartella_.Mdb(nome);
   }
   [[nodiscard]] Database Nuovo() const {
@@ -105,10 +105,10 @@ class SchemaSuDisco : public ::testing::Test {
 };
 
 TEST_F(SchemaSuDisco, OgniTabellaSiApreSuOgniSuoIndice) {
-  CreaDatabase(Percorso(QStringLiteral("catalogo.mdb")), SchemaCatalogo());
+  CreaDatabase(Percorso("catalogo.mdb"), SchemaCatalogo());
   const std::vector<std::pair<Database, const std::vector<Tabella>&>> casi = {
       {Nuovo(), SchemaArchivio()},
-      {OpenDatabase(Percorso(QStringLiteral("catalogo.mdb"))), SchemaCatalogo()},
+      {OpenDatabase(Percorso("catalogo.mdb")), SchemaCatalogo()},
   };
   for (const auto& [database, schema] : casi) {
     QStringList nomi;
@@ -135,14 +135,13 @@ TEST_F(SchemaSuDisco, LeIntestazioniDelFileSonoQuelleDiUnArchivio) {
   EXPECT_EQ(byte.mid(16, 2).toHex(), "2000");      // pages of 8192 bytes
   EXPECT_EQ(byte.mid(18, 2).toHex(), "0101");      // rollback journal
   EXPECT_EQ(byte.mid(68, 4).toHex(), "546f7276");  // the mark
-  EXPECT_EQ(QDir(QFileInfo(Percorso()).path()).entryList(QDir::Files),
-            QStringList(QStringLiteral("nuovo.mdb")));
+  EXPECT_EQ(QDir(QFileInfo(Percorso()).path()).entryList(QDir::Files), QStringList("nuovo.mdb"));
 }
 
 TEST_F(SchemaSuDisco, LeColonneNonScritteHannoIValoriAttesi) {
   const Database archivio = Nuovo();
-  Aggiungi(archivio, QStringLiteral("TabFonte"), {{"TP", "LIO"}});
-  Recordset fonte = archivio.OpenRecordset(QStringLiteral("TabFonte"));
+  Aggiungi(archivio, "TabFonte", {{"TP", "LIO"}});
+  Recordset fonte = archivio.OpenRecordset("TabFonte");
   for (const char* chiave : {"fonte", "IDRegione", "IDProvincia", "IDCitta", "IDMinistero",
                              "IDAmministrazione", "IDAutorita", "IDSezione", "IDStato"}) {
     EXPECT_EQ(fonte.Fields(chiave), Campo(0)) << chiave;
@@ -151,8 +150,8 @@ TEST_F(SchemaSuDisco, LeColonneNonScritteHannoIValoriAttesi) {
   EXPECT_FALSE(fonte.Fields("decreto").Logico());
   EXPECT_TRUE(fonte.Fields("numero").Nullo());
 
-  Aggiungi(archivio, QStringLiteral("TabClasse2000"), {{"Check", "0"}});
-  Recordset classe = archivio.OpenRecordset(QStringLiteral("TabClasse2000"));
+  Aggiungi(archivio, "TabClasse2000", {{"Check", "0"}});
+  Recordset classe = archivio.OpenRecordset("TabClasse2000");
   EXPECT_EQ(classe.Fields("IDClasse2000-D"), Campo(0));
   EXPECT_TRUE(classe.Fields("IDClasse2000-S").Nullo());
   EXPECT_TRUE(classe.Fields("Classe2000-D").Nullo());
@@ -161,25 +160,25 @@ TEST_F(SchemaSuDisco, LeColonneNonScritteHannoIValoriAttesi) {
 // Affinities of the engine turn "007" into 7 where a type's name is badly chosen.
 TEST_F(SchemaSuDisco, UnTestoDiCifreRestaTesto) {
   const Database archivio = Nuovo();
-  Aggiungi(archivio, QStringLiteral("TabRifBibl"), {{"Annata", "007"}, {"Data", "1e3"}});
-  Aggiungi(archivio, QStringLiteral("TabTesto"), {{"testo", "0012"}});
-  Aggiungi(archivio, QStringLiteral("TabDocumento"), {{"td", "01"}, {"Bib", ""}});
-  Aggiungi(archivio, QStringLiteral("TabNIT"), {{"data", "04/11/1950"}});
-  Recordset riferimento = archivio.OpenRecordset(QStringLiteral("TabRifBibl"));
+  Aggiungi(archivio, "TabRifBibl", {{"Annata", "007"}, {"Data", "1e3"}});
+  Aggiungi(archivio, "TabTesto", {{"testo", "0012"}});
+  Aggiungi(archivio, "TabDocumento", {{"td", "01"}, {"Bib", ""}});
+  Aggiungi(archivio, "TabNIT", {{"data", "04/11/1950"}});
+  Recordset riferimento = archivio.OpenRecordset("TabRifBibl");
   EXPECT_EQ(riferimento.Fields("Annata"), Campo("007"));
   EXPECT_EQ(riferimento.Fields("Data"), Campo("1e3"));
-  EXPECT_EQ(archivio.OpenRecordset(QStringLiteral("TabTesto")).Fields("testo"), Campo("0012"));
-  Recordset documento = archivio.OpenRecordset(QStringLiteral("TabDocumento"));
+  EXPECT_EQ(archivio.OpenRecordset("TabTesto").Fields("testo"), Campo("0012"));
+  Recordset documento = archivio.OpenRecordset("TabDocumento");
   EXPECT_EQ(documento.Fields("td"), Campo("01"));
   EXPECT_EQ(documento.Fields("Bib"), Campo(""));
-  EXPECT_EQ(archivio.OpenRecordset(QStringLiteral("TabNIT")).Fields("data"), Campo("04/11/1950"));
+  EXPECT_EQ(archivio.OpenRecordset("TabNIT").Fields("data"), Campo("04/11/1950"));
 }
 
 TEST_F(SchemaSuDisco, UnContatoreNonTornaIndietro) {
   const Database archivio = Nuovo();
-  EXPECT_EQ(Aggiungi(archivio, QStringLiteral("TabDocumento"), {{"td", "01"}}), 1);
-  archivio.Execute(QStringLiteral("delete * from TabDocumento"));
-  EXPECT_EQ(Aggiungi(archivio, QStringLiteral("TabDocumento"), {{"td", "02"}}), 2);
+  EXPECT_EQ(Aggiungi(archivio, "TabDocumento", {{"td", "01"}}), 1);
+  archivio.Execute("delete * from TabDocumento");
+  EXPECT_EQ(Aggiungi(archivio, "TabDocumento", {{"td", "02"}}), 2);
 }
 
 TEST_F(SchemaSuDisco, UnFileCheCEGiaRestaComEra) {

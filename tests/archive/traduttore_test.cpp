@@ -10,12 +10,12 @@
 #include "archive/collazione.h"
 #include "archive/errore.h"
 #include "archive/schema.h"
-#include "istruzioni_del_sistema.h"
+#include "comune/tavole.h"
 
 namespace torvi {
 namespace {
 
-QString U(const char* testo) { return QString::fromUtf8(testo); }
+Traduzione Tradotta(const char* istruzione) { return Traduci(QString(istruzione)); }
 
 // The engine by itself, with the tables of an archive and of the catalogue, empty.
 class Motore {
@@ -36,7 +36,7 @@ class Motore {
   QStringList Sql(const QByteArray& sql, const QStringList& parametri = {}) {
     sqlite3_stmt* preparata = nullptr;
     if (sqlite3_prepare_v2(motore_.get(), sql.constData(), -1, &preparata, nullptr) != SQLITE_OK) {
-      return {U(sqlite3_errmsg(motore_.get()))};
+      return {sqlite3_errmsg(motore_.get())};
     }
     const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> custodita(preparata,
                                                                                &sqlite3_finalize);
@@ -48,7 +48,7 @@ class Motore {
     return righe;
   }
   QStringList Righe(const char* istruzione, const QStringList& parametri = {}) {
-    return Sql(Traduci(U(istruzione)).sql, parametri);
+    return Sql(Tradotta(istruzione).sql, parametri);
   }
 
  private:
@@ -57,24 +57,27 @@ class Motore {
     for (int i = 0; i < sqlite3_column_count(preparata); ++i) {
       if (sqlite3_column_name(preparata, i) == std::string(1, kPrefissoAlias)) continue;
       const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(preparata, i));
-      valori += testo == nullptr ? U("-") : U(testo);
+      valori += testo == nullptr ? "-" : testo;
     }
-    return valori.join(QLatin1Char('|'));
+    return valori.join('|');
   }
 
   std::unique_ptr<sqlite3, decltype(&sqlite3_close)> motore_{nullptr, &sqlite3_close};
 };
 
+// Every statement that the commands of the system give, with values put in as they put them; before
+// it the table whose rows can be changed through it.
 TEST(Traduttore, OgniIstruzioneDelSistemaGira) {
   Motore motore;
-  for (const Istruzione& istruzione : kIstruzioni) {
-    const Traduzione traduzione = Traduci(U(istruzione.testo));
-    EXPECT_EQ(traduzione.tabella, U(istruzione.sulPosto)) << istruzione.testo;
-    EXPECT_EQ(traduzione.daRighe, U(istruzione.testo).startsWith(U("select"), Qt::CaseInsensitive));
+  for (const QStringList& caso : LeggiTavola("istruzioni_del_sistema.txt")) {
+    const QString& istruzione = caso.at(1);
+    const Traduzione traduzione = Traduci(istruzione);
+    EXPECT_EQ(traduzione.tabella, caso.at(0) == "-" ? "" : caso.at(0)) << istruzione.toStdString();
+    EXPECT_EQ(traduzione.daRighe, istruzione.startsWith("select", Qt::CaseInsensitive));
     // Only the counts give a row in an empty archive; a failure gives its message.
-    const QStringList righe = motore.Sql(traduzione.sql);
-    const bool conteggio = U(istruzione.testo).contains(U("count("));
-    EXPECT_EQ(righe, conteggio ? QStringList{U("0")} : QStringList()) << istruzione.testo;
+    EXPECT_EQ(motore.Sql(traduzione.sql),
+              istruzione.contains("count(") ? QStringList("0") : QStringList())
+        << istruzione.toStdString();
   }
 }
 
@@ -85,9 +88,9 @@ TEST(Traduttore, DaIlNumeroDiRigaDoveSiScriveSulPosto) {
   for (const char* istruzione :
        {"select LegameDocTesto.* from LegameDocTesto", "select * from legameDocTesto",
         "select IDDoc, IDTesto, Tipo from LegameDocTesto as x where x.IDDoc = 1"}) {
-    const QByteArray sql = Traduci(U(istruzione)).sql;
+    const QByteArray sql = Tradotta(istruzione).sql;
     EXPECT_EQ(motore.Sql("SELECT [=] AS riga, IDDoc, IDTesto, Tipo FROM (" + sql + ")"),
-              QStringList{U("9|1|2|3")})
+              QStringList{"9|1|2|3"})
         << istruzione;
   }
 }
@@ -112,10 +115,9 @@ TEST(Traduttore, LegamiDiUnDocumentoVengonoDallIndice) {
         "legameDocClass1999.IDClass = tabClasse1999.IDClasse1999",
         "select * from tabRifBibl, tabRivista where tabRifBibl.IDRifBibl = 7 and "
         "tabRifBibl.IDRivista = tabRivista.IDRivista"}) {
-    const QString piano =
-        motore.Sql("EXPLAIN QUERY PLAN " + Traduci(U(istruzione)).sql).join(QLatin1Char('\n'));
-    EXPECT_FALSE(piano.contains(U("TEMP B-TREE"))) << istruzione << '\n' << piano.toStdString();
-    EXPECT_EQ(piano.count(U("SCAN")), U(istruzione).contains(U("order by")) ? 1 : 0)
+    const QString piano = motore.Sql("EXPLAIN QUERY PLAN " + Tradotta(istruzione).sql).join('\n');
+    EXPECT_FALSE(piano.contains("TEMP B-TREE")) << istruzione << '\n' << piano.toStdString();
+    EXPECT_EQ(piano.count("SCAN"), QString(istruzione).contains("order by") ? 1 : 0)
         << istruzione << '\n'
         << piano.toStdString();
   }
@@ -249,8 +251,8 @@ TEST(Traduttore, ConfrontaComeIlDialetto) {
                          "where Data = ?"),
             QStringList());
   EXPECT_EQ(motore.Righe("select id, titolo as t from tabCatalogo where titolo = ? or id = ?",
-                         {U("C"), U("1")}),
-            (QStringList{U("1|a"), U("3|c")}));
+                         {"C", "1"}),
+            (QStringList{"1|a", "3|c"}));
 }
 
 TEST(Traduttore, CambiaECancella) {
@@ -262,23 +264,23 @@ TEST(Traduttore, CambiaECancella) {
                          "Bib = \"\" WHERE tabDocumento!IDDocumento = 2"),
             QStringList());
   EXPECT_EQ(motore.Righe("select IDDocumento, pagine, LIN, Bib from TabDocumento"),
-            (QStringList{U("1|1|00|-"), U("2|a, (b) = c|02|")}));
+            (QStringList{"1|1|00|-", "2|a, (b) = c|02|"}));
   EXPECT_EQ(motore.Righe("delete * from TabDocumento where IDDocumento =1"), QStringList());
   EXPECT_EQ(motore.Righe("delete TabDocumento.* from TabDocumento where LIN = '9'"), QStringList());
-  EXPECT_EQ(motore.Righe("select IDDocumento from TabDocumento"), QStringList{U("2")});
+  EXPECT_EQ(motore.Righe("select IDDocumento from TabDocumento"), QStringList{"2"});
 }
 
 // An alias is no column, and an unknown name is no text.
 TEST(Traduttore, NomeSconosciutoRestaSconosciuto) {
   Motore motore;
   motore.Sql("ALTER TABLE TabStato DROP COLUMN nuovo");
-  const QStringList atteso{U("no such column: nuovo")};
+  const QStringList atteso{"no such column: nuovo"};
   EXPECT_EQ(motore.Righe("select Stato as Nuovo, IDDoc from tabStato, tabFonte, legameDocFonte "
                          "where tabFonte.IDStato = tabStato.IDStato and nuovo = 1"),
             atteso);
   EXPECT_EQ(motore.Righe("select Stato as nuovo from tabStato order by nuovo"), atteso);
   EXPECT_EQ(motore.Righe("select Stato from tabStato where Stato = nuovo"), atteso);
-  EXPECT_EQ(motore.Righe("select * from nessuna"), QStringList{U("no such table: nessuna")});
+  EXPECT_EQ(motore.Righe("select * from nessuna"), QStringList{"no such table: nessuna"});
 }
 
 TEST(Traduttore, RifiutaCioCheNonEIstruzione) {
@@ -319,13 +321,13 @@ TEST(Traduttore, RifiutaCioCheNonEIstruzione) {
         "insert into TabTesto values (1, 'a')",
         "drop table TabTesto"}) {
     try {
-      const Traduzione traduzione = Traduci(U(istruzione));
+      const Traduzione traduzione = Tradotta(istruzione);
       // What only the engine can tell it tells itself.
       const QStringList esito = Motore().Sql(traduzione.sql);
-      EXPECT_TRUE(!esito.isEmpty() && esito.front().contains(U("syntax error"))) << istruzione;
+      EXPECT_TRUE(!esito.isEmpty() && esito.front().contains("syntax error")) << istruzione;
     } catch (const ErroreEsecuzione& errore) {
       EXPECT_EQ(errore.Numero(), 3075) << istruzione;
-      EXPECT_TRUE(errore.Descrizione().endsWith(U(istruzione))) << istruzione;
+      EXPECT_TRUE(errore.Descrizione().endsWith(istruzione)) << istruzione;
     }
   }
 }

@@ -30,7 +30,7 @@ TEST_F(Codici, Before2000HaveAParentUnlessTheyAreRoots) {
   const auto aggiungi = [this](const char* codice, const Campo& padre) {
     return Aggiungi(archivio, "TabClasse1999",
                     {{"Codice", codice},
-                     {"descrizione", QStringLiteral("voce %1").arg(QLatin1String(codice))},
+                     {"descrizione", QStringLiteral("voce %1").arg(codice)},
                      {"ID_PADRE", padre}});
   };
   const qint64 radice = aggiungi("A1", {});

@@ -16,8 +16,7 @@ class UscitaDallaForma : public testing::Test {
          {std::pair{"TabLegameDS", std::pair{"S0001", "D0001"}},
           std::pair{"TabLegameDS", std::pair{"S0001", "A -->"}},
           std::pair{"TabLegameDSA", std::pair{"S0001", "*dell'arte"}}}) {
-      Aggiungi(stato.DbArchivio, QLatin1String(tabella),
-               {{"NS", coppia.first}, {"ND", coppia.second}});
+      Aggiungi(stato.DbArchivio, tabella, {{"NS", coppia.first}, {"ND", coppia.second}});
     }
   }
   // The lines of the list after "Esci e salva".

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QLineEdit>
-
 #include "classificazione/righe_classe.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
@@ -49,11 +46,8 @@ class Forma1999 : public testing::Test {
 
 TEST_F(Forma1999, AddsACodeByKeysAlone) {
   Apri();
-  EXPECT_EQ(forma->windowTitle(), "Classifcazione ante 2000");
-  QStringList parole;
-  for (const auto* etichetta : forma->findChildren<QLabel*>()) parole += etichetta->text();
-  for (const auto* pulsante : forma->findChildren<QPushButton*>()) parole += pulsante->text();
-  EXPECT_EQ(parole.join('|'), "Codice||Figlio di:||&Esci e salva|&Abbandona");
+  EXPECT_EQ(Scritte(*forma),
+            "Classifcazione ante 2000|Codice||Figlio di:||&Esci e salva|&Abbandona");
   QTest::keyClicks(forma->focusWidget(), "A12");
   Premi(Qt::Key_Return);
   EXPECT_EQ(Mostra(), "A12|figlia|A1 - radice");

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMainWindow>
 
 #include "classificazione/frmAsteriscati.h"
@@ -17,15 +14,15 @@
 namespace torvi {
 namespace {
 
-const QString kSistematicoErrato = QStringLiteral("Codice sistematico errato!");
-const QString kDescrittoreErrato = QStringLiteral("Codice descrittore errato!");
+const QString kSistematicoErrato = "Codice sistematico errato!";
+const QString kDescrittoreErrato = "Codice descrittore errato!";
 
 class FormaClassificazione : public testing::Test {
  protected:
   FormaClassificazione() {
     const UnitaDiScrittura unita(stato.DbArchivio);
     const auto riga = [this](const char* tabella, auto... valori) {
-      Aggiungi(stato.DbArchivio, QLatin1String(tabella), {valori...});
+      Aggiungi(stato.DbArchivio, tabella, {valori...});
     };
     using Valore = std::pair<const char*, Campo>;
     riga("TabClasse2000-S", Valore("CodiceS", "S0001"), Valore("sigla", "DC"),
@@ -67,10 +64,7 @@ class FormaClassificazione : public testing::Test {
     return Trova<QLabel>(*forma, nome).text();
   }
   [[nodiscard]] QStringList Lista(const char* nome) const {
-    const auto& lista = Trova<QListWidget>(*forma, nome);
-    QStringList linee;
-    for (int i = 0; i < lista.count(); ++i) linee += lista.item(i)->text();
-    return linee;
+    return Linee(Trova<QListWidget>(*forma, nome));
   }
   [[nodiscard]] QString Fuoco() const { return forma->focusWidget()->objectName(); }
 

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QLineEdit>
-
 #include "comune/dialoghi_scritti.h"
 #include "comune/tastiera.h"
 
@@ -14,19 +11,16 @@ namespace {
 // What stands on the form and the keys of an operator; the form goes only where it should.
 TEST(Login, TakesOnlyTheRightPassword) {
   DialoghiScritti dialoghi;
-  frmLogin forma(dialoghi, QStringLiteral("Segreto"));
-  QStringList parole = {forma.windowTitle()};
-  for (const auto* etichetta : forma.findChildren<QLabel*>()) parole += etichetta->text();
-  for (const auto* pulsante : forma.findChildren<QPushButton*>()) parole += pulsante->text();
-  EXPECT_EQ(parole.join('|'),
+  frmLogin forma(dialoghi, "Segreto");
+  EXPECT_EQ(Scritte(forma),
             "Login per accesso alla parte riservata|&User Name:|&Password:|Cancellare contenuto "
             "tabelle prima di importare i nuovi dati.|OK|Cancel");
   EXPECT_EQ(Trova<QLineEdit>(forma, "txtPassword").echoMode(), QLineEdit::Password);
   Operatore::Esegue([&] { EXPECT_EQ(forma.exec(), QDialog::Accepted); }, {[&](QWidget&) {
-                      Batti(QStringLiteral("chiunque{Tab}segreto{Tab}{Return}"));
+                      Batti("chiunque{Tab}segreto{Tab}{Return}");
                       EXPECT_FALSE(forma.LoginRiservato);
                       // The wrong one is selected, so that what is typed takes its place.
-                      Batti(QStringLiteral("Segreto{Return}"));
+                      Batti("Segreto{Return}");
                     }});
   EXPECT_TRUE(forma.LoginRiservato);
   ASSERT_EQ(dialoghi.Messaggi(), QStringList{"Invalid Password, try again!"});

@@ -14,7 +14,7 @@ namespace {
 class Comandi : public testing::Test {
  protected:
   [[nodiscard]] EsitoProgramma Esegui(const QStringList& argomenti) const {
-    return Torvi(QStringList{QStringLiteral("--cartella"), cartella_.Percorso()} + argomenti);
+    return Torvi(QStringList{"--cartella", cartella_.Percorso()} + argomenti);
   }
   // The command must end well and say nothing but `errori`.
   void Riesce(const QStringList& argomenti, const QString& errori = {}) const {
@@ -23,68 +23,67 @@ class Comandi : public testing::Test {
     EXPECT_EQ(esito.errori, errori);
   }
   void PreparaEsempio(int documenti = 40) const {
-    Riesce({QStringLiteral("catalogo"), cartella_.Mdb(QStringLiteral("catalogo norme.mdb"))});
-    Riesce({QStringLiteral("esempio"), Archivio(), QStringLiteral("--documenti"),
-            QString::number(documenti)});
+    Riesce({"catalogo", cartella_.Mdb("catalogo norme.mdb")});
+    Riesce({"esempio", Archivio(), "--documenti", QString::number(documenti)});
   }
-  [[nodiscard]] QString Archivio() const { return cartella_.Mdb(QStringLiteral("A01.MDB")); }
-  [[nodiscard]] QByteArray Uscita(const char* nome) const {
-    return Byte(cartella_.Dump(QString::fromLatin1(nome)));
+  [[nodiscard]] QString Archivio() const { return cartella_.Mdb("A01.MDB"); }
+  [[nodiscard]] QByteArray Uscita(const char* nome) const { return Byte(cartella_.Dump(nome)); }
+
+  [[nodiscard]] static QString Informazioni(const QString& archivio) {
+    return RigheTesto(OpenDatabase(archivio, Accesso::SolaLettura), "TabInfo").join('\n');
   }
 
   CartellaDiProva cartella_;
 };
 
-const QString kFine = QStringLiteral("Fine esportazione della consegna A01\n");
+const QString kFine = "Fine esportazione della consegna A01\n";
 
 TEST_F(Comandi, NuovoMakesADeliveryUnderTheUpperCasedName) {
-  Riesce({QStringLiteral("master"), cartella_.Mdb(QStringLiteral("master.mdb"))});
-  const QString minuscolo = cartella_.Mdb(QStringLiteral("b02.mdb"));
-  const QString atteso = cartella_.Mdb(QStringLiteral("B02.MDB"));
+  Riesce({"master", cartella_.Mdb("master.mdb")});
+  const QString minuscolo = cartella_.Mdb("b02.mdb");
+  const QString atteso = cartella_.Mdb("B02.MDB");
   ScriviByte(minuscolo, "una consegna da sostituire");
-  const EsitoProgramma esito = Esegui(
-      {QStringLiteral("nuovo"), minuscolo, QStringLiteral("--consegna=b02"),
-       QStringLiteral("--inizio=12"), QStringLiteral("--centro=a"), QStringLiteral("--anno=2001")});
+  const EsitoProgramma esito =
+      Esegui({"nuovo", minuscolo, "--consegna=b02", "--inizio=12", "--centro=a", "--anno=2001"});
   EXPECT_EQ(esito.codice, 0) << esito.errori.toStdString();
   EXPECT_EQ(esito.uscita, atteso + "\n");
-  EXPECT_EQ(Informazioni(atteso), QStringLiteral("B02 12 A 2001 - - - - - - - - -"));
+  EXPECT_EQ(Informazioni(atteso), "B02|12|A|2001|-|-|-|-|-|-|-|-|-");
   EXPECT_FALSE(QFile::exists(minuscolo));
   EXPECT_EQ(QDir(cartella_.Percorso() + "/mdb").entryList(QDir::Files).size(), 2);
 }
 
 TEST_F(Comandi, NuovoNeedsAMaster) {
-  const EsitoProgramma esito = Esegui(
-      {QStringLiteral("nuovo"), Archivio(), QStringLiteral("--consegna=A01"),
-       QStringLiteral("--inizio=12"), QStringLiteral("--centro=A"), QStringLiteral("--anno=2001")});
+  const EsitoProgramma esito =
+      Esegui({"nuovo", Archivio(), "--consegna=A01", "--inizio=12", "--centro=A", "--anno=2001"});
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '53': ")));
-  EXPECT_TRUE(esito.errori.contains(QStringLiteral("/mdb/master.mdb")));
+  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '53': "));
+  EXPECT_TRUE(esito.errori.contains("/mdb/master.mdb"));
   EXPECT_FALSE(QFile::exists(Archivio()));
 }
 
 TEST_F(Comandi, EsportaWritesTheThreeFlavoursAndMarksTheDelivery) {
   PreparaEsempio();
   for (const char* formato : {"isis", "cassazione", "storico"}) {
-    Riesce({QStringLiteral("esporta"), QString::fromLatin1(formato), Archivio()}, kFine);
+    Riesce({"esporta", formato, Archivio()}, kFine);
     const QByteArray file = Uscita(("lexxdump " + std::string(formato) + ".A01").c_str());
     EXPECT_EQ(file.count(" 2AP=2001 NP=A"), 40) << formato;
     EXPECT_EQ(file.contains("\n22^t"), std::string(formato) == "isis") << formato;
   }
-  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 1 - - - - - - - -"));
+  EXPECT_EQ(Informazioni(Archivio()), "A01|12|A|2001|1|-|-|-|-|-|-|-|-");
 }
 
 TEST_F(Comandi, OptionsAnswerTheQuestionsOfTheExport) {
   PreparaEsempio();
-  const QStringList esporta{QStringLiteral("esporta"), QStringLiteral("isis"), Archivio()};
+  const QStringList esporta{"esporta", "isis", Archivio()};
   Riesce(esporta, kFine);
   EXPECT_FALSE(Uscita("errori.A01").contains("Manca fonte: "));
   const QByteArray daSolo = Uscita("lexxdump isis.A01");
-  Riesce(esporta + QStringList{QStringLiteral("--controllo-fonti")}, kFine);
+  Riesce(esporta + QStringList{"--controllo-fonti"}, kFine);
   EXPECT_TRUE(Uscita("errori.A01").contains("Manca fonte: "));
 
-  const QString comune = cartella_.Dump(QStringLiteral("lexxdump.tot"));
+  const QString comune = cartella_.Dump("lexxdump.tot");
   for (int volta = 1; volta <= 2; ++volta) {
-    Riesce(esporta + QStringList{QStringLiteral("--accoda"), comune}, kFine);
+    Riesce(esporta + QStringList{"--accoda", comune}, kFine);
     EXPECT_EQ(Byte(comune), daSolo.repeated(volta));
     EXPECT_EQ(Uscita("errClasse.tot").count("Consegna A01\r\n"), volta);
   }
@@ -92,22 +91,20 @@ TEST_F(Comandi, OptionsAnswerTheQuestionsOfTheExport) {
 
 TEST_F(Comandi, ErroriShowsWhatTheExportFound) {
   PreparaEsempio(3);
-  const QStringList errori{QStringLiteral("errori"), QStringLiteral("generici"), Archivio()};
+  const QStringList errori{"errori", "generici", Archivio()};
   EsitoProgramma esito = Esegui(errori);
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral(
+  EXPECT_TRUE(esito.errori.startsWith(
       "Prima di usare questa funzione occorre utilizzare una delle tre sottovoci del sottomenù "
-      "Formato ASCII di Esporta\n")));
-  Riesce({QStringLiteral("esporta"), QStringLiteral("storico"), Archivio()}, kFine);
-  ScriviByte(cartella_.Dump(QStringLiteral("errori.A01")), "Manca titolo: 2001A0012\r\n\r\n");
+      "Formato ASCII di Esporta\n"));
+  Riesce({"esporta", "storico", Archivio()}, kFine);
+  ScriviByte(cartella_.Dump("errori.A01"), "Manca titolo: 2001A0012\r\n\r\n");
   esito = Esegui(errori);
   EXPECT_EQ(esito.codice, 0);
-  EXPECT_EQ(esito.uscita, QStringLiteral("Errori generici\r\n\r\nManca titolo: 2001A0012\r\n\r\n"));
-  Riesce({QStringLiteral("errori"), QStringLiteral("classe"), Archivio()},
-         QStringLiteral("Non ci sono errori di classificazione!\n"));
-  Riesce({QStringLiteral("errori"), QStringLiteral("fonti"), Archivio()},
-         QStringLiteral("Non ci sono errori nelle fonti!\n"));
-  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 1 - - - - - 1 1 1"));
+  EXPECT_EQ(esito.uscita, "Errori generici\r\n\r\nManca titolo: 2001A0012\r\n\r\n");
+  Riesce({"errori", "classe", Archivio()}, "Non ci sono errori di classificazione!\n");
+  Riesce({"errori", "fonti", Archivio()}, "Non ci sono errori nelle fonti!\n");
+  EXPECT_EQ(Informazioni(Archivio()), "A01|12|A|2001|1|-|-|-|-|-|1|1|1");
 }
 
 TEST_F(Comandi, StampaWritesAPrintAndMarksTheDelivery) {
@@ -125,18 +122,15 @@ TEST_F(Comandi, StampaWritesAPrintAndMarksTheDelivery) {
       {"consistenza", "TotTAbs: 12 --- Num. docc.: 12\nFine stampa consistenza\n",
        "consistenza.A01"}};
   for (const char* nome : {"testata new.rtf", "testata prospetto.rtf"}) {
-    QFile::copy(QStringLiteral(TORVI_RADICE "/risorse/") + QLatin1String(nome),
-                cartella_.Percorso() + QLatin1Char('/') + QLatin1String(nome));
+    QFile::copy(QStringLiteral(TORVI_RADICE "/risorse/") + nome,
+                cartella_.Percorso() + QLatin1Char('/') + nome);
   }
   for (const Caso& caso : kCasi) {
-    Riesce({QStringLiteral("stampa"), QString::fromLatin1(caso.stampa), Archivio()},
-           QString::fromUtf8(caso.messaggi));
+    Riesce({"stampa", caso.stampa, Archivio()}, caso.messaggi);
     EXPECT_FALSE(Uscita(caso.file).isEmpty()) << caso.file;
   }
-  EXPECT_EQ(Informazioni(Archivio()), QStringLiteral("A01 12 A 2001 - - 1 1 1 1 - - -"));
-  Riesce(
-      {QStringLiteral("stampa"), QStringLiteral("testi"), Archivio(), QStringLiteral("--filtro")},
-      QStringLiteral("Fine stampa\n"));
+  EXPECT_EQ(Informazioni(Archivio()), "A01|12|A|2001|-|-|1|1|1|1|-|-|-");
+  Riesce({"stampa", "testi", Archivio(), "--filtro"}, "Fine stampa\n");
   EXPECT_FALSE(Uscita("stampaRTF-T-A01.rtf").contains("2001A"));
 }
 
@@ -157,13 +151,12 @@ TEST_F(Comandi, PrintsAndExtractionsNameTheDeliveryAndControlloTellsOfThem) {
        "Nuovi inserimenti in tabStato\r\n"},
   };
   for (const Caso& caso : kCasi) {
-    Riesce(QString::fromLatin1(caso.comando).split(u' ') + QStringList{Archivio()},
-           QString::fromLatin1(caso.fine));
+    Riesce(QString::fromLatin1(caso.comando).split(u' ') + QStringList{Archivio()}, caso.fine);
     EXPECT_TRUE(Uscita(caso.file).contains(caso.contenuto)) << Uscita(caso.file).toStdString();
   }
-  EXPECT_EQ(Esegui({QStringLiteral("controllo"), Archivio()}).uscita,
-            QStringLiteral("Sono stati utilizzate le seguenti funzioni:\r\n"
-                           "'Stampa HTML per controllo Celex'\r\n"));
+  EXPECT_EQ(Esegui({"controllo", Archivio()}).uscita,
+            "Sono stati utilizzate le seguenti funzioni:\r\n"
+            "'Stampa HTML per controllo Celex'\r\n");
 }
 
 // Another program stands in for LibreOffice: it puts what it is given where it is told.
@@ -172,10 +165,9 @@ TEST_F(Comandi, StampaWritesAPdfWhereLibreOfficeIs) {
   ScriviByte(cartella_.Percorso() + "/testata prospetto.rtf", "{");
   const QString programmi = cartella_.Percorso() + "/programmi";
   ASSERT_TRUE(QDir().mkpath(programmi));
-  const auto stampa = [&](const char* nome, const QString& altri = QStringLiteral(":/bin")) {
-    return Torvi({QStringLiteral("--cartella"), cartella_.Percorso(), QStringLiteral("stampa"),
-                  QLatin1String(nome), Archivio(), QStringLiteral("--pdf")},
-                 {QStringLiteral("/usr/bin/env"), "PATH=" + programmi + altri});
+  const auto stampa = [&](const char* nome, const QString& altri = ":/bin") {
+    return Torvi({"--cartella", cartella_.Percorso(), "stampa", nome, Archivio(), "--pdf"},
+                 {"/usr/bin/env", "PATH=" + programmi + altri});
   };
   const QString soffice = programmi + "/soffice";
   ScriviByte(soffice,
@@ -191,122 +183,112 @@ TEST_F(Comandi, StampaWritesAPdfWhereLibreOfficeIs) {
         {"prospetto-rtf", "prospetto A01.rtf", "prospetto A01.pdf"}}) {
     const EsitoProgramma esito = stampa(nome);
     EXPECT_EQ(esito.codice, 0) << esito.errori.toStdString();
-    EXPECT_EQ(esito.uscita, cartella_.Dump(QLatin1String(pdf)) + "\n");
+    EXPECT_EQ(esito.uscita, cartella_.Dump(pdf) + "\n");
     EXPECT_EQ(Uscita(pdf), Uscita(file));
   }
   ScriviByte(soffice, "#!/bin/sh\n");
   EsitoProgramma esito = stampa("consistenza");
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.contains(QStringLiteral("LibreOffice non ha scritto ")));
-  EXPECT_FALSE(QFile::exists(cartella_.Dump(QStringLiteral("consistenza.A01.pdf"))));
+  EXPECT_TRUE(esito.errori.contains("LibreOffice non ha scritto "));
+  EXPECT_FALSE(QFile::exists(cartella_.Dump("consistenza.A01.pdf")));
   ASSERT_TRUE(QFile::remove(soffice));
   esito = stampa("completa", {});
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.contains(QStringLiteral("LibreOffice non è installato")));
-  EXPECT_FALSE(QFile::exists(cartella_.Dump(QStringLiteral("stampaRTF-C-A01.rtf"))));
+  EXPECT_TRUE(esito.errori.contains("LibreOffice non è installato"));
+  EXPECT_FALSE(QFile::exists(cartella_.Dump("stampaRTF-C-A01.rtf")));
 }
 
 TEST_F(Comandi, LottoGathersWhatTheDeliveriesExportAlone) {
-  Riesce({QStringLiteral("catalogo"), cartella_.Mdb(QStringLiteral("catalogo norme.mdb"))});
+  Riesce({"catalogo", cartella_.Mdb("catalogo norme.mdb")});
   QByteArray attese;
   for (int i = 1; i <= 5; ++i) {
     const QString archivio = cartella_.Mdb(QStringLiteral("P%1.MDB").arg(i));
-    Riesce({QStringLiteral("esempio"), archivio, QStringLiteral("--documenti"),
-            QString::number(4 + i)});
-    Riesce({QStringLiteral("esporta"), QStringLiteral("isis"), archivio}, kFine);
+    Riesce({"esempio", archivio, "--documenti", QString::number(4 + i)});
+    Riesce({"esporta", "isis", archivio}, kFine);
     if (i != 3) attese += Uscita("lexxdump isis.A01");
   }
   {  // fails behind its first documents
-    const Database rotto = OpenDatabase(cartella_.Mdb(QStringLiteral("P3.MDB")));
-    rotto.Execute(QStringLiteral("update TabDocumento set IDRifBibl = 0 where IDDocumento = 4"));
+    const Database rotto = OpenDatabase(cartella_.Mdb("P3.MDB"));
+    rotto.Execute("update TabDocumento set IDRifBibl = 0 where IDDocumento = 4");
   }
-  const QString lista = cartella_.Mdb(QStringLiteral("sigle.A02"));
+  const QString lista = cartella_.Mdb("sigle.A02");
   ScriviByte(lista, "P1\r\nP2\r\np3\r\nP4\r\nP5\r\n");
-  const QStringList lotto{QStringLiteral("lotto"), QStringLiteral("isis"), lista};
-  EsitoProgramma esito = Esegui(lotto + QStringList{QStringLiteral("--prosegui")});
+  const QStringList lotto{"lotto", "isis", lista};
+  EsitoProgramma esito = Esegui(lotto + QStringList{"--prosegui"});
   EXPECT_EQ(esito.codice, 1);
   EXPECT_EQ(Uscita("lexxdump isis.A02"), attese);
-  EXPECT_TRUE(esito.errori.contains(QStringLiteral("\nConsegna p3: 3021 --> ")))
-      << esito.errori.toStdString();
-  EXPECT_TRUE(esito.errori.endsWith(QStringLiteral("\nNon riuscite: p3: consegne fatte 4 di 5\n")));
+  EXPECT_TRUE(esito.errori.contains("\nConsegna p3: 3021 --> ")) << esito.errori.toStdString();
+  EXPECT_TRUE(esito.errori.endsWith("\nNon riuscite: p3: consegne fatte 4 di 5\n"));
   esito = Esegui(lotto);
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.contains(QStringLiteral("\n3021 --> "))) << esito.errori.toStdString();
-  EXPECT_TRUE(esito.errori.endsWith(
-      QStringLiteral("\nInterrotto alla consegna p3: consegne fatte 2 di 5\n")));
-  esito = Esegui({QStringLiteral("lotto"), QStringLiteral("note"), lista + "x"});
+  EXPECT_TRUE(esito.errori.contains("\n3021 --> ")) << esito.errori.toStdString();
+  EXPECT_TRUE(esito.errori.endsWith("\nInterrotto alla consegna p3: consegne fatte 2 di 5\n"));
+  esito = Esegui({"lotto", "note", lista + "x"});
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("53 --> "))) << esito.errori.toStdString();
-  Riesce({QStringLiteral("lotto"), QStringLiteral("conteggio"), lista});
+  EXPECT_TRUE(esito.errori.startsWith("53 --> ")) << esito.errori.toStdString();
+  Riesce({"lotto", "conteggio", lista});
 }
 
 TEST_F(Comandi, CercaWritesTheNumbersFound) {
   PreparaEsempio(12);
-  const QStringList cerca{QStringLiteral("cerca"), Archivio(), QStringLiteral("--campo"),
-                          QStringLiteral("Titolo")};
+  const QStringList cerca{"cerca", Archivio(), "--campo", "Titolo"};
   {
     const Database archivio = OpenDatabase(Archivio());
     for (const int numero : {3, 7}) {
       const Recordset titolo = archivio.OpenRecordset(
-          QStringLiteral("select IDTesto from LegameDocTesto where IDDoc = ? and Tipo = \"0\""),
-          {numero});
-      archivio.Execute(QStringLiteral("update TabTesto set testo = ? where IDTesto = ?"),
-                       {QStringLiteral("L'usura nel mutuo"), titolo.Fields("IDTesto")});
+          "select IDTesto from LegameDocTesto where IDDoc = ? and Tipo = \"0\"", {numero});
+      archivio.Execute("update TabTesto set testo = ? where IDTesto = ?",
+                       {"L'usura nel mutuo", titolo.Fields("IDTesto")});
     }
   }
   for (const QStringList& resto :
-       {QStringList{QStringLiteral("l'usura"), QStringLiteral("nel"), QStringLiteral("mutuo")},
-        QStringList{QStringLiteral("--parte"), QStringLiteral("tutte"), QStringLiteral("mutuo"),
-                    QStringLiteral("l'usura")},
-        QStringList{QStringLiteral("--parte=sequenza"), QStringLiteral("ura ne?")}}) {
-    EXPECT_EQ(Esegui(cerca + resto).uscita, QStringLiteral("3\n7\n"));
+       {QStringList{"l'usura", "nel", "mutuo"}, QStringList{"--parte", "tutte", "mutuo", "l'usura"},
+        QStringList{"--parte=sequenza", "ura ne?"}}) {
+    EXPECT_EQ(Esegui(cerca + resto).uscita, "3\n7\n");
   }
-  Riesce(cerca + QStringList{QStringLiteral("mutuo")},
-         QStringLiteral("Non esistono record che soddisfano la ricerca impostata\n"));
+  Riesce(cerca + QStringList{"mutuo"}, "Non esistono record che soddisfano la ricerca impostata\n");
 }
 
 TEST_F(Comandi, VerificaTellsASoundArchiveFromOneWithFaults) {
   PreparaEsempio();
   const QByteArray prima = Byte(Archivio());
-  Riesce({QStringLiteral("verifica"), Archivio()},
-         QStringLiteral("Nessun difetto: %1\n").arg(Archivio()));
+  Riesce({"verifica", Archivio()}, QStringLiteral("Nessun difetto: %1\n").arg(Archivio()));
   EXPECT_EQ(Byte(Archivio()), prima);
   {
     const Database archivio = OpenDatabase(Archivio());
-    archivio.Execute(QStringLiteral("delete * from TabTesto where IDTesto = 1"));
+    archivio.Execute("delete * from TabTesto where IDTesto = 1");
   }
-  const EsitoProgramma esito = Esegui({QStringLiteral("verifica"), Archivio()});
+  const EsitoProgramma esito = Esegui({"verifica", Archivio()});
   EXPECT_EQ(esito.codice, 1);
   EXPECT_EQ(esito.uscita.count(u'\n'), 1) << esito.uscita.toStdString();
-  EXPECT_TRUE(esito.uscita.contains(QStringLiteral("LegameDocTesto"), Qt::CaseInsensitive));
+  EXPECT_TRUE(esito.uscita.contains("LegameDocTesto", Qt::CaseInsensitive));
   EXPECT_EQ(esito.errori, QStringLiteral("Difetti: 1 in %1\n").arg(Archivio()));
 }
 
 class Genuini : public Comandi {
  protected:
   void SetUp() override {
-    if (FileGenuino(QStringLiteral("consegna.mdb")).isEmpty()) {
+    if (FileGenuino("consegna.mdb").isEmpty()) {
       GTEST_SKIP() << "the genuine Jet files are not at hand";
     }
-    QFile::copy(FileGenuino(QStringLiteral("catalogo norme data.mdb")),
-                cartella_.Mdb(QStringLiteral("catalogo norme.mdb")));
-    QFile::copy(FileGenuino(QStringLiteral("consegna.mdb")), Archivio());
+    QFile::copy(FileGenuino("catalogo norme data.mdb"), cartella_.Mdb("catalogo norme.mdb"));
+    QFile::copy(FileGenuino("consegna.mdb"), Archivio());
     QFile::setPermissions(Archivio(), QFile::ReadOwner | QFile::WriteOwner);
   }
 };
 
 TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
   const QByteArray originale = Byte(Archivio());
-  const QString nuovo = cartella_.Mdb(QStringLiteral("nuovo.mdb"));
-  Riesce({QStringLiteral("converti"), Archivio(), nuovo});
+  const QString nuovo = cartella_.Mdb("nuovo.mdb");
+  Riesce({"converti", Archivio(), nuovo});
   EXPECT_EQ(Byte(Archivio()), originale);
   RichiediArchivio(OpenDatabase(nuovo));
   // Once more: what is there stays.
   const QByteArray primo = Byte(nuovo);
-  EXPECT_EQ(Esegui({QStringLiteral("converti"), Archivio(), nuovo}).codice, 1);
+  EXPECT_EQ(Esegui({"converti", Archivio(), nuovo}).codice, 1);
   EXPECT_EQ(Byte(nuovo), primo);
 
-  static_cast<void>(Esegui({QStringLiteral("errori"), QStringLiteral("fonti"), Archivio()}));
+  static_cast<void>(Esegui({"errori", "fonti", Archivio()}));
   EXPECT_EQ(Byte(Archivio() + ".jet"), originale);
   EXPECT_TRUE(Byte(Archivio()).startsWith("SQLite format 3"));
 }
@@ -314,40 +296,36 @@ TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
 // As it came it cites a reference, a source text and numbers that are not there; mended, it goes
 // through.
 TEST_F(Genuini, AJetDeliveryIsExportedInThreeFlavours) {
-  const QStringList isis{QStringLiteral("esporta"), QStringLiteral("isis"), Archivio()};
+  const QStringList isis{"esporta", "isis", Archivio()};
   const EsitoProgramma guasto = Esegui(isis);
   EXPECT_EQ(guasto.codice, 1);
-  EXPECT_TRUE(guasto.errori.contains(QStringLiteral("\nErrore di run-time '3021': ")))
+  EXPECT_TRUE(guasto.errori.contains("\nErrore di run-time '3021': "))
       << guasto.errori.toStdString();
   EXPECT_EQ(Uscita("lexxdump isis.A01").count(" 2AP=2001 NP=A"), 6);
   {
     const Database archivio = OpenDatabase(Archivio());
-    archivio.Execute(
-        QStringLiteral("delete * from TabDocumento where IDDocumento = 8 or IDDocumento = 11"));
-    archivio.Execute(QStringLiteral("update TabFonte set numero = \"\" where numero is null"));
+    archivio.Execute("delete * from TabDocumento where IDDocumento = 8 or IDDocumento = 11");
+    archivio.Execute("update TabFonte set numero = \"\" where numero is null");
   }
   for (const char* formato : {"isis", "cassazione", "storico"}) {
-    Riesce({QStringLiteral("esporta"), QString::fromLatin1(formato), Archivio()}, kFine);
+    Riesce({"esporta", formato, Archivio()}, kFine);
     const QByteArray file = Uscita(("lexxdump " + std::string(formato) + ".A01").c_str());
     EXPECT_EQ(file.count(" 2AP=2001 NP=A"), 21) << formato;
   }
-  EXPECT_EQ(Esegui({QStringLiteral("errori"), QStringLiteral("fonti"), Archivio()}).uscita,
-            QStringLiteral(
-                "Errori nelle fonti\r\n\r\n"
-                "Fonte TAR senza regione: Tribunale amministrativo regionale 2000 (2001A0013)\r\n"
-                "Fonte GICO con numero > 1000: C. Cost. 12 marzo 2001, n. 1005 (2001A0014)\r\n"
-                "Fonte GICO/GICA senza numero: ord. C. Cost. 2000 (2001A0014)\r\n\r\n"));
+  EXPECT_EQ(Esegui({"errori", "fonti", Archivio()}).uscita,
+            "Errori nelle fonti\r\n\r\n"
+            "Fonte TAR senza regione: Tribunale amministrativo regionale 2000 (2001A0013)\r\n"
+            "Fonte GICO con numero > 1000: C. Cost. 12 marzo 2001, n. 1005 (2001A0014)\r\n"
+            "Fonte GICO/GICA senza numero: ord. C. Cost. 2000 (2001A0014)\r\n\r\n");
 }
 
 TEST_F(Genuini, AJetMasterMakesDeliveries) {
-  const QString master = cartella_.Mdb(QStringLiteral("master.mdb"));
-  Riesce({QStringLiteral("master"), master, QStringLiteral("--da"),
-          FileGenuino(QStringLiteral("master.mdb"))});
-  const QString esempio = cartella_.Mdb(QStringLiteral("esempio.mdb"));
-  Riesce({QStringLiteral("esempio"), esempio});
-  Riesce({QStringLiteral("verifica"), esempio},
-         QStringLiteral("Nessun difetto: %1\n").arg(esempio));
-  Riesce({QStringLiteral("esporta"), QStringLiteral("isis"), esempio}, kFine);
+  const QString master = cartella_.Mdb("master.mdb");
+  Riesce({"master", master, "--da", FileGenuino("master.mdb")});
+  const QString esempio = cartella_.Mdb("esempio.mdb");
+  Riesce({"esempio", esempio});
+  Riesce({"verifica", esempio}, QStringLiteral("Nessun difetto: %1\n").arg(esempio));
+  Riesce({"esporta", "isis", esempio}, kFine);
 }
 
 }  // namespace

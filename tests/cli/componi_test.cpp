@@ -13,16 +13,12 @@ class Componi : public testing::Test {
  protected:
   Componi() { AggiungiTrattati(cartella_.NuovaConsegna()); }
   [[nodiscard]] EsitoProgramma Esegui(const QString& forma, const QByteArray& ingresso) const {
-    return Torvi({QStringLiteral("componi"), forma, Archivio()}, {}, ingresso);
+    return Torvi({"componi", forma, Archivio()}, {}, ingresso);
   }
-  [[nodiscard]] QString Archivio() const { return cartella_.Mdb(QStringLiteral("A01.MDB")); }
+  [[nodiscard]] QString Archivio() const { return cartella_.Mdb("A01.MDB"); }
 
   CartellaDiProva cartella_;
 };
-
-QByteArray Linea(const QJsonObject& oggetto) {
-  return QJsonDocument(oggetto).toJson(QJsonDocument::Compact);
-}
 
 TEST_F(Componi, AnswersEveryLineAsTheTablesHaveIt) {
   const QByteArray prima = Byte(Archivio());
@@ -30,7 +26,8 @@ TEST_F(Componi, AnswersEveryLineAsTheTablesHaveIt) {
                                     std::pair{"altra", "citazioni_altre.jsonl"}}) {
     const QList<Citazione> citazioni = LeggiCitazioni(file);
     QByteArray ingresso;
-    for (const Citazione& citazione : citazioni) ingresso += Linea(citazione.richiesta) + "\n\n";
+    for (const Citazione& citazione : citazioni)
+      ingresso += QByteArray::fromStdString(Mostra(citazione.richiesta) + "\n\n");
     const EsitoProgramma esito = Esegui(forma, ingresso);
     EXPECT_EQ(esito.codice, 0);
     EXPECT_EQ(esito.errori, QString());
@@ -38,7 +35,7 @@ TEST_F(Componi, AnswersEveryLineAsTheTablesHaveIt) {
     ASSERT_EQ(risposte.size(), citazioni.size());
     for (qsizetype i = 0; i < risposte.size(); ++i) {
       const QJsonObject risposta = QJsonDocument::fromJson(risposte.at(i).toUtf8()).object();
-      EXPECT_EQ(Linea(Ridotta(risposta)), Linea(citazioni.at(i).attesa))
+      EXPECT_EQ(Mostra(Ridotta(risposta)), Mostra(citazioni.at(i).attesa))
           << file << ":" << citazioni.at(i).riga;
     }
   }
@@ -48,8 +45,7 @@ TEST_F(Componi, AnswersEveryLineAsTheTablesHaveIt) {
 // A script that reads answers by their fields finds every one of them, empty ones too.
 TEST_F(Componi, WritesAllFieldsOfARow) {
   const EsitoProgramma esito =
-      Esegui(QStringLiteral("interna"),
-             R"({"controlli":{"indice":2,"ComboFonte":"Legge costituzionale"}})");
+      Esegui("interna", R"({"controlli":{"indice":2,"ComboFonte":"Legge costituzionale"}})");
   EXPECT_EQ(esito.uscita.toStdString(),
             R"({"messaggi":[],"riga":{"Allegato":"","Altro":"","Amministrazione":"","Anno":"",)"
             R"("Articolo":"","Autorita":"","Cancellata":false,"Citta":"","Comma":"",)"
@@ -63,9 +59,9 @@ TEST_F(Componi, WritesAllFieldsOfARow) {
 TEST_F(Componi, StopsAtALineThatIsNoObject) {
   for (const QByteArray& guasta : {QByteArray("{\"controlli\": "), QByteArray("[1]"),
                                    QByteArray("art. 1 c.c."), QByteArray("{} {}")}) {
-    const EsitoProgramma esito = Esegui(QStringLiteral("altra"), "{}\n\n" + guasta + "\n{}\n");
+    const EsitoProgramma esito = Esegui("altra", "{}\n\n" + guasta + "\n{}\n");
     EXPECT_EQ(esito.codice, 1) << guasta.toStdString();
-    EXPECT_EQ(esito.errori, QStringLiteral("La riga 3 non è un oggetto JSON\n"));
+    EXPECT_EQ(esito.errori, "La riga 3 non è un oggetto JSON\n");
     EXPECT_EQ(esito.uscita.count(u'\n'), 1);
   }
 }

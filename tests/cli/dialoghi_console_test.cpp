@@ -14,13 +14,13 @@ TEST(DialoghiConsole, RefusesWhatNoOptionAnswers) {
   QString testo;
   QTextStream uscita(&testo);
   DialoghiConsole dialoghi(uscita);
-  dialoghi.Rispondi(QStringLiteral("Accodare?"), Risposta::Si);
-  EXPECT_EQ(dialoghi.Domanda(QStringLiteral("Accodare?"), {}, Pulsanti::SiNo), Risposta::Si);
+  dialoghi.Rispondi("Accodare?", Risposta::Si);
+  EXPECT_EQ(dialoghi.Domanda("Accodare?", {}, Pulsanti::SiNo), Risposta::Si);
   try {
-    static_cast<void>(dialoghi.Domanda(QStringLiteral("Cancellare?"), {}, Pulsanti::SiNo));
+    static_cast<void>(dialoghi.Domanda("Cancellare?", {}, Pulsanti::SiNo));
     FAIL() << "answered by nobody";
   } catch (const Rifiuto& rifiuto) {
-    EXPECT_EQ(rifiuto.domanda, QStringLiteral("Cancellare?"));
+    EXPECT_EQ(rifiuto.domanda, "Cancellare?");
   }
   EXPECT_THROW(static_cast<void>(dialoghi.Immissione({}, {})), Rifiuto);
   EXPECT_THROW(static_cast<void>(dialoghi.ScegliFile({})), Rifiuto);
@@ -28,8 +28,8 @@ TEST(DialoghiConsole, RefusesWhatNoOptionAnswers) {
   EXPECT_THROW(static_cast<void>(dialoghi.ScegliFileUscita({}, {}, true)), Rifiuto);
   EXPECT_THROW(static_cast<void>(dialoghi.ChiediTestoEsteso({})), Rifiuto);
   EXPECT_THROW(static_cast<void>(dialoghi.ScegliDaLista({})), Rifiuto);
-  dialoghi.FileUscitaScelto(QStringLiteral("lexxdump.tot"));
-  EXPECT_EQ(dialoghi.ScegliFileUscita({}, {}, true), QStringLiteral("lexxdump.tot"));
+  dialoghi.FileUscitaScelto("lexxdump.tot");
+  EXPECT_EQ(dialoghi.ScegliFileUscita({}, {}, true), "lexxdump.tot");
 }
 
 TEST(DialoghiConsole, SaysOneLineForEachMessageAndShowsNoProgressInAFile) {
@@ -38,12 +38,12 @@ TEST(DialoghiConsole, SaysOneLineForEachMessageAndShowsNoProgressInAFile) {
   DialoghiConsole dialoghi(uscita);
   testing::internal::CaptureStderr();
   dialoghi.Attesa(true);
-  dialoghi.Avanzamento(QStringLiteral("Esportazione"), 1, 2);
-  dialoghi.Messaggio(QStringLiteral("Prima riga\r\nseconda – già"));
+  dialoghi.Avanzamento("Esportazione", 1, 2);
+  dialoghi.Messaggio("Prima riga\r\nseconda – già");
   dialoghi.Attesa(false);
-  dialoghi.MostraErrori(QStringLiteral("Errori\r\n"));
+  dialoghi.MostraErrori("Errori\r\n");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "Prima riga seconda – già\n");
-  EXPECT_EQ(testo, QStringLiteral("Errori\r\n"));
+  EXPECT_EQ(testo, "Errori\r\n");
 }
 
 // Standard error as a terminal, as long as it lives.
@@ -77,12 +77,12 @@ TEST(DialoghiConsole, ShowsHowFarARunHasComeOnATerminal) {
   QTextStream uscita(&testo);
   DialoghiConsole dialoghi(uscita);
   const Terminale terminale;
-  dialoghi.Ambito(QStringLiteral("B01 (2 di 3): "));
-  dialoghi.Avanzamento(QStringLiteral("Note"), 100, 250);
+  dialoghi.Ambito("B01 (2 di 3): ");
+  dialoghi.Avanzamento("Note", 100, 250);
   EXPECT_EQ(terminale.Scritto(), "\rB01 (2 di 3): Note: 100 di 250");
-  dialoghi.Avanzamento(QStringLiteral("Note"), 5, 0);  // over the longer line
+  dialoghi.Avanzamento("Note", 5, 0);  // over the longer line
   EXPECT_EQ(terminale.Scritto(), "\rB01 (2 di 3): Note: 5         ");
-  dialoghi.Messaggio(QStringLiteral("Fine"));
+  dialoghi.Messaggio("Fine");
   EXPECT_EQ(terminale.Scritto(), "\r                     \rFine\r\n");
 }
 

@@ -18,13 +18,11 @@ namespace {
 class IngressiErrati : public testing::Test {
  protected:
   void SetUp() override {
-    archivio_ = cartella_.Mdb(QStringLiteral("A01.MDB"));
-    cartella_.NuovaConsegna(QStringLiteral("A01.MDB")).Close();
+    archivio_ = cartella_.Mdb("A01.MDB");
+    cartella_.NuovaConsegna("A01.MDB").Close();
   }
   [[nodiscard]] EsitoProgramma Esporta(const QStringList& davanti = {}) const {
-    return Torvi({QStringLiteral("--cartella"), cartella_.Percorso(), QStringLiteral("esporta"),
-                  QStringLiteral("isis"), archivio_},
-                 davanti);
+    return Torvi({"--cartella", cartella_.Percorso(), "esporta", "isis", archivio_}, davanti);
   }
   // Exit 1 and one line with the number and the name; nothing in mdb/ changes.
   void FallisceCon(int numero, const QString& nome, const QStringList& davanti = {}) const {
@@ -72,7 +70,7 @@ TEST_F(IngressiErrati, AFileThatIsNoArchive) {
 }
 
 TEST_F(IngressiErrati, ADamagedGenuineFile) {
-  const QString genuino = FileGenuino(QStringLiteral("consegna.mdb"));
+  const QString genuino = FileGenuino("consegna.mdb");
   if (genuino.isEmpty()) GTEST_SKIP() << "the genuine Jet files are not at hand";
   const QByteArray intero = Byte(genuino);
   ScriviByte(archivio_, intero.left(intero.size() / 3));
@@ -87,13 +85,13 @@ TEST_F(IngressiErrati, ADamagedGenuineFile) {
 }
 
 TEST_F(IngressiErrati, AForeignDatabase) {
-  const QString altro = FileGenuino(QStringLiteral("classificazione.mdb"));
+  const QString altro = FileGenuino("classificazione.mdb");
   if (!altro.isEmpty()) {
     ScriviByte(archivio_, Byte(altro));
     FallisceCon(3011, archivio_);
   }
   QFile::remove(archivio_);
-  ASSERT_EQ(Torvi({QStringLiteral("catalogo"), archivio_}).codice, 0);
+  ASSERT_EQ(Torvi({"catalogo", archivio_}).codice, 0);
   FallisceCon(3011, archivio_);
 }
 
@@ -107,60 +105,58 @@ TEST_F(IngressiErrati, AnAbsentFileOrFolder) {
 TEST_F(IngressiErrati, TabInfoWithoutARowOrWithTwo) {
   {
     const Database archivio = OpenDatabase(archivio_);
-    Aggiungi(archivio, QStringLiteral("TabInfo"), {{"Consegna", "A02"}});
+    Aggiungi(archivio, "TabInfo", {{"Consegna", "A02"}});
   }
   FallisceCon(3011, archivio_);
-  OpenDatabase(archivio_).Execute(QStringLiteral("delete * from TabInfo"));
+  OpenDatabase(archivio_).Execute("delete * from TabInfo");
   FallisceCon(3021, archivio_);
   const EsitoProgramma esito =
-      Torvi({QStringLiteral("--cartella"), cartella_.Percorso(), QStringLiteral("errori"),
-             QStringLiteral("fonti"), archivio_});
+      Torvi({"--cartella", cartella_.Percorso(), "errori", "fonti", archivio_});
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '3021': ")));
+  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '3021': "));
 }
 
 TEST_F(IngressiErrati, AnArchiveWithoutDocuments) {
   const EsitoProgramma esito = Esporta();
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '3021': ")));
+  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '3021': "));
 }
 
 TEST_F(IngressiErrati, AnAbsentNormCatalogueEndsTheRunAtTheFirstAct) {
   QFile::remove(archivio_);
-  ASSERT_EQ(Torvi({QStringLiteral("esempio"), archivio_}).codice, 0);
+  ASSERT_EQ(Torvi({"esempio", archivio_}).codice, 0);
   const EsitoProgramma esito = Esporta();
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '3024': ")));
-  EXPECT_TRUE(esito.errori.contains(QStringLiteral("/mdb/catalogo norme.mdb")));
-  EXPECT_TRUE(Byte(cartella_.Dump(QStringLiteral("lexxdump isis.A01"))).isEmpty());
+  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '3024': "));
+  EXPECT_TRUE(esito.errori.contains("/mdb/catalogo norme.mdb"));
+  EXPECT_TRUE(Byte(cartella_.Dump("lexxdump isis.A01")).isEmpty());
 }
 
 TEST_F(IngressiErrati, AnAbsentDumpFolder) {
-  ASSERT_TRUE(QDir(cartella_.Percorso()).rmdir(QStringLiteral("dump")));
+  ASSERT_TRUE(QDir(cartella_.Percorso()).rmdir("dump"));
   const EsitoProgramma esito = Esporta();
   EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '76': ")))
-      << esito.errori.toStdString();
+  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '76': ")) << esito.errori.toStdString();
   EXPECT_TRUE(esito.errori.contains(cartella_.Percorso() + "/dump"));
 }
 
 TEST_F(IngressiErrati, AFileThatExistsIsNotWrittenOver) {
   for (const char* comando : {"master", "catalogo", "esempio"}) {
     const QByteArray prima = Byte(archivio_);
-    const EsitoProgramma esito = Torvi({QString::fromLatin1(comando), archivio_});
+    const EsitoProgramma esito = Torvi({comando, archivio_});
     EXPECT_EQ(esito.codice, 1) << comando;
-    EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '75': "))) << comando;
+    EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '75': ")) << comando;
     EXPECT_TRUE(esito.errori.contains(archivio_)) << comando;
     EXPECT_EQ(Byte(archivio_), prima) << comando;
   }
 }
 
 TEST_F(IngressiErrati, AFileInUseByAnother) {
-  if (QStandardPaths::findExecutable(QStringLiteral("sqlite3")).isEmpty()) {
+  if (QStandardPaths::findExecutable("sqlite3").isEmpty()) {
     GTEST_SKIP() << "no sqlite3";
   }
   QProcess altro;
-  altro.start(QStringLiteral("sqlite3"), {archivio_});
+  altro.start("sqlite3", {archivio_});
   altro.write("BEGIN EXCLUSIVE; SELECT 'preso';\n");
   ASSERT_TRUE(altro.waitForReadyRead(-1));
   FallisceCon(3045, archivio_);
@@ -171,14 +167,12 @@ TEST_F(IngressiErrati, AFileInUseByAnother) {
 // As a user without rights; the owner of all rights is not held by permissions.
 TEST_F(IngressiErrati, AFileThatCannotBeWritten) {
   const QStringList senzaDiritti =
-      ::geteuid() == 0
-          ? QStringList{QStringLiteral("setpriv"), QStringLiteral("--reuid=65534"),
-                        QStringLiteral("--regid=65534"), QStringLiteral("--clear-groups")}
-          : QStringList{};
-  if (Torvi({QStringLiteral("--aiuto")}, senzaDiritti).codice != 0) {
+      ::geteuid() == 0 ? QStringList{"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"}
+                       : QStringList{};
+  if (Torvi({"--aiuto"}, senzaDiritti).codice != 0) {
     GTEST_SKIP() << "the program is out of reach for a user without rights";
   }
-  for (const QString& cartella : {QString(), QStringLiteral("/mdb"), QStringLiteral("/dump")}) {
+  for (const QString& cartella : {QString(), "/mdb", "/dump"}) {
     QFile::setPermissions(cartella_.Percorso() + cartella,
                           QFile::Permissions(0x5755));  // rwxr-xr-x
   }

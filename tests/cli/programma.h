@@ -16,7 +16,4 @@ struct EsitoProgramma {
 [[nodiscard]] EsitoProgramma Torvi(const QStringList& argomenti, const QStringList& davanti = {},
                                    const QByteArray& ingresso = {});
 
-// An archive's columns of `TabInfo` in the order of the schema, Null as "-".
-[[nodiscard]] QString Informazioni(const QString& archivio);
-
 }  // namespace torvi

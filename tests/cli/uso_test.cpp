@@ -53,22 +53,22 @@ TEST(Uso, WhatMakesNoSenseIsAnsweredWithTheUsage) {
   for (const Caso& caso : kCasi) {
     const EsitoProgramma esito = Torvi(Parole(caso.argomenti));
     EXPECT_EQ(esito.codice, 2) << caso.argomenti;
-    EXPECT_TRUE(esito.errori.startsWith(QString::fromUtf8(caso.motivo)))
+    EXPECT_TRUE(esito.errori.startsWith(caso.motivo))
         << caso.argomenti << ": " << esito.errori.toStdString();
-    EXPECT_TRUE(esito.errori.contains(QStringLiteral("\n\nUso: torvi "))) << caso.argomenti;
+    EXPECT_TRUE(esito.errori.contains("\n\nUso: torvi ")) << caso.argomenti;
     EXPECT_TRUE(esito.uscita.isEmpty()) << caso.argomenti;
   }
 }
 
 TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
-  const QString generale = Torvi({QStringLiteral("--aiuto")}).uscita;
-  EXPECT_TRUE(generale.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] COMANDO")));
+  const QString generale = Torvi({"--aiuto"}).uscita;
+  EXPECT_TRUE(generale.startsWith("Uso: torvi [--cartella DIR] COMANDO"));
   for (const char* comando :
        {"nuovo", "esporta", "errori", "stampa", "estrai", "lotto", "controllo", "cerca", "componi",
         "converti", "verifica", "master", "catalogo", "esempio"}) {
-    const QString nome = QString::fromLatin1(comando);
+    const QString nome = comando;
     EXPECT_TRUE(generale.contains(QStringLiteral("  torvi %1 ").arg(nome))) << comando;
-    const EsitoProgramma esito = Torvi({nome, QStringLiteral("--aiuto")});
+    const EsitoProgramma esito = Torvi({nome, "--aiuto"});
     EXPECT_EQ(esito.codice, 0);
     EXPECT_TRUE(
         esito.uscita.startsWith(QStringLiteral("Uso: torvi [--cartella DIR] %1 ").arg(nome)))
@@ -78,17 +78,16 @@ TEST(Uso, HelpIsThereForTheProgramAndForEachCommand) {
 }
 
 TEST(Uso, ATerminalWithoutUtf8ChangesNothing) {
-  const EsitoProgramma esito =
-      Torvi({QStringLiteral("--aiuto")}, {QStringLiteral("env"), QStringLiteral("LC_ALL=C")});
+  const EsitoProgramma esito = Torvi({"--aiuto"}, {"env", "LC_ALL=C"});
   EXPECT_EQ(esito.codice, 0);
   EXPECT_TRUE(esito.errori.isEmpty()) << esito.errori.toStdString();
-  EXPECT_EQ(esito.uscita, Torvi({QStringLiteral("--aiuto")}).uscita);
+  EXPECT_EQ(esito.uscita, Torvi({"--aiuto"}).uscita);
 }
 
 TEST(Uso, OutputThatCannotBeWrittenIsAFailure) {
   QProcess processo;
-  processo.setStandardOutputFile(QStringLiteral("/dev/full"));
-  processo.start(QStringLiteral(TORVI_PROGRAMMA), {QStringLiteral("--aiuto")});
+  processo.setStandardOutputFile("/dev/full");
+  processo.start(TORVI_PROGRAMMA, {"--aiuto"});
   ASSERT_TRUE(processo.waitForFinished(-1));
   EXPECT_EQ(processo.exitCode(), 1);
 }
@@ -96,7 +95,7 @@ TEST(Uso, OutputThatCannotBeWrittenIsAFailure) {
 // The companion runs where no graphical library is installed.
 TEST(Uso, TheProgramLoadsNoGraphicalLibrary) {
   QProcess ldd;
-  ldd.start(QStringLiteral("ldd"), {QStringLiteral(TORVI_PROGRAMMA)});
+  ldd.start("ldd", {TORVI_PROGRAMMA});
   ASSERT_TRUE(ldd.waitForFinished(-1));
   const QByteArray librerie = ldd.readAllStandardOutput();
   EXPECT_TRUE(librerie.contains("libQt6Core"));

@@ -13,7 +13,7 @@ namespace torvi {
 namespace {
 
 Database ConDati(Database database, const DatiConsegna& dati) {
-  Aggiungi(database, QStringLiteral("TabInfo"),
+  Aggiungi(database, "TabInfo",
            {{"Consegna", dati.consegna},
             {"NumInizio", dati.inizio},
             {"IDCentroSpoglio", dati.centro},
@@ -33,8 +33,8 @@ StatoGlobale Stato(const CartellaDiProva& cartella, const Database& consegna) {
 
 CartellaDiProva::CartellaDiProva() {
   EXPECT_TRUE(cartella_.isValid());
-  EXPECT_TRUE(QDir(Percorso()).mkpath(QStringLiteral("mdb")));
-  EXPECT_TRUE(QDir(Percorso()).mkpath(QStringLiteral("dump")));
+  EXPECT_TRUE(QDir(Percorso()).mkpath("mdb"));
+  EXPECT_TRUE(QDir(Percorso()).mkpath("dump"));
 }
 
 Database CartellaDiProva::NuovaConsegna(const QString& nome, const DatiConsegna& dati) const {
@@ -52,13 +52,26 @@ StatoGlobale CartellaDiProva::StatoConCodici(const DatiConsegna& dati) const {
   return Stato(*this, ConDati(OpenDatabase(consegna), dati));
 }
 
-qint64 Aggiungi(const Database& database, const QString& tabella,
-                std::initializer_list<std::pair<const char*, Campo>> valori) {
+qint64 Aggiungi(const Database& database, const QString& tabella, Valori valori) {
   Recordset righe = database.OpenRecordset(tabella);
   righe.AddNew();
   for (const auto& [nome, valore] : valori) righe.Assegna(nome, valore);
   righe.Update();
   return righe.LastModified();
+}
+
+QStringList RigheTesto(const Database& database, const QString& origine, QStringList colonne) {
+  if (colonne.isEmpty()) colonne = database.Colonne(origine);
+  QStringList righe;
+  for (Recordset lette = database.OpenRecordset(origine); !lette.Eof(); lette.MoveNext()) {
+    QStringList valori;
+    for (const QString& colonna : colonne) {
+      const Campo campo = lette.Fields(colonna.toStdString());
+      valori += campo.Nullo() ? "-" : campo.Testo();
+    }
+    righe += valori.join('|');
+  }
+  return righe;
 }
 
 QByteArray Byte(const QString& percorso) {

@@ -13,10 +13,10 @@
 namespace torvi {
 
 struct DatiConsegna {
-  QString consegna = QStringLiteral("A01");
-  QString inizio = QStringLiteral("12");
-  QString centro = QStringLiteral("A");
-  QString anno = QStringLiteral("2001");
+  QString consegna = "A01";
+  QString inizio = "12";
+  QString centro = "A";
+  QString anno = "2001";
 };
 
 class CartellaDiProva {
@@ -26,8 +26,7 @@ class CartellaDiProva {
   [[nodiscard]] QString Mdb(const QString& nome) const { return Percorso() + "/mdb/" + nome; }
   [[nodiscard]] QString Dump(const QString& nome) const { return Percorso() + "/dump/" + nome; }
   // An empty delivery in mdb/, opened.
-  Database NuovaConsegna(const QString& nome = QStringLiteral("A01.MDB"),
-                         const DatiConsegna& dati = {}) const;
+  Database NuovaConsegna(const QString& nome = "A01.MDB", const DatiConsegna& dati = {}) const;
   // The state of a program that has just opened that delivery.
   [[nodiscard]] StatoGlobale StatoConConsegna(const DatiConsegna& dati = {}) const;
   // The same with every code table filled, as a copy of the master archive.
@@ -37,9 +36,14 @@ class CartellaDiProva {
   QTemporaryDir cartella_;
 };
 
-// Adds a row to a table: column names and values in turn. Result: its number.
-qint64 Aggiungi(const Database& database, const QString& tabella,
-                std::initializer_list<std::pair<const char*, Campo>> valori);
+// Column names and values in turn.
+using Valori = std::initializer_list<std::pair<const char*, Campo>>;
+// Adds a row to a table. Result: its number.
+qint64 Aggiungi(const Database& database, const QString& tabella, Valori valori);
+// The rows of a table or statement, values between bars, Null as "-"; without `colonne` those of
+// the table in the order of its schema.
+[[nodiscard]] QStringList RigheTesto(const Database& database, const QString& origine,
+                                     QStringList colonne = {});
 
 // All bytes of a file; a file that is not there fails the test.
 [[nodiscard]] QByteArray Byte(const QString& percorso);
@@ -48,15 +52,21 @@ void ScriviByte(const QString& percorso, const QByteArray& byte);
 // "../shared/jet/<nome>" seen from the project, or empty where the genuine files are not at hand.
 [[nodiscard]] QString FileGenuino(const QString& nome);
 
-// The number of the run-time error that `azione` ends with, 0 where it ends well.
+// The run-time error that `azione` ends with, as its number, a blank and its description; empty
+// where it ends well.
 template <typename Azione>
-[[nodiscard]] int NumeroErrore(Azione&& azione) {
+[[nodiscard]] QString ErroreDi(Azione&& azione) {
   try {
     azione();
   } catch (const ErroreEsecuzione& errore) {
-    return errore.Numero();
+    return QStringLiteral("%1 %2").arg(QString::number(errore.Numero()), errore.Descrizione());
   }
-  return 0;
+  return {};
+}
+// Its number alone, 0 where it ends well.
+template <typename Azione>
+[[nodiscard]] int NumeroErrore(Azione&& azione) {
+  return ErroreDi(azione).section(' ', 0, 0).toInt();
 }
 
 }  // namespace torvi

@@ -55,8 +55,12 @@ QJsonObject Ridotta(const QJsonObject& risposta) {
   return ridotta;
 }
 
+std::string Mostra(const QJsonObject& oggetto) {
+  return QJsonDocument(oggetto).toJson(QJsonDocument::Compact).toStdString();
+}
+
 void AggiungiTrattati(const Database& archivio) {
-  const QString trattati = QStringLiteral("TabNIT");
+  const QString trattati = "TabNIT";
   Aggiungi(archivio, trattati,
            {{"nit", "Conv."},
             {"fonte", "Conv. Alfa 1950"},

@@ -18,6 +18,8 @@ struct Citazione {
 [[nodiscard]] QList<Citazione> LeggiCitazioni(const QString& nome);
 // An answer as the tables have it.
 [[nodiscard]] QJsonObject Ridotta(const QJsonObject& risposta);
+// On one line, the names in the order of the alphabet.
+[[nodiscard]] std::string Mostra(const QJsonObject& oggetto);
 // The treaties that the tables cite.
 void AggiungiTrattati(const Database& archivio);
 

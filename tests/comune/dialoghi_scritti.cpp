@@ -127,7 +127,7 @@ QString DialoghiScritti::ChiediInformazione() {
 
 QString DialoghiScritti::ScegliFileUscita(const QString& cartella, const QString& modello,
                                           bool conNuovo) {
-  uscita_ = {cartella, modello, conNuovo ? QStringLiteral("nuovo") : QString()};
+  uscita_ = {cartella, modello, conNuovo ? "nuovo" : QString()};
   return Prossima({Genere::FileUscita, {}, {}, {}, {}}).testo;
 }
 

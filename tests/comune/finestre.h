@@ -5,6 +5,9 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -27,10 +30,10 @@ inline QString Parole(const QWidget& modale) {
   for (const auto codice :
        {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
     if (auto* pulsante = riquadro->button(codice)) {
-      parole += pulsante->text().remove(QLatin1Char('&'));
+      parole += pulsante->text().remove('&');
     }
   }
-  return parole.join(QLatin1Char('|'));
+  return parole.join('|');
 }
 
 // Runs `azione`; each modal form that it opens, one inside the other too, is met by the next step.
@@ -83,7 +86,7 @@ class Operatore {
 // A control by its name; its absence fails the test.
 template <typename Controllo>
 [[nodiscard]] Controllo& Trova(const QWidget& forma, const char* nome) {
-  auto* controllo = forma.findChild<Controllo*>(QLatin1String(nome));
+  auto* controllo = forma.findChild<Controllo*>(nome);
   if (controllo == nullptr) {
     ADD_FAILURE() << "no control " << nome;
     throw std::logic_error(nome);
@@ -91,8 +94,33 @@ template <typename Controllo>
   return *controllo;
 }
 
+// The lines of a list.
+[[nodiscard]] inline QStringList Linee(const QListWidget& lista) {
+  QStringList linee;
+  for (int i = 0; i < lista.count(); ++i) linee += lista.item(i)->text();
+  return linee;
+}
+
+// What stands on a form, between bars: its title, its labels, its buttons.
+[[nodiscard]] inline std::string Scritte(const QWidget& forma) {
+  QStringList scritte = {forma.windowTitle()};
+  for (const auto* etichetta : forma.findChildren<QLabel*>()) scritte += etichetta->text();
+  for (const auto* pulsante : forma.findChildren<QPushButton*>()) scritte += pulsante->text();
+  return scritte.join(QLatin1Char('|')).toStdString();
+}
+
 inline void Clic(const QWidget& forma, const char* pulsante) {
   QTest::mouseClick(&Trova<QPushButton>(forma, pulsante), Qt::LeftButton);
+}
+
+// A step that names a file in the chooser and takes it.
+inline Passo ScriveFile(const QString& nome) {
+  return [nome](QWidget& modale) {
+    auto& campo = Trova<QLineEdit>(modale, "fileNameEdit");
+    campo.selectAll();
+    QTest::keyClicks(&campo, nome);
+    QTest::keyClick(&campo, Qt::Key_Return);
+  };
 }
 
 // A step that checks the words of a box and answers with a key.

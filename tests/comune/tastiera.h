@@ -22,8 +22,8 @@ inline void Batti(const QString& copione) {
     throw std::logic_error("no window is active");
   };
   for (qsizetype i = 0; i < copione.size(); ++i) {
-    if (copione.at(i) == QLatin1Char('{')) {
-      const qsizetype fine = copione.indexOf(QLatin1Char('}'), i);
+    if (copione.at(i) == '{') {
+      const qsizetype fine = copione.indexOf('}', i);
       const QKeyCombination tasto = QKeySequence::fromString(copione.mid(i + 1, fine - i - 1))[0];
       QTest::keyClick(fuoco(), tasto.key(), tasto.keyboardModifiers());
       i = fine;

@@ -17,8 +17,8 @@ class ArchivioDiProva {
   DialoghiScritti dialoghi;
   Documento documento{stato, dialoghi};
 
-  qint64 Metti(const char* tabella, std::initializer_list<std::pair<const char*, Campo>> valori) {
-    return Aggiungi(stato.DbArchivio, QLatin1String(tabella), valori);
+  qint64 Metti(const char* tabella, Valori valori) {
+    return Aggiungi(stato.DbArchivio, tabella, valori);
   }
   // The form opened on a document, or on a new one where the number is empty.
   void Apri(const QString& numero);

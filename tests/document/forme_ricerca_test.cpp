@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMainWindow>
 #include <QRadioButton>
 
@@ -24,12 +22,6 @@ class FormeRicerca : public testing::Test {
   static void Tasti(QWidget& forma, std::initializer_list<Qt::Key> tasti,
                     Qt::KeyboardModifiers con = Qt::NoModifier) {
     for (const Qt::Key tasto : tasti) QTest::keyClick(forma.focusWidget(), tasto, con);
-  }
-  [[nodiscard]] static QString Linee(const QWidget& forma, const char* lista) {
-    const auto& linee = Trova<QListWidget>(forma, lista);
-    QStringList testi;
-    for (int i = 0; i < linee.count(); ++i) testi += linee.item(i)->text();
-    return testi.join('|');
   }
   bool Sceglie(const Passo& uso) {
     bool scelto = false;
@@ -79,7 +71,8 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
-  EXPECT_EQ(Linee(*forma, "lstDocumento"), "1 --> 2001A0012|4 --> 2001A0013");
+  EXPECT_EQ(Linee(Trova<QListWidget>(*forma, "lstDocumento")).join('|'),
+            "1 --> 2001A0012|4 --> 2001A0013");
   EXPECT_EQ(prova.Metti("TabDocumento", {{"IDRifBibl", 1}}), 5);  // never a number twice
   Clic(*forma, "cmdCancella");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Nessuna selezione effettuata");
@@ -88,7 +81,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
-  EXPECT_EQ(Linee(*forma, "lstDocumento"), "5 --> 2001A0012");
+  EXPECT_EQ(Linee(Trova<QListWidget>(*forma, "lstDocumento")).join('|'), "5 --> 2001A0012");
   // The rows that belonged to the documents stay.
   EXPECT_FALSE(stato.DbArchivio.OpenRecordset("LegameDocTesto").Eof());
   stato.DbArchivio.Close();
@@ -97,7 +90,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
   EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith("Error number: 3420\r"));
-  EXPECT_EQ(Linee(*forma, "lstDocumento"), "5 --> 2001A0012");
+  EXPECT_EQ(Linee(Trova<QListWidget>(*forma, "lstDocumento")).join('|'), "5 --> 2001A0012");
   Clic(*forma, "cmdAnnulla");
   EXPECT_TRUE(QTest::qWaitFor([&] { return forma.isNull(); }));
 }
@@ -133,7 +126,7 @@ TEST_F(FormeRicerca, SearchesByKeysAlone) {
     Tasti(modale, {Qt::Key_A}, Qt::ControlModifier);
     QTest::keyClicks(modale.focusWidget(), "TESTO 0");
     Tasti(modale, {Qt::Key_Enter});
-    EXPECT_EQ(Linee(modale, "lstRisultato"), "1 --> 2001A0012 ?");
+    EXPECT_EQ(Linee(Trova<QListWidget>(modale, "lstRisultato")).join('|'), "1 --> 2001A0012 ?");
     QTest::keyClick(&modale, Qt::Key_I, Qt::AltModifier);
   });
   EXPECT_EQ(esito, QDialog::Accepted);
@@ -160,7 +153,7 @@ TEST_F(FormeRicerca, ProposesThePartByTheField) {
               std::pair{"Data pubblicazione", "Almeno una bloccata"}, std::pair{"Nota", "Tutte"},
               std::pair{"CPer", "Almeno una bloccata"}, std::pair{"Fonte (testo)", "Tutte"},
               std::pair{"Fonte (TP)", "Almeno una bloccata"}}) {
-          campo.setCurrentText(QString::fromUtf8(voce));
+          campo.setCurrentText(voce);
           EXPECT_EQ(mostra(), proposta) << voce;
         }
         Trova<QRadioButton>(modale, "optIntero").click();
@@ -170,7 +163,7 @@ TEST_F(FormeRicerca, ProposesThePartByTheField) {
         Trova<QLineEdit>(modale, "txtParola").setText("0 testo");
         parte.setCurrentIndex(0);
         Clic(modale, "cmdRicerca");
-        EXPECT_EQ(Linee(modale, "lstRisultato"), "1 --> 2001A0012 ?");
+        EXPECT_EQ(Linee(Trova<QListWidget>(modale, "lstRisultato")).join('|'), "1 --> 2001A0012 ?");
         Trova<QLineEdit>(modale, "txtParola").clear();
         Clic(modale, "cmdRicerca");
         EXPECT_EQ(prova.dialoghi.Messaggi(), QStringList("Informazioni mancanti!"));

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QLabel>
 
 #include "comune/finestre.h"
 #include "document/archivio_di_prova.h"
@@ -12,13 +11,6 @@
 
 namespace torvi {
 namespace {
-
-QStringList Scritte(const QWidget& forma) {
-  QStringList scritte = {forma.windowTitle()};
-  for (const auto* etichetta : forma.findChildren<QLabel*>()) scritte += etichetta->text();
-  for (const auto* pulsante : forma.findChildren<QPushButton*>()) scritte += pulsante->text();
-  return scritte;
-}
 
 template <typename Forma>
 int Apre(ArchivioDiProva& prova, const Passo& uso) {
@@ -51,7 +43,7 @@ TEST(FormeTestoBreve, StoreWhatWasTypedAndPasted) {
   for (const Caso& caso : kCasi) {
     ArchivioDiProva prova;
     const int esito = caso.apre(prova, [&](QWidget& forma) {
-      EXPECT_EQ(Scritte(forma).join(u'|').toStdString(), caso.scritte);
+      EXPECT_EQ(Scritte(forma), caso.scritte);
       auto& testo = Trova<QPlainTextEdit>(forma, caso.controllo);
       EXPECT_EQ(forma.focusWidget(), &testo);
       EXPECT_EQ(testo.toPlainText(), caso.inArchivio);
@@ -59,7 +51,7 @@ TEST(FormeTestoBreve, StoreWhatWasTypedAndPasted) {
       QGuiApplication::clipboard()->setText(incollato);
       QTest::keySequence(&testo, QKeySequence::Paste);
       QTest::keyClick(&testo, Qt::Key_Return);
-      QTest::keyClicks(&testo, QStringLiteral("fine"));
+      QTest::keyClicks(&testo, "fine");
       QTest::keyClick(&testo, Qt::Key_Tab);
       QTest::keyClick(forma.focusWidget(), Qt::Key_Return);
     });
@@ -72,13 +64,13 @@ TEST(FormeTestoBreve, StoreWhatWasTypedAndPasted) {
 TEST(FormeTestoBreve, LeaveTheTextAlone) {
   for (const Caso& caso : kCasi) {
     ArchivioDiProva prova;
-    prova.stato.*caso.buffer = QStringLiteral("prima");
+    prova.stato.*caso.buffer = "prima";
     caso.apre(prova, [](QWidget& forma) { QTest::keyClick(&forma, Qt::Key_Escape); });
     for (const Risposta risposta : {Risposta::Annulla, Risposta::Ok}) {
       prova.dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, risposta);
     }
     caso.apre(prova, [](QWidget& forma) {
-      QTest::keyClicks(forma.focusWidget(), QStringLiteral("altro"));
+      QTest::keyClicks(forma.focusWidget(), "altro");
       QTest::keyClick(&forma, Qt::Key_Escape);
       EXPECT_TRUE(forma.isVisible());
       QTest::keyClick(&forma, Qt::Key_Escape);
@@ -91,7 +83,8 @@ TEST(HelpTastiFunzione, ShowsTheKeysAndGoesWithEscOrEnter) {
   for (const Qt::Key tasto : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
     frmHelpTastiFunzione forma;
     Operatore::Esegue([&] { forma.exec(); }, {[tasto](QWidget& aperta) {
-                        const QStringList scritte = Scritte(aperta);
+                        const QStringList scritte =
+                            QString::fromStdString(Scritte(aperta)).split('|');
                         EXPECT_EQ(scritte.size(), 13);
                         EXPECT_EQ(scritte[0], "Help su tasti funzione");
                         EXPECT_EQ(scritte[7], "F7 = Inserisci nuova responsabilita");

@@ -41,22 +41,19 @@ class FormaDocumento : public testing::Test {
     return TestoMostrato(Trova<QPlainTextEdit>(*forma, campo));
   }
   [[nodiscard]] QString Mostrato(const char* campo) const {
-    const auto* riga = forma->findChild<QLineEdit*>(QLatin1String(campo));
+    const auto* riga = forma->findChild<QLineEdit*>(campo);
     return riga != nullptr ? riga->text() : Testo(campo);
   }
   void Incolla(const char* campo, const QString& testo) const {
     QGuiApplication::clipboard()->setText(testo);
     Vai(campo);
-    Batti(QStringLiteral("{Ctrl+A}{Ctrl+V}"));
+    Batti("{Ctrl+A}{Ctrl+V}");
   }
   [[nodiscard]] QString Voce(const char* combo) const {
     return Trova<QComboBox>(*forma, combo).currentText();
   }
   [[nodiscard]] std::string Linee(const char* lista) const {
-    const auto& controllo = Trova<QListWidget>(*forma, lista);
-    QStringList linee;
-    for (int i = 0; i < controllo.count(); ++i) linee += controllo.item(i)->text();
-    return linee.join(QLatin1Char('\n')).toStdString();
+    return torvi::Linee(Trova<QListWidget>(*forma, lista)).join('\n').toStdString();
   }
 
   ArchivioDiProva prova;
@@ -65,7 +62,7 @@ class FormaDocumento : public testing::Test {
 };
 
 TEST_F(FormaDocumento, ShowsTheChosenDocument) {
-  Apri(QStringLiteral("1"));
+  Apri("1");
   for (const auto& [campo, valore] : {std::pair{"txtID", "1"},
                                       {"txtAnnoPr", "2001"},
                                       {"txtFascicolo", "3"},
@@ -95,34 +92,34 @@ TEST_F(FormaDocumento, ShowsTheChosenDocument) {
 TEST_F(FormaDocumento, KeepsAwkwardTextsInEveryField) {
   const auto rompe = [](const QString& campo, const QString& testo) {
     if (campo == "txtTitolo" || campo == "txtNota") return false;
-    return testo.contains(campo == "txtPagine" ? QLatin1Char('\'') : QLatin1Char('"'));
+    return testo.contains(campo == "txtPagine" ? '\'' : '"');
   };
-  Apri(QStringLiteral("1"));
-  for (const QString& testo :
-       {QStringLiteral("l'uno *?[ è €"), QStringLiteral("\"due\""), QString::fromUtf8("\U0001F600"),
-        QStringLiteral("a\u00A0b\t."), QString(10000, QLatin1Char('x'))}) {
+  Apri("1");
+  const QStringList testi = {"l'uno *?[ è €", "\"due\"", "\U0001F600", "a\u00A0b\t.",
+                             QString(10000, 'x')};
+  for (const QString& testo : testi) {
     for (const char* campo : {"txtFascicolo", "txtAnnata", "txtVolume", "txtParte", "txtSerie",
                               "txtSuppl", "txtSez", "txtPagine", "txtTitolo", "txtNota"}) {
       Incolla(campo, testo);
-      Batti(QStringLiteral("{F4}"));
-      const bool rotto = rompe(QLatin1String(campo), testo);
-      EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith(
-          rotto ? QLatin1String("Errore di run-time '3075'") : QLatin1String("Documento salvato!")))
+      Batti("{F4}");
+      const bool rotto = rompe(campo, testo);
+      EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith(rotto ? "Errore di run-time '3075'"
+                                                                    : "Documento salvato!"))
           << campo << " " << testo.left(20).toStdString();
       EXPECT_TRUE(Mostrato(campo) == testo) << campo;
-      Batti(QStringLiteral("{F6}{F5}"));
+      Batti("{F6}{F5}");
       QString riletto = testo;
-      if (campo[3] == 'T' || campo[3] == 'N') riletto.remove(QStringLiteral("\t."));
+      if (campo[3] == 'T' || campo[3] == 'N') riletto.remove("\t.");
       EXPECT_EQ(Mostrato(campo) == riletto, !rotto) << campo << " " << testo.left(20).toStdString();
     }
   }
 }
 
 TEST_F(FormaDocumento, PastedLinesBecomeOneInAFieldOfOneLine) {
-  Apri(QStringLiteral("1"));
-  Incolla("txtSez", QStringLiteral("uno\r\ndue\ntre"));
+  Apri("1");
+  Incolla("txtSez", "uno\r\ndue\ntre");
   EXPECT_EQ(Riga("txtSez"), "uno due tre");
-  Incolla("txtTitolo", QStringLiteral("uno\ndue"));
+  Incolla("txtTitolo", "uno\ndue");
   EXPECT_EQ(Testo("txtTitolo"), "uno\r\ndue");
 }
 
@@ -130,29 +127,28 @@ TEST_F(FormaDocumento, FunctionKeysReachTheirCommands) {
   Apri({});
   EXPECT_FALSE(Trova<QPushButton>(*forma, "cmdSalva").isVisible());
   EXPECT_EQ(forma->Stato(), "Documento 3: nuovo, non modificato");
-  Batti(QStringLiteral("{F4}"));
+  Batti("{F4}");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "periodico non ancora immesso");
-  BattiConForme(QStringLiteral("{F1}"), {Forma("Help su tasti funzione", "{Esc}")});
-  BattiConForme(QStringLiteral("{F7}"),
-                {Forma("Responsabilità", "Rossi{Tab} Mario {Tab}{Tab}{Return}")});
+  BattiConForme("{F1}", {Forma("Help su tasti funzione", "{Esc}")});
+  BattiConForme("{F7}", {Forma("Responsabilità", "Rossi{Tab} Mario {Tab}{Tab}{Return}")});
   EXPECT_EQ(Linee("lstResponsabilita"), "A - Rossi, Mario");
-  Batti(QStringLiteral("{F8}"));
+  Batti("{F8}");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(),
             "Per questa operazione è necessario riempire il campo \"Anno\"!");
   EXPECT_TRUE(Trova<QLineEdit>(*forma, "txtAA").hasFocus());
-  Batti(QStringLiteral("1999"));
-  BattiConForme(QStringLiteral("{F8}"), {Forma("Classifcazione ante 2000", "{Esc}")});
-  BattiConForme(QStringLiteral("{F10}"), {Forma("Testo riassunto", "Un testo{Alt+E}")});
-  BattiConForme(QStringLiteral("{F11}"), {Forma("Testo sommario", "{Esc}")});
+  Batti("1999");
+  BattiConForme("{F8}", {Forma("Classifcazione ante 2000", "{Esc}")});
+  BattiConForme("{F10}", {Forma("Testo riassunto", "Un testo{Alt+E}")});
+  BattiConForme("{F11}", {Forma("Testo sommario", "{Esc}")});
   EXPECT_EQ(prova.stato.TestoRiassunto, "Un testo");
   EXPECT_EQ(forma->Stato(), "Documento 3: nuovo, modificato");
   // From a button no key reaches a command.
   Vai("cmdNew");
-  Batti(QStringLiteral("{F4}"));
+  Batti("{F4}");
   EXPECT_EQ(prova.dialoghi.Messaggi().count("periodico non ancora immesso"), 1);
   Vai("txtAA");
   const QSignalSpy scaricata(forma.get(), &frmDocumento::Scaricata);
-  Batti(QStringLiteral("{F3}"));
+  Batti("{F3}");
   EXPECT_EQ(scaricata.count(), 1);
   EXPECT_FALSE(forma->isVisible());
 }
@@ -160,7 +156,7 @@ TEST_F(FormaDocumento, FunctionKeysReachTheirCommands) {
 TEST_F(FormaDocumento, ChecksTheJournalOnLeavingIt) {
   Apri({});
   Vai("txtCPer");
-  Batti(QStringLiteral("zz{Tab}"));
+  Batti("zz{Tab}");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Codice periodico errato!");
   EXPECT_TRUE(Trova<QLineEdit>(*forma, "txtCPer").hasFocus());
   // A command that the field is left for does not run; abandoning needs no check.
@@ -174,56 +170,55 @@ TEST_F(FormaDocumento, ChecksTheJournalOnLeavingIt) {
 }
 
 TEST_F(FormaDocumento, CombosTakeAnyPartOfAnItem) {
-  Apri(QStringLiteral("1"));
+  Apri("1");
   for (const auto& [battuto, atteso] :
        {std::pair{"inglese{Esc}{Tab}", "ingl"}, {"qqqq{Tab}", "ingl"}, {"{Del}{Tab}", "Lingua"}}) {
     Vai("ComboLIN");
     QCoreApplication::processEvents();
-    Batti(QLatin1String(battuto));
-    EXPECT_TRUE(Voce("ComboLIN").contains(QLatin1String(atteso)))
+    Batti(battuto);
+    EXPECT_TRUE(Voce("ComboLIN").contains(atteso))
         << battuto << " " << Voce("ComboLIN").toStdString();
   }
 }
 
 TEST_F(FormaDocumento, ListsSelectMarkAndEdit) {
-  Apri(QStringLiteral("1"));
+  Apri("1");
   Vai("lstResponsabilita");
-  Batti(QStringLiteral("{Down}{Tab}{Tab}"));
+  Batti("{Down}{Tab}{Tab}");
   EXPECT_TRUE(Trova<QPushButton>(*forma, "cmdResponsabilitaM").hasFocus());
-  BattiConForme(QStringLiteral(" "),
-                {Forma("Responsabilità", "{Ctrl+A}De Amicis{Tab}{Tab}{Tab}{Return}")});
+  BattiConForme(" ", {Forma("Responsabilità", "{Ctrl+A}De Amicis{Tab}{Tab}{Tab}{Return}")});
   EXPECT_EQ(Linee("lstResponsabilita"), "C - Gruppo di studio\nA - De Amicis, Lucia");
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Vai("cmdResponsabilitaD");
-  Batti(QStringLiteral(" "));
+  Batti(" ");
   EXPECT_EQ(Linee("lstResponsabilita"), "C - Gruppo di studio\nDEL--A - De Amicis, Lucia");
 }
 
 TEST_F(FormaDocumento, EnteringAFieldSelectsItWhole) {
-  Apri(QStringLiteral("1"));
+  Apri("1");
   for (const char* campo : {"txtFascicolo", "txtAA", "txtPagine"}) {
     Vai(campo);
-    Batti(QStringLiteral("9"));
+    Batti("9");
     EXPECT_EQ(Riga(campo), "9");
   }
   Vai("txtTitolo");
-  Batti(QStringLiteral("nuovo titolo"));
+  Batti("nuovo titolo");
   EXPECT_EQ(Testo("txtTitolo").toStdString(), "nuovo titolo");
 }
 
 // The close box asks only where something would be lost, and an archive that is gone leaves the
 // form as it stands.
 TEST_F(FormaDocumento, NothingTypedIsLostByAccident) {
-  Apri(QStringLiteral("1"));
+  Apri("1");
   Vai("txtTitolo");
-  Batti(QStringLiteral("perso"));
+  Batti("perso");
   prova.dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, Risposta::Annulla);
   forma->close();
   EXPECT_TRUE(forma->isVisible());
   prova.stato.DbArchivio.Close();
   for (const char* tasto : {"{F4}", "{F2}", "{F5}", "{F6}"}) {
-    Batti(QLatin1String(tasto));
+    Batti(tasto);
     EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith("Errore di run-time '3420'")) << tasto;
     EXPECT_EQ(Testo("txtTitolo"), "perso");
   }
@@ -235,26 +230,26 @@ TEST_F(FormaDocumento, NothingTypedIsLostByAccident) {
 // The archive opened again takes what was typed meanwhile; another one must not.
 TEST_F(FormaDocumento, AnArchiveOpenedAgainServesAsBefore) {
   const QString sua = prova.stato.DbArchivio.Name();
-  const QString altra = prova.cartella.Mdb(QStringLiteral("B01.MDB"));
+  const QString altra = prova.cartella.Mdb("B01.MDB");
   ASSERT_TRUE(QFile::copy(sua, altra));
   for (const char* numero : {"1", ""}) {
-    Apri(QLatin1String(numero));
-    Trova<QLineEdit>(*forma, "txtCPer").setText(QStringLiteral("ZZZZ"));
+    Apri(numero);
+    Trova<QLineEdit>(*forma, "txtCPer").setText("ZZZZ");
     Vai("txtTitolo");
-    Batti(QStringLiteral("salvato"));
+    Batti("salvato");
     prova.stato.DbArchivio.Close();
     prova.stato.DbArchivio = OpenDatabase(altra);
-    Batti(QStringLiteral("{F4}"));
+    Batti("{F4}");
     EXPECT_EQ(
         prova.dialoghi.UltimoMessaggio(),
         "Errore di run-time '3420': Il documento è di un altro archivio, che va riaperto: " + sua);
     prova.stato.DbArchivio.Close();
     prova.stato.DbArchivio = OpenDatabase(sua);
-    Batti(QStringLiteral("{F4}"));
+    Batti("{F4}");
     EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Documento salvato!");
-    Batti(QStringLiteral("{F3}"));
+    Batti("{F3}");
   }
-  Apri(QStringLiteral("3"));
+  Apri("3");
   EXPECT_EQ(Testo("txtTitolo"), "salvato");
 }
 

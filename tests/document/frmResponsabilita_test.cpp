@@ -36,9 +36,9 @@ class FormaResponsabilita : public testing::Test {
 
 TEST_F(FormaResponsabilita, AddsAPersonByKeysAlone) {
   const int esito = Apre(-1, [](frmResponsabilita& forma) {
-    QTest::keyClicks(forma.focusWidget(), QStringLiteral(" D'Amico "));
+    QTest::keyClicks(forma.focusWidget(), " D'Amico ");
     Tasti(forma, {Qt::Key_Return});
-    QTest::keyClicks(forma.focusWidget(), QStringLiteral("Zoe \"Z\""));
+    QTest::keyClicks(forma.focusWidget(), "Zoe \"Z\"");
     Tasti(forma, {Qt::Key_Enter, Qt::Key_Right, Qt::Key_Return, Qt::Key_Return});
   });
   EXPECT_EQ(esito, QDialog::Accepted);
@@ -49,7 +49,7 @@ TEST_F(FormaResponsabilita, AddsAPersonByKeysAlone) {
 
 TEST_F(FormaResponsabilita, ChangesItsRowAndKeepsKeyAndMarks) {
   stato.RigheResponsabilita = {{}, kRossi};
-  const QString lungo = QString(40000, u'x') + QStringLiteral("\tà\nb");
+  const QString lungo = QString(40000, u'x') + "\tà\nb";
   Apre(1, [&lungo](frmResponsabilita& forma) {
     EXPECT_EQ(Trova<QLineEdit>(forma, "txtElementoPr").text(), "Rossi");
     EXPECT_TRUE(Trova<QRadioButton>(forma, "optCuratore").isChecked());
@@ -66,7 +66,7 @@ TEST_F(FormaResponsabilita, ChangesItsRowAndKeepsKeyAndMarks) {
 TEST_F(FormaResponsabilita, LeavesTheRowAlone) {
   stato.RigheResponsabilita = {kRossi};
   const int esito = Apre(0, [](frmResponsabilita& forma) {
-    QTest::keyClicks(forma.focusWidget(), QStringLiteral("altro"));
+    QTest::keyClicks(forma.focusWidget(), "altro");
     Tasti(forma, {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space});
   });
   EXPECT_EQ(esito, QDialog::Rejected);

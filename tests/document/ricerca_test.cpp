@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "comune/tavole.h"
 #include "document/archivio_di_prova.h"
 
 namespace torvi {
@@ -24,8 +25,7 @@ TEST(Ricerca, EachFieldHasItsStatement) {
     EXPECT_TRUE(prova.stato.DbArchivio.OpenRecordset(istruzione).Eof());
     righe += QString::fromUtf16(campo.voce) + "\t" + istruzione + "\n";
   }
-  EXPECT_EQ(righe.join("").toStdString(),
-            Byte(TORVI_RADICE "/tests/dati/istruzioni_ricerca.txt").toStdString());
+  EXPECT_EQ(righe.join("").toStdString(), Dati("istruzioni_ricerca.txt"));
 }
 
 TEST(Ricerca, WordsBecomeTheirCondition) {

@@ -7,22 +7,6 @@
 namespace torvi {
 namespace {
 
-// The rows of a statement, their columns joined by '|', Null as "-".
-QStringList Righe(const Database& archivio, const QString& istruzione,
-                  std::initializer_list<const char*> colonne) {
-  QStringList righe;
-  Recordset lette = archivio.OpenRecordset(istruzione);
-  for (; !lette.Eof(); lette.MoveNext()) {
-    QStringList valori;
-    for (const char* colonna : colonne) {
-      const Campo campo = lette.Fields(colonna);
-      valori += campo.Nullo() ? QStringLiteral("-") : campo.Testo();
-    }
-    righe += valori.join(u'|');
-  }
-  return righe;
-}
-
 TEST(SalvaRiferimento, DatesInAllTheirShapes) {
   struct Caso {
     const char* gg;
@@ -54,9 +38,10 @@ TEST(SalvaRiferimento, OnlyAReferenceWithoutEmptyFieldsIsFoundAgain) {
   const qint16 pieno = SalvaRiferimento(prova.documento);
   EXPECT_EQ(SalvaRiferimento(prova.documento), pieno);
   EXPECT_EQ(
-      Righe(prova.stato.DbArchivio,
-            QStringLiteral("select * from TabRifBibl where IDRifBibl = %1").arg(conVuoti),
-            {"Fascicolo", "Annata", "Volume", "Parte", "Serie", "Supplemento", "Sezione", "Data"}),
+      RigheTesto(
+          prova.stato.DbArchivio,
+          QStringLiteral("select * from TabRifBibl where IDRifBibl = %1").arg(conVuoti),
+          {"Fascicolo", "Annata", "Volume", "Parte", "Serie", "Supplemento", "Sezione", "Data"}),
       QStringList("3|54|-|I|-|-|-|03/00/2001"));
   campi.txtAnnata = "a\"b";
   EXPECT_NE(NumeroErrore([&] { (void)SalvaRiferimento(prova.documento); }), 0);
@@ -69,9 +54,10 @@ TEST(SalvaRigaDocumento, WhatIsClearedKeepsItsOldValue) {
   prova.Apri("1");
   CampiDocumento& campi = prova.documento.campi;
   const auto riga = [&prova](int numero) {
-    return Righe(prova.stato.DbArchivio,
-                 QStringLiteral("select * from TabDocumento where IDDocumento = %1").arg(numero),
-                 {"IDRifBibl", "pagine", "LIN", "lo", "lr", "la", "Bib", "td", "TAbs"})
+    return RigheTesto(
+               prova.stato.DbArchivio,
+               QStringLiteral("select * from TabDocumento where IDDocumento = %1").arg(numero),
+               {"IDRifBibl", "pagine", "LIN", "lo", "lr", "la", "Bib", "td", "TAbs"})
         .join(u'\n')
         .toStdString();
   };
@@ -97,21 +83,22 @@ TEST(SalvaResponsabilita, PeopleAreSharedButCollectivesNever) {
   ArchivioDiProva prova;
   prova.Apri("1");
   const auto persone = [&prova] {
-    return Righe(prova.stato.DbArchivio, "select * from TabResponsabilita",
-                 {"PrimoElemento", "SecondoElemento", "flagCollettivo"});
+    return RigheTesto(prova.stato.DbArchivio, "select * from TabResponsabilita",
+                      {"PrimoElemento", "SecondoElemento", "flagCollettivo"});
   };
   const qsizetype prima = persone().size();
   SalvaResponsabilita(prova.documento);
   EXPECT_EQ(persone().size(), prima + 1) << "the collective author is added anew";
   EXPECT_EQ(persone().last().toStdString(), "Gruppo di studio|-|1");
-  EXPECT_EQ(Righe(prova.stato.DbArchivio, "select * from LegameDocResp where IDDoc = 1",
-                  {"IDResponsabilita", "flagAutore"}),
+  EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "select * from LegameDocResp where IDDoc = 1",
+                       {"IDResponsabilita", "flagAutore"}),
             (QStringList{"3|0", "1|1"}));
   EXPECT_EQ(prova.stato.RigheResponsabilita[0].IDResponsabilitaRiga, 3);
 
   for (RigaResponsabilita& riga : prova.stato.RigheResponsabilita) riga.Cancellata = true;
   SalvaResponsabilita(prova.documento);
-  EXPECT_TRUE(Righe(prova.stato.DbArchivio, "select * from LegameDocResp", {"IDDoc"}).isEmpty());
+  EXPECT_TRUE(
+      RigheTesto(prova.stato.DbArchivio, "select * from LegameDocResp", {"IDDoc"}).isEmpty());
 }
 
 TEST(SalvaTesti, EachKindHasItsOwnNormalisation) {
@@ -127,11 +114,12 @@ TEST(SalvaTesti, EachKindHasItsOwnNormalisation) {
   }
   stato.TestoSommario.clear();
   const auto testi = [&stato](int documento) {
-    return Righe(stato.DbArchivio,
-                 QStringLiteral("select * from LegameDocTesto, TabTesto where LegameDocTesto.IDDoc "
-                                "= %1 and LegameDocTesto.IDTesto = TabTesto.IDTesto")
-                     .arg(documento),
-                 {"Tipo", "testo"});
+    return RigheTesto(
+        stato.DbArchivio,
+        QStringLiteral("select * from LegameDocTesto, TabTesto where LegameDocTesto.IDDoc "
+                       "= %1 and LegameDocTesto.IDTesto = TabTesto.IDTesto")
+            .arg(documento),
+        {"Tipo", "testo"});
   };
   const QStringList attesi = {"0|abc\nd.",      "1|ab\r\nc\nd..",   "3|abc\nd.",
                               "4|abc\nd.",      "5|a\tb\r\nc\nd..", "6|a\tbc\nd..",
@@ -139,7 +127,7 @@ TEST(SalvaTesti, EachKindHasItsOwnNormalisation) {
   for (int volta = 0; volta < 2; ++volta) {
     SalvaTesti(prova.documento);
     EXPECT_EQ(testi(1), attesi);
-    EXPECT_EQ(Righe(stato.DbArchivio, "select * from TabTesto", {"IDTesto"}).size(), 8)
+    EXPECT_EQ(RigheTesto(stato.DbArchivio, "select * from TabTesto", {"IDTesto"}).size(), 8)
         << "the texts of the links that went have gone too";
   }
   prova.documento.SalvaComeNuovo = true;
@@ -163,10 +151,10 @@ TEST(SalvaClassi, PairsAreFoundOrMade) {
                              {0, s, "*via", 3, true, true}};
   for (int volta = 0; volta < 2; ++volta) {
     SalvaClassi(prova.documento);
-    EXPECT_EQ(Righe(archivio, "select * from TabClasse2000",
-                    {"IDClasse2000-S", "IDClasse2000-D", "Classe2000-D", "Check"}),
+    EXPECT_EQ(RigheTesto(archivio, "select * from TabClasse2000",
+                         {"IDClasse2000-S", "IDClasse2000-D", "Classe2000-D", "Check"}),
               (QStringList{"1|1|-|0", "1|1|-|1", "1|0|-|0", "1|0|*dell'arte|2"}));
-    EXPECT_EQ(Righe(archivio, "select * from LegameDocClass where IDDoc = 1", {"IDClass"}),
+    EXPECT_EQ(RigheTesto(archivio, "select * from LegameDocClass where IDDoc = 1", {"IDClass"}),
               (QStringList{"1", "2", "3", "4"}));
   }
   prova.stato.RigheClasse = {{0, s, "ZZZZZ", 1, true, false}};
@@ -183,9 +171,9 @@ TEST(SalvaClassi, TheOtherSchemeKeepsItsLinks) {
   prova.stato.RigheClasse = {{0, codice, {}, 0, true, false},
                              {0, "inesistente", {}, 0, true, false}};
   SalvaClassi(prova.documento);
-  EXPECT_EQ(Righe(archivio, "select * from LegameDocClass1999", {"IDDoc", "IDClass"}),
+  EXPECT_EQ(RigheTesto(archivio, "select * from LegameDocClass1999", {"IDDoc", "IDClass"}),
             QStringList("1|1"));
-  EXPECT_EQ(Righe(archivio, "select * from LegameDocClass", {"IDClass"}), QStringList("7"));
+  EXPECT_EQ(RigheTesto(archivio, "select * from LegameDocClass", {"IDClass"}), QStringList("7"));
 }
 
 }  // namespace

@@ -21,13 +21,13 @@ TEST(TestoBreve, AnEmptyBufferShowsWhatTheArchiveStillHas) {
     ArchivioDiProva prova;
     StatoGlobale& stato = prova.stato;
     const TestoBreve& breve = TrovaTestoBreve(caso.nome);
-    const bool notaDoc = caso.nome == QLatin1String("NotaDoc");
+    const bool notaDoc = caso.buffer == &StatoGlobale::TestoNotaDoc;
     const auto mostra = [&](qint64 numero = 1) { return CaricaTestoBreve(stato, breve, numero); };
     EXPECT_EQ(mostra(2), "");
     EsciTestoBreve(stato, breve, {});
     EXPECT_EQ(mostra(), caso.inArchivio) << "emptied, and not yet saved";
     EXPECT_FALSE(stato.NotaDocCancellata) << "an empty text deletes nothing";
-    EsciTestoBreve(stato, breve, QStringLiteral("altra"));
+    EsciTestoBreve(stato, breve, "altra");
     EXPECT_EQ(mostra(), "altra");
     EXPECT_EQ(stato.NotaDocCancellata, notaDoc);
     EsciTestoBreve(stato, breve, {});

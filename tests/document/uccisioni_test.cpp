@@ -29,7 +29,7 @@ class DialoghiCheContano : public DialoghiScritti {
  public:
   explicit DialoghiCheContano(int tubo) : tubo_(tubo) {}
   void Messaggio(const QString& testo, const QString& /*titolo*/, Icona /*icona*/) override {
-    if (testo == QStringLiteral("Documento salvato!")) Di(++versione);
+    if (testo == "Documento salvato!") Di(++versione);
   }
   void Di(int numero) const {
     if (write(tubo_, &numero, sizeof numero) != sizeof numero) _exit(2);

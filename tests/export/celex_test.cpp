@@ -34,7 +34,7 @@ TEST(Celex, TreatiesByArticle) {
   for (const Caso& caso : kCasi) {
     const DatiCelex dati = {.Settore = "1",
                             .Codice = "E",
-                            .Articolo = QString::fromUtf8(caso.articolo),
+                            .Articolo = caso.articolo,
                             .AnnoF = "1997",
                             .Altro = "C-1/90",
                             .Numero = "5",

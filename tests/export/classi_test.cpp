@@ -21,7 +21,7 @@ class Classi : public testing::Test {
   }
   Scritto Leggi() {
     return prova.Scrivi([this](ContestoEsportazione& contesto) {
-      codici = LeggiClassi(contesto, kDocumento, QStringLiteral("2001A0012"));
+      codici = LeggiClassi(contesto, kDocumento, "2001A0012");
     });
   }
   Scritto Decodifica(void (*decodificatore)(ContestoEsportazione&), const QString& codiciClasse) {

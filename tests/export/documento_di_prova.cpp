@@ -22,9 +22,9 @@ qint64 AggiungiCon(const Database& archivio, const QString& tabella, Predefiniti
 }
 
 void CatalogoConUnaLegge(const CartellaDiProva& cartella) {
-  const QString percorso = cartella.Mdb(QStringLiteral("catalogo norme.mdb"));
+  const QString percorso = cartella.Mdb("catalogo norme.mdb");
   CreaDatabase(percorso, SchemaCatalogo());
-  Aggiungi(OpenDatabase(percorso), QStringLiteral("tabCatalogo"),
+  Aggiungi(OpenDatabase(percorso), "tabCatalogo",
            {{"anno", 1990},
             {"numero", "241"},
             {"abbreviazione", "l."},
@@ -49,16 +49,16 @@ DocumentiDiProva::DocumentiDiProva(const DatiConsegna& dati)
 }
 
 qint64 DocumentiDiProva::Riga(const char* tabella, Valori valori) const {
-  return Aggiungi(stato.DbArchivio, QString::fromUtf8(tabella), valori);
+  return Aggiungi(stato.DbArchivio, tabella, valori);
 }
 
 qint64 DocumentiDiProva::Riferimento(Valori valori) const {
-  return AggiungiCon(stato.DbArchivio, QStringLiteral("TabRifBibl"),
+  return AggiungiCon(stato.DbArchivio, "TabRifBibl",
                      {{"IDRivista", 1}, {"Fascicolo", "3"}, {"Data", "15/03/2001"}}, valori);
 }
 
 qint64 DocumentiDiProva::Documento(Valori valori) const {
-  return AggiungiCon(stato.DbArchivio, QStringLiteral("TabDocumento"),
+  return AggiungiCon(stato.DbArchivio, "TabDocumento",
                      {{"IDRifBibl", 1},
                       {"pagine", "101-120"},
                       {"td", "05"},
@@ -85,7 +85,7 @@ void DocumentiDiProva::Responsabile(qint64 idDoc, const Campo& primo, const Camp
 }
 
 void DocumentiDiProva::Coppia(qint64 idDoc, Valori valori) const {
-  const qint64 idClasse = AggiungiCon(stato.DbArchivio, QStringLiteral("TabClasse2000"),
+  const qint64 idClasse = AggiungiCon(stato.DbArchivio, "TabClasse2000",
                                       {{"IDClasse2000-S", 1}, {"Check", "0"}}, valori);
   Riga("LegameDocClass", {{"IDDoc", idDoc}, {"IDClass", idClasse}});
 }
@@ -100,9 +100,9 @@ qint64 DocumentiDiProva::Esempio() const {
   const qint64 idDoc = Documento({{"IDRifBibl", riferimento}, {"td", "02"}, {"TAbs", "600"}});
   Responsabile(idDoc, "Rossi", "Mario");
   Responsabile(idDoc, "Bianchi", "Anna");
-  Testo(idDoc, "0", QStringLiteral("Il contratto di trasporto"));
-  Testo(idDoc, "4", QStringLiteral("Nota a Cass. 12 marzo 2000"));
-  Testo(idDoc, "2", QStringLiteral("I. Premessa\\II. Conclusioni"));
+  Testo(idDoc, "0", "Il contratto di trasporto");
+  Testo(idDoc, "4", "Nota a Cass. 12 marzo 2000");
+  Testo(idDoc, "2", "I. Premessa\\II. Conclusioni");
   const qint64 fonte = Riga("TabFonte", {{"TP", "LIO"},
                                          {"fonte", 1},
                                          {"testo", "l. 7 agosto 1990 n. 241 art. 3"},
@@ -121,7 +121,7 @@ Scritto DocumentiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)
 }
 
 std::string DocumentiDiProva::Dump(const char* nome) const {
-  const QString percorso = cartella.Dump(QString::fromLatin1(nome));
+  const QString percorso = cartella.Dump(nome);
   return QFile::exists(percorso) ? Byte(percorso).toStdString() : std::string();
 }
 

@@ -5,8 +5,6 @@
 
 namespace torvi {
 
-using Valori = std::initializer_list<std::pair<const char*, Campo>>;
-
 class DocumentiDiProva {
  public:
   // Journal 1 (RGI) with periodicity 3, bibliography types "0" and "1", one systematic code, one

@@ -41,12 +41,12 @@ class ErroriConsegnaTest : public testing::Test {
         EXPECT_EQ(parola.testo, stato.TestoErrori);
       }
     }
-    const Recordset info = stato.DbArchivio.OpenRecordset(QStringLiteral("TabInfo"));
+    const Recordset info = stato.DbArchivio.OpenRecordset("TabInfo");
     visto += info.Fields(vista.marcatore).TestoOVuoto();
     return visto.toStdString();
   }
   void Scrivi(const Vista& vista, const char* testo) const {
-    ScriviByte(cartella.Dump(QString::fromUtf8(vista.file)), testo);
+    ScriviByte(cartella.Dump(vista.file), testo);
   }
 
   CartellaDiProva cartella;
@@ -71,9 +71,9 @@ TEST_F(ErroriConsegnaTest, EachFileIsShownUnderItsHeading) {
 }
 
 TEST_F(ErroriConsegnaTest, OtherFailuresEndInSilence) {
-  ASSERT_TRUE(QDir(cartella.Percorso()).mkpath(QStringLiteral("dump/errori.A01")));
+  ASSERT_TRUE(QDir(cartella.Percorso()).mkpath("dump/errori.A01"));
   EXPECT_EQ(Vedi(kViste[0]), "1");
-  stato.DbArchivio.Execute(QStringLiteral("delete * from TabInfo"));
+  stato.DbArchivio.Execute("delete * from TabInfo");
   DialoghiScritti dialoghi;
   VisualizzaErrori(stato, dialoghi, kErroriGenerici);
   EXPECT_TRUE(dialoghi.Parole().isEmpty());

@@ -12,10 +12,10 @@ namespace torvi {
 namespace {
 
 void Domande(DialoghiScritti& dialoghi, Risposta fonti, Risposta accoda) {
-  dialoghi.AttendeDomanda(QStringLiteral("Controllo presenza fonti?"),
-                          QStringLiteral("Esportazione per ISIS"), Pulsanti::SiNo, fonti);
-  dialoghi.AttendeDomanda(QStringLiteral("Accodare risultato dell'esportazione?"),
-                          QStringLiteral("Esportazione"), Pulsanti::SiNo, accoda);
+  dialoghi.AttendeDomanda("Controllo presenza fonti?", "Esportazione per ISIS", Pulsanti::SiNo,
+                          fonti);
+  dialoghi.AttendeDomanda("Accodare risultato dell'esportazione?", "Esportazione", Pulsanti::SiNo,
+                          accoda);
 }
 
 void EsportaDaMenu(StatoGlobale& stato, const FlagEsportazione& flag) {
@@ -145,7 +145,7 @@ TEST(EsportaAscii, TheTypeOfTheDocumentChoosesTheTagOfTheNote) {
   prova.Riferimento();
   std::string attesi;
   for (const Caso& caso : kCasi) {
-    prova.Testo(prova.Documento({{"td", caso.td}}), "4", QStringLiteral("NOTA"));
+    prova.Testo(prova.Documento({{"td", caso.td}}), "4", "NOTA");
     if (*caso.campo != '\0') attesi += std::string(caso.campo) + "NOTA\r\n";
   }
   EsportaDaMenu(prova.stato, kEsportaCassazione);
@@ -167,15 +167,15 @@ TEST(EsportaAscii, FindingsOfADocumentStandInTheOrderOfTheRun) {
                                         {"TAbs", "800"},
                                         {"Bib", Campo()},
                                         {"LIN", "02"}});
-  prova.Testo(primo, "8", QStringLiteral("Abstract"));
+  prova.Testo(primo, "8", "Abstract");
   const qint64 secondo = prova.Documento({{"IDRifBibl", riferimento},
                                           {"pagine", "2-1"},
                                           {"td", "01"},
                                           {"TAbs", "700"},
                                           {"LIN", "01"}});
-  prova.Testo(secondo, "3", QStringLiteral("[Titolo]"));
-  prova.Testo(secondo, "4", QStringLiteral("Nota"));
-  prova.Testo(secondo, "8", QStringLiteral("Abstract"));
+  prova.Testo(secondo, "3", "[Titolo]");
+  prova.Testo(secondo, "4", "Nota");
+  prova.Testo(secondo, "8", "Abstract");
   DialoghiScritti dialoghi;
   Domande(dialoghi, Risposta::Si, Risposta::No);
   EsportaAscii(prova.stato, dialoghi, kEsportaCassazione);
@@ -212,7 +212,7 @@ TEST(EsportaAscii, FieldsStandInTheirOrder) {
   DocumentiDiProva prova;
   const qint64 idDoc = prova.Esempio();
   for (const char* tipo : {"8", "7", "6", "5", "3", "1"}) {
-    prova.Testo(idDoc, tipo, QStringLiteral("testo"));
+    prova.Testo(idDoc, tipo, "testo");
   }
   EsportaDaMenu(prova.stato, kEsportaIsis);
   std::istringstream testo(prova.Dump("lexxdump isis.A01"));
@@ -237,7 +237,7 @@ TEST(EsportaAscii, ARunFromTheMenuAsksMarksAndTells) {
     EXPECT_EQ(prova.stato.FileBatch, "");
     EXPECT_TRUE(dialoghi.InAttesa());
   });
-  prova.stato.FileBatch = QStringLiteral("vecchio");
+  prova.stato.FileBatch = "vecchio";
   EsportaAscii(prova.stato, dialoghi, kEsportaCassazione);
   EXPECT_EQ(dialoghi.UltimaUscita(),
             QStringList({prova.cartella.Percorso() + "/Dump", "lexxdump*.*", "nuovo"}));
@@ -321,14 +321,9 @@ TEST(EsportaAscii, ARunThatFailsNamesTheDocument) {
   prova.Documento({{"IDRifBibl", 0}});
   DialoghiScritti dialoghi;
   Domande(dialoghi, Risposta::No, Risposta::No);
-  try {
-    EsportaAscii(prova.stato, dialoghi, kEsportaIsis);
-    FAIL() << "a document without its reference went through";
-  } catch (const ErroreEsecuzione& errore) {
-    EXPECT_EQ(errore.Numero(), 3021);
-    EXPECT_TRUE(errore.Descrizione().endsWith(QStringLiteral(" (documento 2, 2001A0013)")))
-        << errore.what();
-  }
+  const QString errore = ErroreDi([&] { EsportaAscii(prova.stato, dialoghi, kEsportaIsis); });
+  EXPECT_TRUE(errore.startsWith("3021 ") && errore.endsWith(" (documento 2, 2001A0013)"))
+      << errore.toStdString();
 }
 
 TEST(EsportaAscii, TheNumberOfADocumentFitsSixteenBits) {
@@ -355,7 +350,7 @@ TEST(EsportaAscii, ARunThatCannotStartLeavesTheMarkerAndNoClosingLine) {
     dialoghi.AttendeFileUscita({});
     EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.stato, dialoghi, kEsportaIsis); }), 75);
   }
-  prova.stato.DbArchivio.Execute(QStringLiteral("update TabInfo set Storico = null"));
+  prova.stato.DbArchivio.Execute("update TabInfo set Storico = null");
   ASSERT_TRUE(QDir(prova.cartella.Percorso() + "/dump").removeRecursively());
   DialoghiScritti dialoghi;
   Domande(dialoghi, Risposta::No, Risposta::No);
@@ -367,7 +362,7 @@ TEST(EsportaAscii, AFullDiskClosesNoErrorFile) {
   DocumentiDiProva prova;
   prova.Documento({{"IDRifBibl", prova.Riferimento()}});
   prova.stato.ModoBatch = true;
-  prova.stato.FileBatch = QStringLiteral("/dev/full");
+  prova.stato.FileBatch = "/dev/full";
   DialoghiScritti dialoghi;
   EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.stato, dialoghi, kEsportaIsis); }), 61);
   EXPECT_TRUE(prova.Dump("errori.ull").ends_with("Manca classificazione: 2001A0012, record=1\r\n"));

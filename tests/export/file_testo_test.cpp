@@ -1,36 +1,14 @@
 #include "export/file_testo.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
-#include <csignal>
 
 #include "comune/cartella_di_prova.h"
+#include "comune/file_limitati.h"
 
 namespace torvi {
 namespace {
-
-// Files of this process may grow to so many bytes for as long as this lives.
-class LimiteFile {
- public:
-  explicit LimiteFile(rlim_t byte) {
-    getrlimit(RLIMIT_FSIZE, &prima_);
-    const rlimit limite{byte, prima_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limite);
-    gestore_ = std::signal(SIGXFSZ, SIG_IGN);
-  }
-  LimiteFile(const LimiteFile&) = delete;
-  LimiteFile& operator=(const LimiteFile&) = delete;
-  ~LimiteFile() {
-    setrlimit(RLIMIT_FSIZE, &prima_);
-    (void)std::signal(SIGXFSZ, gestore_);
-  }
-
- private:
-  rlimit prima_{};
-  void (*gestore_)(int) = nullptr;
-};
 
 TEST(FileTesto, ReadsLinesWhateverTheirEnd) {
   struct Caso {
@@ -100,8 +78,8 @@ TEST(FileTesto, AnOpenThatFailsTellsWhy) {
 }
 
 TEST(FileTesto, AFullDeviceIsToldAtTheLatestByClose) {
-  FileTesto file(QStringLiteral("/dev/full"), Apertura::Aggiunta);
-  file.Print(QStringLiteral("x"));
+  FileTesto file("/dev/full", Apertura::Aggiunta);
+  file.Print("x");
   EXPECT_EQ(NumeroErrore([&] { file.Close(); }), 61);
   file.Close();
 }
@@ -116,7 +94,7 @@ TEST(FileTesto, ADeviceThatFailsInTheMiddleLeavesWholeBlocks) {
     file.Svuota();
     file.ScriviBlocco(QByteArray(300, 'b'));
     file.ScriviBlocco(QByteArray(300, 'c'));
-    const LimiteFile limite(1000);
+    const FileLimitati limitati(1000);
     EXPECT_EQ(NumeroErrore([&] { file.Svuota(); }), 57);
   }
   EXPECT_EQ(Byte(percorso), "prima\r\n" + QByteArray(600, 'a') + QByteArray(300, 'b'));

@@ -20,7 +20,7 @@ FontiDiProva::FontiDiProva(const DatiConsegna& dati) : stato(cartella.StatoConCo
 }
 
 qint64 FontiDiProva::Riga(const char* tabella, Valori valori) const {
-  return Aggiungi(stato.DbArchivio, QString::fromUtf8(tabella), valori);
+  return Aggiungi(stato.DbArchivio, tabella, valori);
 }
 
 qint64 FontiDiProva::Fonte(Valori valori) const {
@@ -29,15 +29,13 @@ qint64 FontiDiProva::Fonte(Valori valori) const {
   return fonte;
 }
 
-void FontiDiProva::TogliFonti() const {
-  stato.DbArchivio.Execute(QStringLiteral("delete * from LegameDocFonte"));
-}
+void FontiDiProva::TogliFonti() const { stato.DbArchivio.Execute("delete * from LegameDocFonte"); }
 
 void FontiDiProva::NuovoCatalogo(const char* abbreviazione) const {
-  const QString percorso = cartella.Mdb(QStringLiteral("Catalogo Norme.MDB"));
+  const QString percorso = cartella.Mdb("Catalogo Norme.MDB");
   QFile::remove(percorso);
   CreaDatabase(percorso, SchemaCatalogo());
-  Aggiungi(OpenDatabase(percorso), QStringLiteral("tabCatalogo"),
+  Aggiungi(OpenDatabase(percorso), "tabCatalogo",
            {{"anno", 1990},
             {"numero", "241"},
             {"abbreviazione", abbreviazione},
@@ -54,7 +52,7 @@ Scritto FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& s
 
 Scritto FontiDiProva::Elenco() {
   return Scrivi([](ContestoEsportazione& contesto) {
-    ScriviElencoFonti(contesto, Fonti(contesto), QStringLiteral("2001A0012"));
+    ScriviElencoFonti(contesto, Fonti(contesto), "2001A0012");
   });
 }
 

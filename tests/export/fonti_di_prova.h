@@ -8,8 +8,6 @@
 
 namespace torvi {
 
-using Valori = std::initializer_list<std::pair<const char*, Campo>>;
-
 class FontiDiProva {
  public:
   explicit FontiDiProva(const DatiConsegna& dati = {});

@@ -187,7 +187,7 @@ TEST_F(FontiEtichettateTest, CelexOfTheEuFamily) {
                                         {"2003A", "12002E001"},
                                         {"2010A", "12002E001"},
                                         {"", "11997E001"}}) {
-    prova.stato.PrefissoDoc = QString::fromUtf8(prefisso);
+    prova.stato.PrefissoDoc = prefisso;
     EXPECT_EQ(Celex({{"TP", "NIC"}, {"fonte", trattato}, {"articolo", "1"}}), celex) << prefisso;
   }
 }

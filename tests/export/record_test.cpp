@@ -42,7 +42,7 @@ TEST(Record, ALineHoldsAtMost245CharactersAndBreaksBehindABlank) {
   const CartellaDiProva cartella;
   for (const Caso& caso : kCasi) {
     Record record;
-    record.AggiungiRiga(tag::kIdentificativo, QStringLiteral("2001A0012"));
+    record.AggiungiRiga(tag::kIdentificativo, "2001A0012");
     record.AggiungiRiga(tag::kCodiciClasse, caso.contenuto);
     EXPECT_EQ(Scritto(cartella, record), "2001A0012\r\n2\r\n 12001A0012\r\n" + caso.righe)
         << caso.contenuto.size();
@@ -78,7 +78,7 @@ TEST(Record, ALongTextBecomesFieldsOfAtMost1000Characters) {
 TEST(Record, AWordIsNeverCut) {
   const CartellaDiProva cartella;
   Record record;
-  record.AggiungiRiga(tag::kIdentificativo, QStringLiteral("2001A0012"));
+  record.AggiungiRiga(tag::kIdentificativo, "2001A0012");
   EXPECT_EQ(NumeroErrore([&] { record.AggiungiTesto(tag::kTitolo, QString(1001, u'x')); }), 5);
   EXPECT_EQ(record.NumRighe(), 1);
   record.AggiungiTesto(tag::kTitolo, QString(245, u'x') + " y");

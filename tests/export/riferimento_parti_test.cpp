@@ -7,7 +7,7 @@ namespace {
 
 // The mark of a citation is shown as "~".
 std::string Mostra(Parte parte) {
-  parte.citazione.replace(kSegno, QLatin1Char('~'));
+  parte.citazione.replace(kSegno, '~');
   return QString(parte.codice + "|" + parte.citazione + "|" + parte.messaggi.join(u'+'))
       .toStdString();
 }

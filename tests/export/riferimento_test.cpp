@@ -10,22 +10,22 @@ namespace {
 constexpr qint64 kDocumento = 1;
 
 const DatiDocumento kDati = {.IDRifBibl = 1,
-                             .pagine = QStringLiteral("1-2"),
-                             .td = QStringLiteral("02"),
-                             .TAbs = QStringLiteral("600"),
-                             .Bib = QStringLiteral("1"),
-                             .LIN = QStringLiteral("00"),
-                             .lo = QStringLiteral("00"),
-                             .lr = QStringLiteral("00"),
-                             .la = QStringLiteral("00")};
+                             .pagine = "1-2",
+                             .td = "02",
+                             .TAbs = "600",
+                             .Bib = "1",
+                             .LIN = "00",
+                             .lo = "00",
+                             .lr = "00",
+                             .la = "00"};
 
 class Riferimento : public testing::Test {
  protected:
   // The mark of a citation is shown as "~".
   Scritto Scrivi(const DatiDocumento& dati) {
     Scritto scritto = prova.Scrivi([&](ContestoEsportazione& contesto) {
-      ScriviRiferimento(contesto, {contesto.legami.testi, kDocumento}, kDocumento,
-                        QStringLiteral("2001A0012"), dati);
+      ScriviRiferimento(contesto, {contesto.legami.testi, kDocumento}, kDocumento, "2001A0012",
+                        dati);
     });
     std::replace(scritto.campi.begin(), scritto.campi.end(), '\x06', '~');
     return scritto;
@@ -39,9 +39,9 @@ class Riferimento : public testing::Test {
 
 TEST_F(Riferimento, EverySubfieldHasItsPlaceAndItsPadding) {
   DatiDocumento dati = kDati;
-  dati.LIN = dati.lo = QStringLiteral("01");
-  dati.lr = QStringLiteral("02");
-  dati.la = QStringLiteral("03");
+  dati.LIN = dati.lo = "01";
+  dati.lr = "02";
+  dati.la = "03";
   const Scritto scritto = ConRiferimento({{"Serie", "3"},
                                           {"Annata", "47"},
                                           {"Supplemento", "1"},
@@ -71,7 +71,7 @@ TEST_F(Riferimento, WhatIsMissingIsToldAndLeftOut) {
 
 TEST_F(Riferimento, MessagesOfTheParts) {
   DatiDocumento dati = kDati;
-  dati.pagine = QStringLiteral("7.5-3");
+  dati.pagine = "7.5-3";
   const Scritto scritto = ConRiferimento({{"Fascicolo", "1/2"}, {"Data", "32/03/2002"}}, dati);
   EXPECT_EQ(scritto.campi,
             " 5PER=RGI FR=3 DATA=32032002 FASC=0000001/2\n"
@@ -115,11 +115,11 @@ TEST_F(Riferimento, SomeAbstractTypesCallForASummary) {
   constexpr Caso kCasi[] = {{"500", "1", true},  {"800", "1", true},  {"700", "1", false},
                             {"500", "2", false}, {"800", "7", false}, {"500", "3", true}};
   for (const Caso& caso : kCasi) {
-    prova.stato.DbArchivio.Execute(QStringLiteral("delete * from LegameDocTesto"));
-    prova.Testo(kDocumento, caso.tipoTesto, QStringLiteral("testo"));
-    prova.Testo(kDocumento + 1, "2", QStringLiteral("di un altro"));
+    prova.stato.DbArchivio.Execute("delete * from LegameDocTesto");
+    prova.Testo(kDocumento, caso.tipoTesto, "testo");
+    prova.Testo(kDocumento + 1, "2", "di un altro");
     DatiDocumento dati = kDati;
-    dati.TAbs = QString::fromLatin1(caso.tAbs);
+    dati.TAbs = caso.tAbs;
     EXPECT_EQ(ConRiferimento({}, dati).errori,
               caso.manca ? "Manca 'In tema di'/'Sommario' e TABS = 500/800: 2001A0012\r\n" : "")
         << caso.tAbs << ' ' << caso.tipoTesto;
@@ -130,7 +130,7 @@ TEST_F(Riferimento, ARowThatIsNotThereEndsTheRun) {
   DatiDocumento dati = kDati;
   dati.IDRifBibl = 0;
   EXPECT_EQ(Scrivi(dati).errore, 3021);
-  dati.Bib = QStringLiteral("7");
+  dati.Bib = "7";
   dati.IDRifBibl = Intero16(prova.Riferimento({}));
   EXPECT_EQ(Scrivi(dati).errore, 3021);
   EXPECT_EQ(ConRiferimento({{"IDRivista", 99}}).errore, 3021);

@@ -56,7 +56,7 @@ TEST_F(RigheCondiviseTest, CodesAreFoundAsTheArchiveComparesThem) {
   TabelleDiCodici codici(archivio);
   const auto sigla = [&](const Campo& codice) {
     const RigaCodice& riga = codici.Cerca(TavolaCodici::CodiceSistematico, codice);
-    return riga.NoMatch() ? QStringLiteral("-") : riga.Fields("sigla").Testo();
+    return riga.NoMatch() ? "-" : riga.Fields("sigla").Testo();
   };
   for (const char* grafia : {"ZÀ001", "zà001", "ZÀ001  ", "zà001"}) EXPECT_EQ(sigla(grafia), "Z.1");
   for (const Campo& altro : {Campo("ZA001"), Campo("ZÀ00"), Campo("")})

@@ -6,9 +6,9 @@ namespace torvi {
 
 Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
                const std::function<void(ContestoEsportazione&)>& scrittore) {
-  const QString errori = cartella.Dump(QStringLiteral("errori.A01"));
-  const QString errClasse = cartella.Dump(QStringLiteral("errClasse.A01"));
-  const QString errFonte = cartella.Dump(QStringLiteral("errFonte.A01"));
+  const QString errori = cartella.Dump("errori.A01");
+  const QString errClasse = cartella.Dump("errClasse.A01");
+  const QString errFonte = cartella.Dump("errFonte.A01");
   Scritto scritto;
   Record record;
   {

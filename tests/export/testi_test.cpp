@@ -8,7 +8,7 @@ namespace torvi {
 namespace {
 
 constexpr qint64 kDocumento = 3;
-const QString kIdRecord = QStringLiteral("2001A0012");
+const QString kIdRecord = "2001A0012";
 
 class Testi : public testing::Test {
  protected:
@@ -70,9 +70,9 @@ TEST_F(Testi, BackslashesGetBlanksAndPairsOfBlanksCloseUpOnce) {
       {"a    b", "a  b"}, {" a ", " a "},       {"a\r\nb\tc", "a\r\nb\tc"},
   };
   for (const Caso& caso : kCasi) {
-    prova.stato.DbArchivio.Execute(QStringLiteral("delete * from LegameDocTesto"));
-    prova.Testo(kDocumento, "1", QString::fromLatin1(caso.testo));
-    prova.Testo(kDocumento, "1", QStringLiteral("secondo"));
+    prova.stato.DbArchivio.Execute("delete * from LegameDocTesto");
+    prova.Testo(kDocumento, "1", caso.testo);
+    prova.Testo(kDocumento, "1", "secondo");
     EXPECT_EQ(Testo({"1", "riassunto", tag::kRiassunto}).campi,
               "13" + std::string(caso.campo) + "\n");
     EXPECT_TRUE(trovato);
@@ -87,8 +87,8 @@ TEST_F(Testi, ATextOfMoreThan1000CharactersBecomesSeveralFields) {
 }
 
 TEST_F(Testi, ABracketInTheTranslationIsTold) {
-  prova.Testo(kDocumento, "3", QStringLiteral("[Il titolo]"));
-  prova.Testo(kDocumento, "0", QStringLiteral("[Il titolo]"));
+  prova.Testo(kDocumento, "3", "[Il titolo]");
+  prova.Testo(kDocumento, "0", "[Il titolo]");
   const Scritto scritto = Testo({"3", "traduzione", tag::kTraduzione});
   EXPECT_EQ(scritto.campi, "11[Il titolo]\n");
   EXPECT_EQ(scritto.errori, "Traduzione del titolo immessa dal compilatore: 2001A0012\r\n");
@@ -134,11 +134,11 @@ TEST_F(Testi, ANoteIsFoundByItsType) {
   const auto cerca = [&](ContestoEsportazione& contesto) {
     esiste = EsisteTesto(contesto, {contesto.legami.testi, kDocumento}, kDocumento, {u"4"});
   };
-  prova.Testo(kDocumento, "6", QStringLiteral("nota amb"));
-  prova.Testo(kDocumento + 1, "4", QStringLiteral("di un altro"));
+  prova.Testo(kDocumento, "6", "nota amb");
+  prova.Testo(kDocumento + 1, "4", "di un altro");
   (void)prova.Scrivi(cerca);
   EXPECT_FALSE(esiste);
-  prova.Testo(kDocumento, "4", QStringLiteral("nota"));
+  prova.Testo(kDocumento, "4", "nota");
   (void)prova.Scrivi(cerca);
   EXPECT_TRUE(esiste);
 }

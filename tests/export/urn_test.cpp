@@ -16,7 +16,7 @@ constexpr const char* kPuntoEVirgola = "urn:nir:stato:decreto.presidente.repubbl
 
 std::string Estesa(const char* urn, PassoUrn passo, const char* valore, bool prima) {
   auto testo = QString::fromUtf8(urn);
-  EstendiUrn(testo, passo, QString::fromUtf8(valore), prima);
+  EstendiUrn(testo, passo, valore, prima);
   return testo.toStdString();
 }
 
@@ -77,12 +77,12 @@ TEST(Urn, PartsAreAddedByTheirRules) {
 }
 
 TEST(Urn, ThePlaceHolderTakesTheNameOnce) {
-  QString urn = QStringLiteral("urn:nir:regione.xxx:legge.xxx:2000");
-  CompletaUrn(urn, QStringLiteral("lazio"));
+  QString urn = "urn:nir:regione.xxx:legge.xxx:2000";
+  CompletaUrn(urn, "lazio");
   EXPECT_EQ(urn.toStdString(), "urn:nir:regione.lazio:legge.xxx:2000");
-  CompletaUrn(urn, QStringLiteral("roma"));
+  CompletaUrn(urn, "roma");
   EXPECT_EQ(urn.toStdString(), "urn:nir:regione.lazio:legge.roma:2000");
-  EXPECT_EQ(NumeroErrore([&] { CompletaUrn(urn, QStringLiteral("roma")); }), 5);
+  EXPECT_EQ(NumeroErrore([&] { CompletaUrn(urn, "roma"); }), 5);
 }
 
 }  // namespace

@@ -117,12 +117,7 @@ TEST_F(VerificaCatalogoTest, AnAbsentCatalogueIsNamedOnlyWhereItIsNeeded) {
   EXPECT_EQ(Verifica("l.", kData, "241"), 3024);
   EXPECT_EQ(Verifica("l.", {"", "", ""}, "241"), 3024);
   CatalogoNorme catalogo(prova.cartella.Percorso());
-  try {
-    catalogo.Apri();
-    FAIL();
-  } catch (const ErroreEsecuzione& errore) {
-    EXPECT_TRUE(errore.Descrizione().endsWith(QStringLiteral("/mdb/catalogo norme.mdb")));
-  }
+  EXPECT_TRUE(ErroreDi([&] { catalogo.Apri(); }).endsWith("/mdb/catalogo norme.mdb"));
 }
 
 TEST_F(VerificaCatalogoTest, AKindOfSourceThatIsGoneEndsTheRun) {
@@ -132,9 +127,9 @@ TEST_F(VerificaCatalogoTest, AKindOfSourceThatIsGoneEndsTheRun) {
 
 TEST_F(VerificaCatalogoTest, GenuineCataloguesServeInBothForms) {
   for (const char* nome : {"catalogo norme.mdb", "catalogo norme data.mdb"}) {
-    const QString genuino = FileGenuino(QString::fromUtf8(nome));
+    const QString genuino = FileGenuino(nome);
     if (genuino.isEmpty()) GTEST_SKIP() << "no genuine files at ../shared/jet";
-    const QString percorso = prova.cartella.Mdb(QStringLiteral("catalogo norme.mdb"));
+    const QString percorso = prova.cartella.Mdb("catalogo norme.mdb");
     QFile::remove(percorso);
     ASSERT_TRUE(QFile::copy(genuino, percorso));
     EXPECT_EQ(Verifica("l.", {"20", "3", "1865"}, "2248"), 0) << nome;

@@ -2,25 +2,25 @@
 
 #include <gtest/gtest.h>
 
+#include "cli/json_fonte.h"
 #include "comune/cartella_di_prova.h"
+#include "comune/citazioni.h"
 #include "fonti/righe_fonte.h"
 
 namespace torvi {
 namespace {
 
-using Valori = std::initializer_list<std::pair<const char*, Campo>>;
-
 class Caricamento : public testing::Test {
  protected:
   qint64 Riga(const char* tabella, Valori valori) const {
-    return Aggiungi(stato.DbArchivio, QString::fromUtf8(tabella), valori);
+    return Aggiungi(stato.DbArchivio, tabella, valori);
   }
   void Fonte(Valori valori) const {
     Riga("LegameDocFonte", {{"IDDoc", 7}, {"IDFnt", Riga("TabFonte", valori)}});
   }
   // The one source of document 7.
   RigaFonte Letta(Valori valori) {
-    stato.DbArchivio.Execute(QStringLiteral("delete * from LegameDocFonte"));
+    stato.DbArchivio.Execute("delete * from LegameDocFonte");
     Fonte(valori);
     EXPECT_EQ(CaricaFonti(stato, 7).size(), 1);
     return stato.RigheFonte.at(0);
@@ -32,63 +32,34 @@ class Caricamento : public testing::Test {
 };
 
 TEST_F(Caricamento, CopiesEveryColumnIntoItsField) {
-  Riga("TabFonteInterna", {{"FonteNorm", "altra"}});
-  const qint64 atto = Riga("TabFonteInterna", {{"FonteNorm", "r.d.l."}});
-  const auto nome = [this](const char* tabella, const char* colonna, const char* testo) {
-    Riga(tabella, {{colonna, "primo"}});
-    return Riga(tabella, {{colonna, testo}});
-  };
-  const RigaFonte riga =
-      Letta({{"TP", "LIO"},
-             {"fonte", atto},
-             {"testo", "art. 1 *LIO* coda*"},
-             {"articolo", "1"},
-             {"comma", "2"},
-             {"lettera", "c"},
-             {"allegato", "4"},
-             {"ripa", "bis"},
-             {"ripc", "ter"},
-             {"numero", "7"},
-             {"numeroP", "8"},
-             {"giorno", "9"},
-             {"mese", "07"},
-             {"anno", "1999"},
-             {"altro", "dodici"},
-             {"ordinanza", true},
-             {"IDRegione", nome("TabRegione", "CodRegione", "TO")},
-             {"IDProvincia", nome("TabProvincia", "CodProvincia", "PI")},
-             {"IDCitta", nome("TabCitta", "citta", "Pisa")},
-             {"IDMinistero", nome("TabMinistero", "MinisteroNorm", "m. int.")},
-             {"IDAmministrazione", nome("TabAmministrazione", "AmministrazioneNorm", "a. gen.")},
-             {"IDAutorita", nome("TabAutorita", "AutoritaNorm", "a. gar.")},
-             {"IDSezione", nome("TabSezione", "sigla", "s.u.")}});
-  RigaFonte attesa;
-  attesa.IDFonte = 1;
-  attesa.FonteNorm = "r.d.l.";
-  attesa.TP = "LIO";
-  attesa.Testo = "art. 1 ";
-  attesa.Articolo = "1";
-  attesa.Comma = "2";
-  attesa.Lettera = "c";
-  attesa.Allegato = "4";
-  attesa.RipA = "bis";
-  attesa.RipC = "ter";
-  attesa.Numero = "7";
-  attesa.NumeroP = "8";
-  attesa.Giorno = "9";
-  attesa.Mese = "luglio";
-  attesa.Anno = "1999";
-  attesa.Altro = "dodici";
-  attesa.Ordinanza = true;
-  attesa.Regione = "TO";
-  attesa.Provincia = "PI";
-  attesa.Citta = "Pisa";
-  attesa.Ministero = "m. int.";
-  attesa.Amministrazione = "a. gen.";
-  attesa.Autorita = "a. gar.";
-  attesa.Sezione = "s.u.";
-  EXPECT_TRUE(riga == attesa);
-  EXPECT_TRUE(Letta({{"TP", "LIO"}, {"fonte", atto}, {"decreto", true}}).Decreto);
+  // Each name is the second row of its table.
+  for (const auto& [tabella, colonna, nome] :
+       {std::tuple{"TabFonteInterna", "FonteNorm", "r.d.l."},
+        {"TabRegione", "CodRegione", "TO"},
+        {"TabProvincia", "CodProvincia", "PI"},
+        {"TabCitta", "citta", "Pisa"},
+        {"TabMinistero", "MinisteroNorm", "m. int."},
+        {"TabAutorita", "AutoritaNorm", "a. gar."},
+        {"TabAmministrazione", "AmministrazioneNorm", "a. gen."},
+        {"TabSezione", "sigla", "s.u."}}) {
+    for (const char* testo : {"primo", nome}) Riga(tabella, {{colonna, testo}});
+  }
+  const Valori valori = {{"TP", "LIO"},       {"fonte", 2},       {"testo", "art. 1 *LIO* coda*"},
+                         {"articolo", "1"},   {"comma", "2"},     {"lettera", "c"},
+                         {"allegato", "4"},   {"ripa", "bis"},    {"ripc", "ter"},
+                         {"numero", "7"},     {"numeroP", "8"},   {"giorno", "9"},
+                         {"mese", "07"},      {"anno", "1999"},   {"altro", "dodici"},
+                         {"ordinanza", true}, {"IDRegione", 2},   {"IDProvincia", 2},
+                         {"IDCitta", 2},      {"IDMinistero", 2}, {"IDAmministrazione", 2},
+                         {"IDAutorita", 2},   {"IDSezione", 2}};
+  EXPECT_EQ(Mostra(Ridotta(JsonFonte(Letta(valori)))),
+            R"({"Allegato":"4","Altro":"dodici","Amministrazione":"a. gen.","Anno":"1999",)"
+            R"("Articolo":"1","Autorita":"a. gar.","Citta":"Pisa","Comma":"2",)"
+            R"("FonteNorm":"r.d.l.","Giorno":"9","IDFonte":1,"Lettera":"c","Mese":"luglio",)"
+            R"("Ministero":"m. int.","Numero":"7","NumeroP":"8","Ordinanza":true,)"
+            R"("Provincia":"PI","Regione":"TO","RipA":"bis","RipC":"ter","Sezione":"s.u.",)"
+            R"("TP":"LIO","Testo":"art. 1 "})");
+  EXPECT_TRUE(Letta({{"TP", "LIO"}, {"fonte", 2}, {"decreto", true}}).Decreto);
 }
 
 TEST_F(Caricamento, FindsTheNameInTheCatalogueOfTheCode) {

@@ -3,17 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
-#include <QJsonDocument>
 
 #include "cli/richiesta_fonte.h"
 #include "comune/cartella_di_prova.h"
 
 namespace torvi {
 namespace {
-
-std::string Mostra(const QJsonObject& oggetto) {
-  return QJsonDocument(oggetto).toJson(QJsonDocument::Compact).toStdString();
-}
 
 // What the preview should show: the citation of an operator who says yes, or what is said first.
 void ConfrontaAnteprima(const FormaFonte& forma, const StatoGlobale& stato,

@@ -2,6 +2,7 @@
 
 #include "comune/cartella_di_prova.h"
 #include "comune/citazioni.h"
+#include "comune/tavole.h"
 #include "fonti/convenzioni.h"
 #include "fonti/elenchi_fonte.h"
 #include "fonti/interroga_catalogo.h"
@@ -14,9 +15,7 @@ namespace {
 
 class Elenchi : public testing::Test {
  protected:
-  qint64 Riga(const char* tabella, std::initializer_list<std::pair<const char*, Campo>> valori) {
-    return Aggiungi(archivio, QLatin1String(tabella), valori);
-  }
+  qint64 Riga(const char* tabella, Valori valori) { return Aggiungi(archivio, tabella, valori); }
   void Convenzione(int numero) {
     const QString n = QString::number(numero);
     Riga("TabFonte", {{"fonte", 30},
@@ -49,7 +48,7 @@ TEST_F(Elenchi, OfferWhatTheFileHolds) {
   }
   QString testo;
   for (const auto& [nome, voci] : elenchi) testo += nome + ": " + voci.join('|') + '\n';
-  EXPECT_EQ(testo.toStdString(), Byte(TORVI_RADICE "/tests/dati/elenchi_fonti.txt").toStdString());
+  EXPECT_EQ(testo.toStdString(), Dati("elenchi_fonti.txt"));
 }
 
 TEST_F(Elenchi, ListActsByTheirPlaceInTheTree) {

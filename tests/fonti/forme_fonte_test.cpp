@@ -2,7 +2,8 @@
 
 #include <QPlainTextEdit>
 
-#include "comune/cartella_di_prova.h"
+#include "cli/json_fonte.h"
+#include "comune/citazioni.h"
 #include "comune/dialoghi_scritti.h"
 #include "comune/tastiera.h"
 #include "fonti/frmModificaFonte.h"
@@ -29,7 +30,7 @@ TEST(FrmSceltaTipoFonte, LeavesTheKindOfLaw) {
     stato.TipoFonteScelto = "prima";
     frmSceltaTipoFonte forma(stato);
     Operatore::Esegue([&] { forma.exec(); }, {[&](QWidget&) { Batti(caso.copione); }});
-    EXPECT_EQ(stato.TipoFonteScelto, QLatin1String(caso.scelto)) << caso.copione;
+    EXPECT_EQ(stato.TipoFonteScelto, caso.scelto) << caso.copione;
   }
 }
 
@@ -63,35 +64,13 @@ TEST_F(FormaModificaFonte, WritesEveryFieldBack) {
           "c{Tab}9{Tab}A{Tab}Min{Tab}Amm{Tab}Aut{Tab}Stato{Tab}Città{Tab}I{Tab}LA{Tab}BZ"
           "{Tab}l'\"altro\"{Tab} {Tab} {Tab}{Ctrl+A}Dir. UE 6/2001*NIC* resto{Alt+E}"),
       QDialog::Accepted);
-  RigaFonte attesa;
-  attesa.IDFonte = 12;
-  attesa.FonteNorm = "Dir. UE";
-  attesa.TP = "NIC";
-  attesa.Testo = "Dir. UE 6/2001";
-  attesa.Articolo = "7";
-  attesa.Comma = "8";
-  attesa.Lettera = "c";
-  attesa.NumeroP = "9";
-  attesa.Allegato = "A";
-  attesa.RipA = "bis";
-  attesa.RipC = "ter";
-  attesa.Anno = "2001";
-  attesa.Mese = "maggio";
-  attesa.Giorno = "5";
-  attesa.Numero = "6";
-  attesa.Ministero = "Min";
-  attesa.Regione = "LA";
-  attesa.Provincia = "BZ";
-  attesa.Citta = "Città";
-  attesa.Sezione = "I";
-  attesa.Autorita = "Aut";
-  attesa.Amministrazione = "Amm";
-  attesa.Stato = "Stato";
-  attesa.Decreto = false;
-  attesa.Ordinanza = true;
-  attesa.Altro = "l'\"altro\"";
-  attesa.Cancellata = true;
-  EXPECT_TRUE(stato.RigheFonte[1] == attesa);
+  EXPECT_EQ(Mostra(Ridotta(JsonFonte(stato.RigheFonte[1]))),
+            R"({"Allegato":"A","Altro":"l'\"altro\"","Amministrazione":"Amm","Anno":"2001",)"
+            R"("Articolo":"7","Autorita":"Aut","Cancellata":true,"Citta":"Città","Comma":"8",)"
+            R"("FonteNorm":"Dir. UE","Giorno":"5","IDFonte":12,"Lettera":"c","Mese":"maggio",)"
+            R"("Ministero":"Min","Numero":"6","NumeroP":"9","Ordinanza":true,"Provincia":"BZ",)"
+            R"("Regione":"LA","RipA":"bis","RipC":"ter","Sezione":"I","Stato":"Stato",)"
+            R"("TP":"NIC","Testo":"Dir. UE 6/2001"})");
   EXPECT_TRUE(stato.RigheFonte[0] == RigaFonte());
 
   // What was written stands in the same fields again.

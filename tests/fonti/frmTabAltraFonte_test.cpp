@@ -5,9 +5,6 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QRadioButton>
 #include <QTabWidget>
 
@@ -19,7 +16,7 @@
 namespace torvi {
 namespace {
 
-const QString kMancaAtto = QStringLiteral("Manca l'atto!");
+const QString kMancaAtto = "Manca l'atto!";
 
 class FormaAltraFonte : public testing::Test {
  protected:
@@ -44,8 +41,8 @@ class FormaAltraFonte : public testing::Test {
     }
     stato.NuovaFonte = true;
   }
-  qint64 Riga(const char* tabella, std::initializer_list<std::pair<const char*, Campo>> valori) {
-    return Aggiungi(stato.DbArchivio, QString::fromUtf8(tabella), valori);
+  qint64 Riga(const char* tabella, Valori valori) {
+    return Aggiungi(stato.DbArchivio, tabella, valori);
   }
   void Convenzione(const char* numero, const char* altro) {
     Riga("TabFonte", {{"fonte", 30},
@@ -89,11 +86,6 @@ class FormaAltraFonte : public testing::Test {
   [[nodiscard]] QString Testo(const char* campo) const {
     return Controllo<QLineEdit>(campo).text();
   }
-  [[nodiscard]] static QStringList Linee(const QListWidget& lista) {
-    QStringList linee;
-    for (int i = 0; i < lista.count(); ++i) linee += lista.item(i)->text();
-    return linee;
-  }
   [[nodiscard]] QString Anteprima() const { return Trova<QLabel>(*forma, "labelAnteprima").text(); }
   [[nodiscard]] bool TrattatiAperti() const {
     return Trova<QWidget>(*forma, "frameNIT").isVisible();
@@ -106,7 +98,7 @@ class FormaAltraFonte : public testing::Test {
          {"FrameEstremi", "FrameRipartizioni", "txtLibero", "LabelLibero", "FrameAltro",
           "FrameRegione", "lstElenco1", "lstElenco2", "txtStato", "LabelStato", "cmdListaStati"}) {
       const auto& controllo = Controllo<QWidget>(nome);
-      if (controllo.isVisible() && controllo.isEnabled()) nomi += QLatin1String(nome);
+      if (controllo.isVisible() && controllo.isEnabled()) nomi += nome;
     }
     const auto& lista = Controllo<QListWidget>("lstFonte");
     if (lista.isEnabled()) nomi += Linee(lista);
@@ -131,7 +123,7 @@ TEST_F(FormaAltraFonte, ShowsWhatEachKindNeeds) {
     return libero + QStringLiteral(
                         " giuridiche (*%1G*) papirologiche (*%1P*) epigrafiche (*%1E*) "
                         "letterarie (*%1L*)")
-                        .arg(QLatin1String(g));
+                        .arg(g);
   };
   const QString corte = date + libero + " FrameAltro FrameRegione lstElenco1";
   const std::vector<std::vector<std::tuple<QString, QString, QString>>> voci = {
@@ -319,7 +311,7 @@ TEST_F(FormaAltraFonte, FindsATreatyAndTakesItOver) {
       combo.setCurrentIndex(parte);
     }
     Trova<QLineEdit>(*forma, "txtNIT").setFocus();
-    Batti(parole + QStringLiteral("{Return}"));
+    Batti(QString(parole) + "{Return}");
     EXPECT_EQ(Linee(lista).join('|'), trovati);
   }
   Trova<QLineEdit>(*forma, "txtNIT").setFocus();

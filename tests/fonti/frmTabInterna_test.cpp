@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QTabWidget>
@@ -18,19 +15,13 @@
 namespace torvi {
 namespace {
 
-QString Linee(const QListWidget& lista) {
-  QStringList linee;
-  for (int i = 0; i < lista.count(); ++i) linee += lista.item(i)->text();
-  return linee.join('|');
-}
-
 class FormaTabInterna : public testing::Test {
  protected:
   FormaTabInterna() {
     stato.NuovaFonte = true;
     const UnitaDiScrittura unita(stato.DbArchivio);
     const auto riga = [this](const char* tabella, auto... valori) {
-      Aggiungi(stato.DbArchivio, QLatin1String(tabella), {valori...});
+      Aggiungi(stato.DbArchivio, tabella, {valori...});
     };
     using Valore = std::pair<const char*, Campo>;
     // Both levels, and the name.
@@ -71,7 +62,7 @@ class FormaTabInterna : public testing::Test {
     return Trova<QComboBox>(Pagina(), combo).currentText();
   }
   [[nodiscard]] QString Lista(const char* nome) const {
-    return Linee(Trova<QListWidget>(Pagina(), nome));
+    return Linee(Trova<QListWidget>(Pagina(), nome)).join('|');
   }
   [[nodiscard]] static QString Fuoco() { return QApplication::focusWidget()->objectName(); }
   // The frames by their letters, the acts, and each Info that is on with its list.
@@ -111,7 +102,7 @@ class FormaTabInterna : public testing::Test {
 
   // One act of each kind that the catalogue spells, in this order of their dates.
   void NuovoCatalogo() const {
-    const QString percorso = cartella.Mdb(QStringLiteral("catalogo norme.mdb"));
+    const QString percorso = cartella.Mdb("catalogo norme.mdb");
     CreaDatabase(percorso, SchemaCatalogo());
     const Database catalogo = OpenDatabase(percorso);
     int anno = 2000;
@@ -121,7 +112,7 @@ class FormaTabInterna : public testing::Test {
              .split('|')) {
       const QStringList dati = atto.split(' ');
       const Campo numero = dati.size() > 2 ? Campo(dati.last()) : Campo();
-      Aggiungi(catalogo, QStringLiteral("tabCatalogo"),
+      Aggiungi(catalogo, "tabCatalogo",
                {{"anno", anno},
                 {"numero", numero},
                 {"abbreviazione", dati.at(1)},
@@ -353,7 +344,7 @@ TEST_F(FormaTabInterna, SearchesTheCatalogue) {
   Trova<QWidget>(*forma, "ComboCatalogoFonte").setFocus();
   Batti("d.lg.{Tab}2{Tab}dic{Tab}{Alt+R}");
   EXPECT_TRUE(QTest::qWaitFor([this] { return Trovati() > 0; }));
-  EXPECT_EQ(Linee(lista), "2) d.lgs. 2001 --- Norme sull'atto");
+  EXPECT_EQ(Linee(lista).join('|'), "2) d.lgs. 2001 --- Norme sull'atto");
   Cerca("txtCatalogoNumero", "77");
   EXPECT_EQ(dialoghi.Messaggi(),
             QStringList("Non ci sono provvedimenti che soddisfano la ricerca - cambiare e "

@@ -12,9 +12,9 @@ namespace {
 
 RigaFonte Fonte(const char* tp, const char* testo, const char* nome = "") {
   RigaFonte riga;
-  riga.TP = QString::fromUtf8(tp);
-  riga.Testo = QString::fromUtf8(testo);
-  riga.FonteNorm = QString::fromUtf8(nome);
+  riga.TP = tp;
+  riga.Testo = testo;
+  riga.FonteNorm = nome;
   return riga;
 }
 
@@ -31,7 +31,7 @@ class SalvataggioFonti : public testing::Test {
           std::pair{"TabAutorita", "AutoritaNorm"}, std::pair{"TabSezione", "sigla"},
           std::pair{"TabStato", "stato"}}) {
       for (const char* nome : {"a", "b", "c"}) {
-        Aggiungi(stato.DbArchivio, QLatin1String(tabella), {{colonna, nome}});
+        Aggiungi(stato.DbArchivio, tabella, {{colonna, nome}});
       }
     }
   }
@@ -40,21 +40,13 @@ class SalvataggioFonti : public testing::Test {
     SalvaFonti(stato, dialoghi, documento, nuovo);
   }
   [[nodiscard]] QString Query(const RigaFonte& riga) { return QueryFonte(stato, dialoghi, riga); }
-  // All rows of a statement: columns joined by '|', rows by ';'.
-  [[nodiscard]] std::string Righe(const char* tabella, const std::vector<const char*>& colonne) {
-    QStringList righe;
-    for (const Riga& riga :
-         stato.DbArchivio.LeggiRighe(QStringLiteral("select * from ") + QLatin1String(tabella))) {
-      QStringList valori;
-      for (const char* colonna : colonne) valori += riga.Fields(colonna).TestoOVuoto();
-      righe += valori.join('|');
-    }
-    return righe.join(';').toStdString();
+  // The rows of a table, between semicolons.
+  [[nodiscard]] std::string Righe(const char* tabella, const QStringList& colonne) {
+    return RigheTesto(stato.DbArchivio, tabella, colonne).join(';').toStdString();
   }
   [[nodiscard]] std::string Legami() { return Righe("LegameDocFonte", {"IDDoc", "IDFnt"}); }
   [[nodiscard]] qsizetype QuanteFonti() const {
-    return static_cast<qsizetype>(
-        stato.DbArchivio.LeggiRighe(QStringLiteral("select * from tabFonte")).size());
+    return static_cast<qsizetype>(stato.DbArchivio.LeggiRighe("select * from tabFonte").size());
   }
 
   CartellaDiProva cartella;
@@ -75,20 +67,22 @@ RigaFonte ConNomi(const char* tp) {
 }
 
 TEST_F(SalvataggioFonti, AsksForEqualTextsAndForNamesByTheKind) {
-  RigaFonte riga = Fonte("FSI", "il \"detto\"");
-  riga.Articolo = "1";
-  riga.Comma = "2";
-  riga.Lettera = "c";
-  riga.Allegato = "4";
-  riga.RipA = "bis";
-  riga.RipC = "ter";
-  riga.Numero = "7";
-  riga.NumeroP = "8";
-  riga.Giorno = "9";
-  riga.Anno = "1942";
-  riga.Mese = "luglio";
-  riga.Altro = "\"x";
-  riga.FonteNorm = "sconosciuta";
+  using R = RigaFonte;
+  R riga = Fonte("FSI", "il \"detto\"", "sconosciuta");
+  for (const auto& [campo, valore] : {std::pair{&R::Articolo, "1"},
+                                      {&R::Comma, "2"},
+                                      {&R::Lettera, "c"},
+                                      {&R::Allegato, "4"},
+                                      {&R::RipA, "bis"},
+                                      {&R::RipC, "ter"},
+                                      {&R::Numero, "7"},
+                                      {&R::NumeroP, "8"},
+                                      {&R::Giorno, "9"},
+                                      {&R::Anno, "1942"},
+                                      {&R::Mese, "luglio"},
+                                      {&R::Altro, "\"x"}}) {
+    riga.*campo = valore;
+  }
   EXPECT_EQ(Query(riga).toStdString(),
             R"(select * from tabFonte where Testo = "il ""detto""" and TP = "FSI")"
             R"( and articolo = "1" and comma = "2" and lettera = "c" and allegato = "4")"
@@ -109,12 +103,12 @@ TEST_F(SalvataggioFonti, AsksForEqualTextsAndForNamesByTheKind) {
         std::pair{"FCG", " and IDFonte = 3 and IDRegione = 3 and IDCitta = 3"},
         std::pair{"NS", " and IDStato = 3"}, std::pair{"GS", " and IDStato = 3"},
         std::pair{"FCA", ""}, std::pair{"FSRG", ""}, std::pair{"0", ""}}) {
-    const QString fissa = QStringLiteral(
+    const QString fissa =
         "select * from tabFonte where Testo = \"t\" and TP = \"%1\" and articolo = \"\" and comma "
         "= \"\" and lettera = \"\" and allegato = \"\" and ripa = \"\" and ripc = \"\" and numero "
         "= \"\" and numerop = \"\" and giorno = \"\" and anno = \"\" and mese = \"0\" and altro = "
-        "\"\"");
-    EXPECT_EQ(Query(ConNomi(tp)), fissa.arg(QLatin1String(tp)) + QLatin1String(coda));
+        "\"\"";
+    EXPECT_EQ(Query(ConNomi(tp)), fissa.arg(tp) + coda);
   }
 }
 

@@ -13,6 +13,7 @@
 #include "archive/schema.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/finestre.h"
+#include "comune/tavole.h"
 #include "shell/avvio.h"
 
 namespace torvi {
@@ -25,71 +26,11 @@ void Descrivi(const QMenu& menu, const QString& rientro, QStringList& righe) {
     if (voce->menu() != nullptr) {
       Descrivi(*voce->menu(), rientro + " ", righe);
     } else {
-      righe += rientro + " " + voce->objectName() + " " +
-               (voce->isSeparator() ? QStringLiteral("-") : voce->text());
+      righe +=
+          rientro + " " + voce->objectName() + " " + (voce->isSeparator() ? "-" : voce->text());
     }
   }
 }
-
-constexpr const char* kAlbero = R"(mnuFile &File
- mnuFileApri &Apri database
- mnuFileChiudi &Chiudi database
- mnuFileNuovo &Nuovo database
- mnuSep -
- mnuFileEsci &Esci
-mnuAggiornamento &Aggiornamento
- mnuAggiornamentoNuovo &Nuovo documento
- mnuAggiornamentoEdita &Edita documento
- mnuAggiornamentoCancella &Cancella documento
- mnuAggiornamentoRicerca &Ricerca documento
- mnuInterrogaCatalogo &Catalogo norme
-mnuStampa &Stampa
- mnuStampaCompleta Stampa &completa
- mnuStampaSoloTesti Stampa campi &testo
- mnuStampaSep1 -
- mnuStampaProspetto Stampa &prospetto
- mnuStampaConsistenza Stampa c&onsistenza
- mnuStampaSep2 -
- mnuUtilitaHTML Stampa &HTML per controllo CELEX
- mnuUtilitaHTML_HUDOC Stampa HT&ML per controllo HUDOC
-mnuFinestra Fi&nestra
- mnuFinestraCascata In &cascata
- mnuFinestraOrizzontale Affianca &orizzontalmente
- mnuFinestraVerticale Affianca &verticalmente
-mnuEsporta &Esporta
- mnuEsportaDBT &Formato ASCII ...
-  mnuFormatoASCIIStorico &Storico
-  mnuFormatoASCIIIsis &Isis
-  mnuFormatoASCIICassazione &Cassazione
- mnuFileNotaDocumenti File &Nota (documenti)
- mnuFileNuovi File  N&uovi
- mnuFileErrori File &Errori ...
-  mnuFileErroriGenerici &Generici (errori.xxx)
-  mnuFileErroriClasse &Classificazione (errclasse.xxx)
-  mnuFileErroriFonti &Fonti (errfonti.xxx)
-mnuUtilita &Utilità
- mnuUtilitaClassificazione &Classificazione ...
-  mnuCaricaTabLegami Carica tabella &legami
-  mnuCaricaTabDescrittori Carica tabella &descrittori
-  mnuCaricaTabDescrittoriAsteriscati Carica tabella descrittori &asteriscati
-  mnuCaricaTabSistematici Carica tabella &sistematici
- mnuUtilitaSep1 -
- mnuUtilitaCatalogo Catalogo &norme ...
-  mnuCatalogoNorme Carica tabella &norme
- mnuUtilitaSep2 -
- mnuUtilitaAggiornamento &Aggiornamento
-  mnuUtilitaAggiornamentoEsportazione &Esportazione
-   mnuUtilitaAggiornamentoStorico &Storico
-   mnuUtilitaAggiornamentoISIS &ISIS
-   mnuUtilitaAggiornamentoCassazione &Cassazione
-  mnuUtilitaAggiornamentoNote &Note
-  mnuUtilitaAggiornamentoFileNuovi File n&uovi
-  mnuUtilitaAggiornamentoCelex &HTML per Celex
-  mnuUtilitaAggiornamentoHUDOC HTM&L per HUDOC
-  mnuUtilitaAggiornamentoConteggioDocumenti Conte&ggio documenti
-  mnuUtilitaAggiornamentoModificaLista &Modifica lista consegne
- mnuUtilitaSep3 -
- mnuUtilitaControllo Controllo)";
 
 // Which of the entries with a state can be used, one sign each: a letter or a dash.
 QString Abilitati(const QWidget& finestra) {
@@ -99,16 +40,16 @@ QString Abilitati(const QWidget& finestra) {
       {"mnuEsporta", 'E'},       {"mnuUtilita", 'U'}};
   QString segni;
   for (const auto& [nome, segno] : kVoci) {
-    const auto* menu = finestra.findChild<QMenu*>(QLatin1String(nome));
-    const auto* voce = finestra.findChild<QAction*>(QLatin1String(nome));
+    const auto* menu = finestra.findChild<QMenu*>(nome);
+    const auto* voce = finestra.findChild<QAction*>(nome);
     const bool abilitato =
         menu != nullptr ? menu->menuAction()->isEnabled() : voce != nullptr && voce->isEnabled();
-    segni += abilitato ? QLatin1Char(segno) : QLatin1Char('-');
+    segni += abilitato ? segno : '-';
   }
   return segni;
 }
 
-const QString kEsci = QStringLiteral("TorviEditor|Confermi l'uscita ?|OK|Annulla");
+const QString kEsci = "TorviEditor|Confermi l'uscita ?|OK|Annulla";
 
 class Finestra : public testing::Test {
  protected:
@@ -125,15 +66,6 @@ class Finestra : public testing::Test {
     finestra->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
   }
-  [[nodiscard]] static Passo ScriveFile(const QString& nome) {
-    return [nome](QWidget& modale) {
-      auto& campo = Trova<QLineEdit>(modale, "fileNameEdit");
-      campo.selectAll();
-      QTest::keyClicks(&campo, nome);
-      QTest::keyClick(&campo, Qt::Key_Return);
-    };
-  }
-
   const CartellaDiProva cartella;
   StatoGlobale stato;
   std::unique_ptr<MDIEditorTorvi> finestra;
@@ -143,7 +75,7 @@ TEST_F(Finestra, ShowsTheWholeMenuTree) {
   EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
   QStringList righe;
   for (const QAction* voce : finestra->menuBar()->actions()) Descrivi(*voce->menu(), {}, righe);
-  EXPECT_EQ(righe.join('\n').toStdString(), kAlbero);
+  EXPECT_EQ(righe.join('\n').toStdString() + '\n', Dati("menu.txt"));
 }
 
 TEST_F(Finestra, SetsTheStateOfTheProgramAtStart) {
@@ -155,8 +87,8 @@ TEST_F(Finestra, SetsTheStateOfTheProgramAtStart) {
 }
 
 TEST_F(Finestra, FollowsTheArchiveWithItsMenus) {
-  cartella.NuovaConsegna(QStringLiteral("A01.MDB"));
-  Scegli("mnuFileApri", {ScriveFile(QStringLiteral("a01"))});
+  cartella.NuovaConsegna("A01.MDB");
+  Scegli("mnuFileApri", {ScriveFile("a01")});
   const QString titolo = "Torvi Editor (" + cartella.Mdb("A01.MDB") + ")";
   EXPECT_EQ(finestra->windowTitle(), titolo);
   EXPECT_EQ(Abilitati(*finestra), "--CGFSEU");
@@ -179,7 +111,7 @@ TEST_F(Finestra, ClosesTheArchiveUnderADocument) {
   Scegli("mnuAggiornamentoNuovo");
   Scegli("mnuFileChiudi");
   EXPECT_EQ(Abilitati(*finestra), "AN------");
-  Scegli("mnuFileApri", {ScriveFile(QStringLiteral("a01"))});
+  Scegli("mnuFileApri", {ScriveFile("a01")});
   EXPECT_EQ(Abilitati(*finestra), "--C-F---");
   Scegli("mnuFileChiudi");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
@@ -189,7 +121,7 @@ TEST_F(Finestra, ClosesTheArchiveUnderADocument) {
 
 TEST_F(Finestra, CancelledOpeningIsToldAndChangesNothing) {
   Scegli("mnuFileApri", {[](QWidget& modale) { QTest::keyClick(&modale, Qt::Key_Escape); },
-                         Riquadro(QStringLiteral("TorviEditor|È stato scelto Annulla.|OK"))});
+                         Riquadro("TorviEditor|È stato scelto Annulla.|OK")});
   EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
   EXPECT_EQ(Abilitati(*finestra), "AN-----U");
 }
@@ -209,21 +141,20 @@ TEST_F(Finestra, MakesADeliveryAndLeavesItClosed) {
     EXPECT_EQ(modale.windowTitle(), "Informazione consegna");
     for (const auto& [tasti, avanti] :
          {std::pair{"j", true}, {"2", true}, {"b01", true}, {"7", false}}) {
-      QTest::keyClicks(QApplication::focusWidget(), QLatin1String(tasti));
+      QTest::keyClicks(QApplication::focusWidget(), tasti);
       if (avanti) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   };
-  Scegli("mnuFileNuovo", {ScriveFile(QStringLiteral("b01")),
+  Scegli("mnuFileNuovo", {ScriveFile("b01"),
                           Riquadro("Nuovo archivio|" + cartella.Mdb("b01.mdb") +
                                    "\nIl file non esiste. Crearlo?|Sì|No"),
                           compila});
   EXPECT_EQ(Abilitati(*finestra), "A------U");
   EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
-  const Recordset info = OpenDatabase(cartella.Mdb("B01.MDB")).OpenRecordset("TabInfo");
-  EXPECT_EQ(info.Fields("Consegna").Testo(), "B01");
-  EXPECT_EQ(info.Fields("IDCentroSpoglio").Testo(), "J");
-  EXPECT_EQ(info.Fields("NumInizio").Testo(), "7");
+  EXPECT_EQ(RigheTesto(OpenDatabase(cartella.Mdb("B01.MDB")), "TabInfo",
+                       {"Consegna", "IDCentroSpoglio", "NumInizio"}),
+            QStringList("B01|J|7"));
 }
 
 TEST_F(Finestra, AsksBeforeItEnds) {
@@ -240,7 +171,7 @@ TEST_F(Finestra, AsksBeforeItEnds) {
 TEST_F(Finestra, ShowsWhatNoTrapTakesAndGoesOn) {
   stato = cartella.StatoConConsegna();
   finestra->ImpostaFase(FaseMenu::ArchivioAperto);
-  stato.DbArchivio.Execute(QStringLiteral("delete * from TabInfo"));
+  stato.DbArchivio.Execute("delete * from TabInfo");
   Scegli("mnuFormatoASCIIIsis",
          {Riquadro("TorviEditor|Errore di run-time '3021': Nessun record corrente: TabInfo è vuota "
                    "in " +
@@ -261,20 +192,17 @@ TEST_F(Finestra, ExportsFromTheMenu) {
                            Caso{"mnuFormatoASCIICassazione", "lexxdump cassazione.A01"},
                            Caso{"mnuFormatoASCIIStorico", "lexxdump storico.A01"}}) {
     Scegli(caso.voce,
-           {Riquadro(QStringLiteral("Esportazione per ISIS|Controllo presenza fonti?|Sì|No"),
-                     Qt::Key_N),
-            Riquadro(QStringLiteral("Esportazione|Accodare risultato dell'esportazione?|Sì|No"),
-                     Qt::Key_Escape),
-            Riquadro(QStringLiteral(
-                "TorviEditor|Errore di run-time '3021': Nessun record corrente.|OK"))});
-    EXPECT_TRUE(QFile::exists(cartella.Dump(QLatin1String(caso.file)))) << caso.file;
+           {Riquadro("Esportazione per ISIS|Controllo presenza fonti?|Sì|No", Qt::Key_N),
+            Riquadro("Esportazione|Accodare risultato dell'esportazione?|Sì|No", Qt::Key_Escape),
+            Riquadro("TorviEditor|Errore di run-time '3021': Nessun record corrente.|OK")});
+    EXPECT_TRUE(QFile::exists(cartella.Dump(caso.file))) << caso.file;
   }
 }
 
 // Each print tells that it is done, and the status bar then offers its file.
 TEST_F(Finestra, PrintsFromTheMenuAndOffersTheFile) {
   const auto fine = [](const char* testo) {
-    return Riquadro(QStringLiteral("TorviEditor|%1|OK").arg(QLatin1String(testo)));
+    return Riquadro(QStringLiteral("TorviEditor|%1|OK").arg(testo));
   };
   const auto chiede = [](const char* parole, Qt::Key tasto) {
     return Riquadro(QString(QLatin1String(parole) + "|Sì|No"), tasto);
@@ -303,7 +231,7 @@ TEST_F(Finestra, PrintsFromTheMenuAndOffersTheFile) {
       {"mnuUtilitaHTML", "stampaHTML A01.htm", {fine("Fine stampa HTML (consegna A01)")}},
   };
   for (const char* nome : {"/testata new.rtf", "/testata prospetto.rtf"}) {
-    ScriviByte(cartella.Percorso() + QLatin1String(nome), "{");
+    ScriviByte(cartella.Percorso() + nome, "{");
   }
   stato = cartella.StatoConConsegna();
   finestra->ImpostaFase(FaseMenu::ArchivioAperto);
@@ -311,7 +239,7 @@ TEST_F(Finestra, PrintsFromTheMenuAndOffersTheFile) {
   EXPECT_FALSE(offerta.isVisible());
   for (const Caso& caso : kCasi) {
     Scegli(caso.voce, caso.passi);
-    EXPECT_TRUE(QFile::exists(cartella.Dump(QLatin1String(caso.file)))) << caso.file;
+    EXPECT_TRUE(QFile::exists(cartella.Dump(caso.file))) << caso.file;
     EXPECT_TRUE(offerta.isVisible());
     EXPECT_EQ(Trova<QLabel>(offerta, "nomeFileScritto").text(), caso.file);
   }
@@ -322,8 +250,8 @@ class Scrivania : public QObject {
   Q_OBJECT
 
  public:
-  Scrivania() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Apre"); }
-  ~Scrivania() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  Scrivania() { QDesktopServices::setUrlHandler("file", this, "Apre"); }
+  ~Scrivania() override { QDesktopServices::unsetUrlHandler("file"); }
   QStringList aperti;
 
  public Q_SLOTS:
@@ -331,7 +259,7 @@ class Scrivania : public QObject {
 };
 
 TEST_F(Finestra, OpensTheFileThatWasWrittenOrItsFolder) {
-  const QString file = cartella.Dump(QStringLiteral("consistenza.A01"));
+  const QString file = cartella.Dump("consistenza.A01");
   ScriviByte(file, "x");
   Scrivania scrivania;
   finestra->DialoghiDellaFinestra().FileScritto(file);
@@ -355,7 +283,7 @@ TEST_F(Finestra, ShowsEachErrorFile) {
        {Caso{"mnuFileErroriGenerici", "errori.A01", "Errori generici\n\nx\n\n"},
         Caso{"mnuFileErroriClasse", "errClasse.A01", "Errori di classificazione\n\nx\n\n"},
         Caso{"mnuFileErroriFonti", "errFonte.A01", "Errori nelle fonti\n\nx\n\n"}}) {
-    ScriviByte(cartella.Dump(QLatin1String(caso.file)), "x\r\n\r\n");
+    ScriviByte(cartella.Dump(caso.file), "x\r\n\r\n");
     Scegli(caso.voce, {[&caso](QWidget& modale) {
              EXPECT_EQ(modale.windowTitle(), "Visualizzazione errori");
              EXPECT_EQ(Trova<QPlainTextEdit>(modale, "txtErrori").toPlainText(), caso.testo);
@@ -374,7 +302,7 @@ TEST_F(Finestra, LetsNothingStartDuringALongRun) {
   {
     const Clessidra clessidra(dialoghi);
     EXPECT_EQ(finestra->cursor().shape(), Qt::WaitCursor);
-    dialoghi.Avanzamento(QStringLiteral("Esportazione"), 3, 10);
+    dialoghi.Avanzamento("Esportazione", 3, 10);
     const auto& barra = Trova<QProgressBar>(*finestra, "barraAvanzamento");
     EXPECT_TRUE(barra.isVisible());
     EXPECT_EQ(barra.text(), "3 di 10");
@@ -387,8 +315,7 @@ TEST_F(Finestra, LetsNothingStartDuringALongRun) {
     dialoghi.FileScritto(cartella.Dump("note.A03"));
     EXPECT_FALSE(Trova<QWidget>(*finestra, "offertaFile").isVisible());
     // What the run itself asks can be answered.
-    Operatore::Esegue([&] { dialoghi.Messaggio(QStringLiteral("Fatto")); },
-                      {Riquadro(QStringLiteral("TorviEditor|Fatto|OK"))});
+    Operatore::Esegue([&] { dialoghi.Messaggio("Fatto"); }, {Riquadro("TorviEditor|Fatto|OK")});
     EXPECT_FALSE(Trova<QProgressBar>(*finestra, "barraAvanzamento").isHidden());
   }
   EXPECT_EQ(scelte, 0);

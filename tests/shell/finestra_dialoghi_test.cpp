@@ -4,7 +4,6 @@
 
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QLineEdit>
 
 #include "archive/errore.h"
 #include "comune/cartella_di_prova.h"
@@ -17,18 +16,10 @@ class FinestraDialoghi : public testing::Test {
  protected:
   FinestraDialoghi() { finestra.show(); }
 
-  Passo Scrive(const QString& nome) const {
-    return [nome](QWidget& modale) {
-      auto& campo = Trova<QLineEdit>(modale, "fileNameEdit");
-      campo.selectAll();
-      QTest::keyClicks(&campo, nome);
-      QTest::keyClick(&campo, Qt::Key_Return);
-    };
-  }
   [[nodiscard]] RichiestaFile Richiesta() const {
-    return {.titolo = QStringLiteral("Nuovo archivio"),
-            .filtro = QStringLiteral("Database file (*.mdb)|*.mdb"),
-            .estensione = QStringLiteral("mdb"),
+    return {.titolo = "Nuovo archivio",
+            .filtro = "Database file (*.mdb)|*.mdb",
+            .estensione = "mdb",
             .cartella = cartella.Percorso() + "/mdb"};
   }
 
@@ -57,10 +48,8 @@ TEST_F(FinestraDialoghi, AnswersByButtonLetterAndEscape) {
        }) {
     Risposta risposta = Risposta::Ok;
     Operatore::Esegue(
-        [&] { risposta = dialoghi.Domanda(QStringLiteral("<b>Sicuro</b>?"), {}, caso.pulsanti); },
-        {Riquadro(
-            QStringLiteral("TorviEditor|<b>Sicuro</b>?|") + QString::fromUtf8(caso.didascalie),
-            caso.tasto)});
+        [&] { risposta = dialoghi.Domanda("<b>Sicuro</b>?", {}, caso.pulsanti); },
+        {Riquadro(QStringLiteral("TorviEditor|<b>Sicuro</b>?|") + caso.didascalie, caso.tasto)});
     EXPECT_EQ(risposta, caso.risposta) << caso.didascalie << ' ' << caso.tasto;
   }
 }
@@ -90,22 +79,20 @@ TEST_F(FinestraDialoghi, ABoxBelongsToTheFormThatIsLeftForIt) {
   };
   Operatore::Esegue(
       [this] {
-        EXPECT_EQ(dialoghi.Domanda(QStringLiteral("Sicuro?"), {}, Pulsanti::SiNo), Risposta::Si);
-        dialoghi.Messaggio(QStringLiteral("Fatto"), {}, Icona::Nessuna);
+        EXPECT_EQ(dialoghi.Domanda("Sicuro?", {}, Pulsanti::SiNo), Risposta::Si);
+        dialoghi.Messaggio("Fatto", {}, Icona::Nessuna);
       },
       {risponde, risponde});
 }
 
 TEST_F(FinestraDialoghi, TakesATypedText) {
   QString testo;
-  const auto chiede = [&] {
-    testo = dialoghi.Immissione(QStringLiteral("Nome:"), QStringLiteral("Nuovo"));
-  };
+  const auto chiede = [&] { testo = dialoghi.Immissione("Nome:", "Nuovo"); };
   const auto scrive = [](Qt::Key tasto) {
     return [tasto](QWidget& modale) {
       EXPECT_EQ(modale.windowTitle(), "Nuovo");
       EXPECT_EQ(dynamic_cast<QInputDialog&>(modale).labelText(), "Nome:");
-      QTest::keyClicks(modale.findChild<QLineEdit*>(), QStringLiteral(" a b"));
+      QTest::keyClicks(modale.findChild<QLineEdit*>(), " a b");
       QTest::keyClick(&modale, tasto);
     };
   };
@@ -139,10 +126,10 @@ TEST_F(FinestraDialoghi, OpensOnlyWhatIsThere) {
   richiesta.deveEsistere = true;
   QString scelto;
   Operatore::Esegue([&] { scelto = dialoghi.ScegliFile(richiesta); },
-                    {Scrive(QStringLiteral("assente")),
+                    {ScriveFile("assente"),
                      Riquadro("Nuovo archivio|" + cartella.Mdb("assente.mdb") +
                               "\nIl file non esiste. Verificare che il nome sia corretto.|OK"),
-                     Scrive(QStringLiteral("presente"))});
+                     ScriveFile("presente")});
   EXPECT_EQ(scelto, cartella.Mdb("Presente.MDB"));
 }
 
@@ -154,10 +141,10 @@ TEST_F(FinestraDialoghi, AsksBeforeANewNameOnly) {
       "Nuovo archivio|" + cartella.Mdb("nuova.mdb") + "\nIl file non esiste. Crearlo?|Sì|No";
   QString scelto;
   const auto scegli = [&] { scelto = dialoghi.ScegliFile(richiesta); };
-  Operatore::Esegue(scegli, {Scrive(QStringLiteral("nuova")), Riquadro(domanda, Qt::Key_Escape),
-                             Scrive(QStringLiteral("nuova")), Riquadro(domanda)});
+  Operatore::Esegue(scegli, {ScriveFile("nuova"), Riquadro(domanda, Qt::Key_Escape),
+                             ScriveFile("nuova"), Riquadro(domanda)});
   EXPECT_EQ(scelto, cartella.Mdb("nuova.mdb"));
-  Operatore::Esegue(scegli, {Scrive(QStringLiteral("presente.mdb"))});
+  Operatore::Esegue(scegli, {ScriveFile("presente.mdb")});
   EXPECT_EQ(scelto, cartella.Mdb("presente.mdb"));
 }
 

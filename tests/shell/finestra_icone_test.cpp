@@ -25,7 +25,7 @@ int PuntiDiversi(const QImage& uno, const QImage& altro) {
 }
 
 TEST(Icone, EveryDrawingInTheFolderIsInTheProgramAndNotBlank) {
-  const auto disegni = QDir(QStringLiteral(TORVI_RADICE "/risorse/icone")).entryInfoList({"*.svg"});
+  const auto disegni = QDir(TORVI_RADICE "/risorse/icone").entryInfoList({"*.svg"});
   EXPECT_EQ(disegni.size(), 16);
   QImage vuota(24, 24, QImage::Format_ARGB32);
   vuota.fill(Qt::transparent);
@@ -34,13 +34,13 @@ TEST(Icone, EveryDrawingInTheFolderIsInTheProgramAndNotBlank) {
     ASSERT_EQ(disegno.size(), vuota.size()) << file.fileName().toStdString();
     EXPECT_GT(PuntiDiversi(disegno, vuota), 24) << file.fileName().toStdString();
   }
-  EXPECT_EQ(NumeroErrore([] { (void)IconaDi(QStringLiteral("altra")); }), 53);
+  EXPECT_EQ(NumeroErrore([] { (void)IconaDi("altra"); }), 53);
 }
 
 TEST(Icone, ATextThatExistsShowsWithoutColoursToo) {
   for (const auto& nome : {"write", "export", "npad", "npadwrit"}) {
-    const QString piana = QLatin1String(nome);
-    EXPECT_GT(PuntiDiversi(Disegno(piana), Disegno(piana + QStringLiteral("-r"))), 60) << nome;
+    const QString piana = nome;
+    EXPECT_GT(PuntiDiversi(Disegno(piana), Disegno(piana + "-r")), 60) << nome;
   }
 }
 

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 
 #include "comune/dialoghi_scritti.h"
 #include "comune/finestre.h"
@@ -15,14 +13,14 @@ namespace {
 class FormaInformazione : public testing::Test {
  protected:
   FormaInformazione() {
-    forma.InfoNuovoArchivio = QStringLiteral("vecchio");
+    forma.InfoNuovoArchivio = "vecchio";
     forma.show();
   }
   void Compila() const {
     Trova<QComboBox>(forma, "ComboCentro").setCurrentIndex(17);
     Trova<QComboBox>(forma, "ComboAProd").setCurrentIndex(1);
-    Trova<QLineEdit>(forma, "txtConsegna").setText(QStringLiteral("b7"));
-    Trova<QLineEdit>(forma, "txtInizio").setText(QStringLiteral("0035"));
+    Trova<QLineEdit>(forma, "txtConsegna").setText("b7");
+    Trova<QLineEdit>(forma, "txtInizio").setText("0035");
   }
 
   DialoghiScritti dialoghi;
@@ -30,12 +28,9 @@ class FormaInformazione : public testing::Test {
 };
 
 TEST_F(FormaInformazione, ShowsItsControls) {
-  EXPECT_EQ(forma.windowTitle(), "Informazione consegna");
-  QStringList etichette;
-  for (const auto* etichetta : forma.findChildren<QLabel*>()) etichette += etichetta->text();
-  EXPECT_EQ(etichette.join('|'), "Centro di spoglio|Anno di produzione|Consegna|Numero iniziale");
-  EXPECT_EQ(Trova<QPushButton>(forma, "cmdOk").text(), "&Ok");
-  EXPECT_EQ(Trova<QPushButton>(forma, "cmdAnnulla").text(), "&Annulla");
+  EXPECT_EQ(Scritte(forma),
+            "Informazione consegna|Centro di spoglio|Anno di produzione|Consegna|Numero iniziale|"
+            "&Ok|&Annulla");
   const auto& centro = Trova<QComboBox>(forma, "ComboCentro");
   const auto& anno = Trova<QComboBox>(forma, "ComboAProd");
   EXPECT_EQ(centro.count(), 35);
@@ -55,11 +50,11 @@ TEST_F(FormaInformazione, JoinsTheFourFields) {
 }
 
 TEST_F(FormaInformazione, AsksWhatToDoWithMissingFields) {
-  const QString domanda = QStringLiteral(
+  const QString domanda =
       "Vuoi completare le informazioni (oppure uscire abbandonando l'operazione di 'Nuovo "
-      "archivio')?");
-  dialoghi.AttendeDomanda(domanda, QStringLiteral("Attenzione"), Pulsanti::SiNo, Risposta::Si);
-  dialoghi.AttendeDomanda(domanda, QStringLiteral("Attenzione"), Pulsanti::SiNo, Risposta::No);
+      "archivio')?";
+  dialoghi.AttendeDomanda(domanda, "Attenzione", Pulsanti::SiNo, Risposta::Si);
+  dialoghi.AttendeDomanda(domanda, "Attenzione", Pulsanti::SiNo, Risposta::No);
   Compila();
   Trova<QComboBox>(forma, "ComboCentro").setCurrentIndex(-1);
   Clic(forma, "cmdOk");
@@ -68,7 +63,7 @@ TEST_F(FormaInformazione, AsksWhatToDoWithMissingFields) {
   Clic(forma, "cmdOk");
   EXPECT_FALSE(forma.isVisible());
   EXPECT_EQ(forma.InfoNuovoArchivio, "");
-  EXPECT_EQ(dialoghi.Messaggi(), QStringList(2, QStringLiteral("Informazioni incomplete!")));
+  EXPECT_EQ(dialoghi.Messaggi(), QStringList(2, "Informazioni incomplete!"));
   EXPECT_EQ(dialoghi.Parole().first().icona, Icona::Informazione);
 }
 

@@ -4,6 +4,7 @@
 
 #include "comune/cartella_di_prova.h"
 #include "comune/tastiera.h"
+#include "comune/tavole.h"
 #include "shell/MDIEditorTorvi.h"
 #include "shell/avvio.h"
 
@@ -34,29 +35,21 @@ class GiornataDiLavoro : public testing::Test {
     Attiva();
     for (int volte = 0; volte < 60; ++volte) {
       const QWidget* fuoco = QApplication::focusWidget();
-      if (fuoco != nullptr && fuoco->objectName() == QLatin1String(controllo)) return;
-      Batti(QStringLiteral("{Tab}"));
+      if (fuoco != nullptr && fuoco->objectName() == controllo) return;
+      Batti("{Tab}");
     }
     FAIL() << "no Tab leads to " << controllo;
   }
   void Preme(const char* pulsante, std::deque<Passo> passi = {}) const {
     VaiA(pulsante);
-    Fa(QStringLiteral(" "), std::move(passi));
+    Fa(" ", std::move(passi));
   }
   // The rows of a statement, a line each; `colonne` by blanks.
   [[nodiscard]] std::string Righe(const char* colonne, const char* da) const {
-    const QStringList nomi = QString(QLatin1String(colonne)).split(QLatin1Char(' '));
-    QStringList righe;
-    for (Recordset r = stato.DbArchivio.OpenRecordset("select * from " + QLatin1String(da));
-         !r.Eof(); r.MoveNext()) {
-      QStringList valori;
-      for (const QString& nome : nomi) {
-        const Campo campo = r.Fields(nome.toStdString());
-        valori += campo.Nullo() ? QStringLiteral("Null") : campo.Testo();
-      }
-      righe += valori.join(QLatin1Char('|'));
-    }
-    return righe.join(QLatin1Char('\n')).toStdString();
+    return RigheTesto(stato.DbArchivio, QStringLiteral("select * from ") + da,
+                      QString(colonne).split(' '))
+        .join('\n')
+        .toStdString();
   }
   // All three of the export's questions answered, its bytes those of a file of tests/dati/.
   void EsportaEConfronta(const char* atteso) const {
@@ -64,11 +57,10 @@ class GiornataDiLavoro : public testing::Test {
        {Riquadro("Esportazione per ISIS|Controllo presenza fonti?|Sì|No", Qt::Key_N),
         Riquadro("Esportazione|Accodare risultato dell'esportazione?|Sì|No", Qt::Key_N),
         Riquadro("TorviEditor|Fine esportazione della consegna A01|OK")});
-    EXPECT_EQ(Byte(cartella.Dump("lexxdump isis.A01")).toStdString(),
-              Byte(QStringLiteral(TORVI_RADICE "/tests/dati/") + atteso).toStdString());
+    EXPECT_EQ(Byte(cartella.Dump("lexxdump isis.A01")).toStdString(), Dati(atteso));
   }
 
-  const QString salvato = QStringLiteral("TorviEditor|Documento salvato!|OK");
+  const QString salvato = "TorviEditor|Documento salvato!|OK";
   const CartellaDiProva cartella;
   StatoGlobale stato;
   std::unique_ptr<MDIEditorTorvi> finestra;

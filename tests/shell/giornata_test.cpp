@@ -1,7 +1,5 @@
 // A day of an operator, by keys alone: documents entered, corrected, duplicated, found, deleted and
 // exported.
-#include <QLabel>
-#include <QListWidget>
 
 #include "shell/giornata.h"
 
@@ -16,18 +14,17 @@ class Giornata : public GiornataDiLavoro {
     Passo cerca = [&](QWidget& modale) {
       EXPECT_EQ(modale.windowTitle(), "Ricerca documento");
       Batti(QStringLiteral("{Down}").repeated(campo + 1) + "{Tab}" + parole + "{Return}");
-      const auto& lista = Trova<QListWidget>(modale, "lstRisultato");
-      for (int i = 0; i < lista.count(); ++i) linee += lista.item(i)->text();
-      Batti(QStringLiteral("{Esc}"));
+      linee = Linee(Trova<QListWidget>(modale, "lstRisultato"));
+      Batti("{Esc}");
     };
-    if (parole.startsWith(QLatin1Char('!'))) {
+    if (parole.startsWith('!')) {
       Fa("{Alt+A}r",
          {cerca,
           Riquadro("TorviEditor|Non esistono record che soddisfano la ricerca impostata|OK")});
     } else {
       Fa("{Alt+A}r", {cerca});
     }
-    return linee.join(QLatin1Char('\n')).toStdString();
+    return linee.join('\n').toStdString();
   }
 
   void CorreggeEDuplica() const;
@@ -94,7 +91,7 @@ void Giornata::CorreggeEDuplica() const {
 // The third document, which leaves its links behind.
 void Giornata::Cancella() const {
   Fa("{Alt+A}c{Return}");  // another entry has that letter too
-  auto* scelta = finestra->findChild<QDialog*>(QStringLiteral("frmSceltaDoc"));
+  auto* scelta = finestra->findChild<QDialog*>("frmSceltaDoc");
   ASSERT_NE(scelta, nullptr);
   scelta->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(scelta));
@@ -114,14 +111,14 @@ TEST_F(Giornata, FromAnEmptyDeliveryToItsExport) {
   DocumentoDel2002();
   EXPECT_EQ(Righe("IDDocumento IDRifBibl pagine LIN lo la lr Bib td TAbs", "TabDocumento"),
             "1|1|12-34|01|00|00|00|1|02|900\n"
-            "2|2|Null|00|00|00|00|0|01|400\n"
+            "2|2|-|00|00|00|00|0|01|400\n"
             "3|3|5|00|00|00|00||03|600");
   EXPECT_EQ(
       Righe("IDRifBibl IDRivista fascicolo annata volume parte serie supplemento sezione data",
             "TabRifBibl"),
-      "1|1|1-2|12|Null|I|Null|Null|Null|03/02/2001\n"
-      "2|2|Null|Null|Null|Null|Null|Null|Null|00/00/1998\n"
-      "3|3|7|Null|Null|Null|Null|Null|Null|00/11/2002");
+      "1|1|1-2|12|-|I|-|-|-|03/02/2001\n"
+      "2|2|-|-|-|-|-|-|-|00/00/1998\n"
+      "3|3|7|-|-|-|-|-|-|00/11/2002");
   EXPECT_EQ(Righe("IDDoc Tipo IDTesto testo",
                   "LegameDocTesto, TabTesto where LegameDocTesto.IDTesto = TabTesto.IDTesto"),
             "1|0|1|L'usura \"bancaria\"\n1|1|2|Un riassunto in due righe.\n1|3|3|Usury\n"
@@ -130,10 +127,10 @@ TEST_F(Giornata, FromAnEmptyDeliveryToItsExport) {
             "3|0|9|Da togliere.\n3|2|10|1. Uno - 2. Due.");
   EXPECT_EQ(
       Righe("IDResponsabilita PrimoElemento SecondoElemento flagCollettivo", "TabResponsabilita"),
-      "1|D'Amico|Lucia|0\n2|Gruppo di studio|Null|1\n3|Verdi|Ugo|0");
+      "1|D'Amico|Lucia|0\n2|Gruppo di studio|-|1\n3|Verdi|Ugo|0");
   EXPECT_EQ(Righe("IDDoc IDResponsabilita flagAutore", "LegameDocResp"), "1|1|1\n1|2|0\n1|3|0");
   EXPECT_EQ(Righe("IDClasse2000 IDClasse2000-S IDClasse2000-D Classe2000-D Check", "TabClasse2000"),
-            "1|1|2|Null|0\n2|1|3|Null|1\n3|1|0|*sviluppo sostenibile|2\n4|2|0|Null|0");
+            "1|1|2|-|0\n2|1|3|-|1\n3|1|0|*sviluppo sostenibile|2\n4|2|0|-|0");
   EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass"), "1|1\n1|2\n1|3\n3|4");
   EXPECT_EQ(Righe("IDDoc IDClass", "LegameDocClass1999"), "2|2");
 

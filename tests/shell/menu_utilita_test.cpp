@@ -11,7 +11,7 @@
 namespace torvi {
 namespace {
 
-const QString kLogin = QStringLiteral("Login per accesso alla parte riservata");
+const QString kLogin = "Login per accesso alla parte riservata";
 
 // Each entry of the menus leads to its own command, and what the command shows can be answered.
 class MenuUtilita : public testing::Test {
@@ -30,7 +30,7 @@ class MenuUtilita : public testing::Test {
                       passi);
   }
   static Passo Fine(const char* testo) {
-    return Riquadro(QStringLiteral("TorviEditor|%1|OK").arg(QString::fromUtf8(testo)));
+    return Riquadro(QStringLiteral("TorviEditor|%1|OK").arg(testo));
   }
 
   CartellaDiProva cartella;
@@ -44,7 +44,7 @@ TEST_F(MenuUtilita, PrintsAndExtractsTheOpenDelivery) {
   Scegli("mnuFileNotaDocumenti", {Fine("Fine estrazione note ai documenti (consegna A01)")});
   Scegli("mnuFileNuovi", {Fine("Fine estrazione nuovi ai documenti (consegna A01)")});
   Scegli("mnuUtilitaControllo",
-         {Forma(kLogin, QStringLiteral("{Tab}$kavo${Return}")), [](QWidget& modale) {
+         {Forma(kLogin, "{Tab}$kavo${Return}"), [](QWidget& modale) {
             EXPECT_EQ(
                 Trova<QPlainTextEdit>(modale, "txtErrori").toPlainText(),
                 "Sono stati utilizzate le seguenti funzioni:\n'Stampa HTML per controllo Celex'");
@@ -62,11 +62,10 @@ TEST_F(MenuUtilita, RestrictedCommandsAskForTheLoginEachTime) {
   Scegli("mnuUtilitaControllo",
          {abbandona, Fine("Non hai i diritti per utilizzare alla funzione")});
   // What no trap takes is shown, and the program goes on.
-  Scegli("mnuCatalogoNorme",
-         {Forma(kLogin, QStringLiteral("{Tab}$kavo${Return}")), [](QWidget& modale) {
-            EXPECT_TRUE(Parole(modale).contains("Errore di run-time '3024': "));
-            QTest::keyClick(&modale, Qt::Key_Return);
-          }});
+  Scegli("mnuCatalogoNorme", {Forma(kLogin, "{Tab}$kavo${Return}"), [](QWidget& modale) {
+                                EXPECT_TRUE(Parole(modale).contains("Errore di run-time '3024': "));
+                                QTest::keyClick(&modale, Qt::Key_Return);
+                              }});
 }
 
 TEST_F(MenuUtilita, BatchesGoThroughTheListChosen) {
@@ -97,8 +96,7 @@ TEST_F(MenuUtilita, BatchesGoThroughTheListChosen) {
   }
   Scegli("mnuUtilitaAggiornamentoConteggioDocumenti", {scegli});
   EXPECT_EQ(Byte(cartella.Dump("conteggio.X01")).count("\r\n"), 2);
-  Scegli("mnuUtilitaAggiornamentoModificaLista",
-         {Forma("Composizione file sigle", QStringLiteral("{Escape}"))});
+  Scegli("mnuUtilitaAggiornamentoModificaLista", {Forma("Composizione file sigle", "{Escape}")});
   // The batch has closed the archive that was open; another one can be opened all the same.
   Scegli("mnuFileChiudi", {[](QWidget& modale) {
            EXPECT_TRUE(Parole(modale).contains("Errore di run-time '3420': "));

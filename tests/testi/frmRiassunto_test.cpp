@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -62,8 +59,8 @@ QString Sottolineate(const QPlainTextEdit& testo) {
 class FormaRiassunto : public testing::Test {
  protected:
   FormaRiassunto() {
-    stato.TipoTestoRiassunto = QStringLiteral("0");
-    stato.TestoRiassunto = QStringLiteral("Il testo iniziale.");
+    stato.TipoTestoRiassunto = "0";
+    stato.TestoRiassunto = "Il testo iniziale.";
   }
   // Opens the form, hands it over and gives back how it was left.
   int Apre(const std::function<void(frmRiassunto&, QPlainTextEdit&)>& uso) {
@@ -106,24 +103,24 @@ TEST_F(FormaRiassunto, EachTypeHasItsTitleLabelAndBuffer) {
         Caso{"2", "Testo 'In tema di'", "In tema di", &StatoGlobale::TestoInTemaDi},
         Caso{"3", "Testo 'English abstract'", "English abstract",
              &StatoGlobale::TestoEnglishAbstract}}) {
-    stato.TipoTestoRiassunto = QLatin1String(caso.tipo);
-    stato.*caso.testo = QStringLiteral("uno");
+    stato.TipoTestoRiassunto = caso.tipo;
+    stato.*caso.testo = "uno";
     const int esito = Apre([&caso](frmRiassunto& forma, QPlainTextEdit& testo) {
       EXPECT_EQ(forma.windowTitle(), caso.titolo);
       EXPECT_EQ(Trova<QLabel>(forma, "Label1").text(), caso.etichetta);
       EXPECT_EQ(testo.toPlainText(), "uno");
-      QTest::keyClicks(&testo, QStringLiteral("due "));
+      QTest::keyClicks(&testo, "due ");
       QTest::keyClick(&forma, Qt::Key_E, Qt::AltModifier);
     });
     EXPECT_EQ(esito, QDialog::Accepted);
     EXPECT_EQ(stato.*caso.testo, "due uno") << caso.tipo;
   }
-  stato.TipoTestoRiassunto = QStringLiteral("4");
+  stato.TipoTestoRiassunto = "4";
   EXPECT_EQ(NumeroErrore([this] { const frmRiassunto forma(stato, dialoghi, dizionari); }), 5);
 }
 
 TEST_F(FormaRiassunto, ShowsItsCaptionsAndTheLengthAsTyped) {
-  stato.TestoRiassunto = QStringLiteral("a\r\nb");
+  stato.TestoRiassunto = "a\r\nb";
   Apre([](frmRiassunto& forma, QPlainTextEdit& testo) {
     const auto& conteggio = Trova<QLabel>(forma, "lblConteggio");
     EXPECT_EQ(conteggio.text(), "4");
@@ -131,7 +128,7 @@ TEST_F(FormaRiassunto, ShowsItsCaptionsAndTheLengthAsTyped) {
     EXPECT_EQ(conteggio.text(), "6");
     QTest::keyClick(&testo, Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(conteggio.text(), "8");
-    testo.insertPlainText(QStringLiteral("\U0001F600"));
+    testo.insertPlainText("\U0001F600");
     EXPECT_EQ(conteggio.text(), "10");
     EXPECT_EQ(Trova<QLabel>(forma, "Label2").text() + Trova<QLabel>(forma, "Label3").text(),
               "N. caratteri: Max = 2500");
@@ -147,7 +144,7 @@ TEST_F(FormaRiassunto, LeavesTheTextAlone) {
   Apre([](frmRiassunto& forma, QPlainTextEdit&) { QTest::keyClick(&forma, Qt::Key_Escape); });
   for (const Qt::Key tasto : {Qt::Key_Escape, Qt::Key_A}) {
     const int esito = Apre([this, tasto](frmRiassunto& forma, QPlainTextEdit& testo) {
-      testo.insertPlainText(QStringLiteral("altro"));
+      testo.insertPlainText("altro");
       if (tasto == Qt::Key_Escape) {
         for (const Risposta risposta : {Risposta::Annulla, Risposta::Ok}) {
           dialoghi.AttendeDomanda("Confermi l'uscita ?", "", Pulsanti::OkAnnulla, risposta);
@@ -168,12 +165,12 @@ TEST_F(FormaRiassunto, StoresWhatWasTypedOrPastedOnOneLine) {
     QString incollato;
     QString salvato;
   };
-  const QString lungo(10000, QLatin1Char('x'));
+  const QString lungo(10000, 'x');
   for (const Caso& caso : {Caso{"primo.\r\nSecondo", "primo.Secondo"},
                            {"primo.\n\nSecondo", "primo.Secondo"},
-                           {QStringLiteral("a\tb\u00A0c \U0001F600 \"'*?["), {}},
+                           {"a\tb\u00A0c \U0001F600 \"'*?[", {}},
                            {lungo, {}},
-                           {QStringLiteral(""), QStringLiteral("")}}) {
+                           {"", ""}}) {
     Apre([&caso](frmRiassunto& forma, QPlainTextEdit& testo) {
       testo.selectAll();
       testo.insertPlainText(caso.incollato);
@@ -185,7 +182,7 @@ TEST_F(FormaRiassunto, StoresWhatWasTypedOrPastedOnOneLine) {
 
 TEST_F(FormaRiassunto, UndoGoesBackToTheTextAtTheOpening) {
   Apre([](frmRiassunto& forma, QPlainTextEdit& testo) {
-    testo.setPlainText(QStringLiteral("altro"));
+    testo.setPlainText("altro");
     Premi(forma, "cmdUndo", Qt::Key_U);
     EXPECT_EQ(testo.toPlainText(), "Il testo iniziale.");
     testo.undo();
@@ -198,7 +195,7 @@ TEST_F(FormaRiassunto, UndoGoesBackToTheTextAtTheOpening) {
 
 TEST_F(FormaRiassunto, CorrectsTheSpellingByKeys) {
   const QString corretto = Controlla(
-      QStringLiteral("Un provedimento del\r\nprovedimento di Zzorro, zzorro e qqwq."), Qt::Key_O,
+      "Un provedimento del\r\nprovedimento di Zzorro, zzorro e qqwq.", Qt::Key_O,
       [](QWidget& correzione) {
         EXPECT_EQ(correzione.windowTitle(), "Controllo ortografico: italiano");
         EXPECT_EQ(InMano(correzione), "provedimento > procedimento");
@@ -218,16 +215,15 @@ TEST_F(FormaRiassunto, CorrectsTheSpellingByKeys) {
 
 TEST_F(FormaRiassunto, WhatWasCorrectedBeforeAnEndStays) {
   ScriviByte(cartella.Percorso() + "/dizionari", "no folder");
-  const QString corretto =
-      Controlla(QStringLiteral("perchè poichè finchè"), Qt::Key_O, [](QWidget& correzione) {
-        const auto& fine = Trova<QPushButton>(correzione, "cmdAnnulla");
-        EXPECT_EQ(fine.text(), "&Annulla");
-        Batti(correzione, {});
-        EXPECT_EQ(fine.text(), "&Chiudi");
-        Premi(correzione, "cmdAggiungi", Qt::Key_D);  // cannot be written: still in hand
-        EXPECT_EQ(InMano(correzione).substr(0, 7), "poich\u00E8");
-        QTest::keyClick(&correzione, Qt::Key_Escape);
-      });
+  const QString corretto = Controlla("perchè poichè finchè", Qt::Key_O, [](QWidget& correzione) {
+    const auto& fine = Trova<QPushButton>(correzione, "cmdAnnulla");
+    EXPECT_EQ(fine.text(), "&Annulla");
+    Batti(correzione, {});
+    EXPECT_EQ(fine.text(), "&Chiudi");
+    Premi(correzione, "cmdAggiungi", Qt::Key_D);  // cannot be written: still in hand
+    EXPECT_EQ(InMano(correzione).substr(0, 7), "poich\u00E8");
+    QTest::keyClick(&correzione, Qt::Key_Escape);
+  });
   EXPECT_EQ(corretto, "perché poichè finchè");
   EXPECT_TRUE(
       dialoghi.Messaggi().value(0).startsWith("Errore di run-time '75': La parola «poichè»"));
@@ -236,48 +232,45 @@ TEST_F(FormaRiassunto, WhatWasCorrectedBeforeAnEndStays) {
 
 TEST_F(FormaRiassunto, ExplainsTheGrammarAndTakesASuggestion) {
   const QString corretto =
-      Controlla(QStringLiteral("Il danno..  E' una colpa. Cos' è un'altro?"), Qt::Key_G,
-                [](QWidget& correzione) {
-                  EXPECT_EQ(correzione.windowTitle(), "Controllo grammaticale: italiano");
-                  EXPECT_FALSE(Trova<QPushButton>(correzione, "cmdAggiungi").isVisible());
-                  EXPECT_EQ(Trova<QLabel>(correzione, "lblSpiegazione").text(),
-                            "Il punto fermo è uno solo; i puntini di sospensione sono tre.");
-                  EXPECT_EQ(InMano(correzione), ".. > .");
-                  Batti(correzione, {}, Qt::Key_Down);
-                  EXPECT_EQ(InMano(correzione), ".. > ...");
-                  Batti(correzione, {});
-                  EXPECT_EQ(InMano(correzione), "   >  ");
-                  EXPECT_EQ(Trova<QListWidget>(correzione, "lstSuggerimenti").item(0)->text(), "·");
-                  Batti(correzione, {});
-                  EXPECT_EQ(InMano(correzione), "E' > È");
-                  Batti(correzione, {});
-                  Premi(correzione, "cmdIgnora", Qt::Key_I);
-                  EXPECT_EQ(InMano(correzione), "un' > un ");
-                  PremiSpazio(correzione, "cmdSostituisci");
-                });
+      Controlla("Il danno..  E' una colpa. Cos' è un'altro?", Qt::Key_G, [](QWidget& correzione) {
+        EXPECT_EQ(correzione.windowTitle(), "Controllo grammaticale: italiano");
+        EXPECT_FALSE(Trova<QPushButton>(correzione, "cmdAggiungi").isVisible());
+        EXPECT_EQ(Trova<QLabel>(correzione, "lblSpiegazione").text(),
+                  "Il punto fermo è uno solo; i puntini di sospensione sono tre.");
+        EXPECT_EQ(InMano(correzione), ".. > .");
+        Batti(correzione, {}, Qt::Key_Down);
+        EXPECT_EQ(InMano(correzione), ".. > ...");
+        Batti(correzione, {});
+        EXPECT_EQ(InMano(correzione), "   >  ");
+        EXPECT_EQ(Trova<QListWidget>(correzione, "lstSuggerimenti").item(0)->text(), "·");
+        Batti(correzione, {});
+        EXPECT_EQ(InMano(correzione), "E' > È");
+        Batti(correzione, {});
+        Premi(correzione, "cmdIgnora", Qt::Key_I);
+        EXPECT_EQ(InMano(correzione), "un' > un ");
+        PremiSpazio(correzione, "cmdSostituisci");
+      });
   EXPECT_EQ(corretto, "Il danno... È una colpa. Cos' è un altro?");
   EXPECT_EQ(dialoghi.Messaggi().join('|'), "Controllo grammaticale effettuato!");
 }
 
 TEST_F(FormaRiassunto, AsksWhatToDoWithATextThatComesBackEmpty) {
-  const QString domanda =
-      QStringLiteral("Testo con correzioni perso: vuoi ripristinare il testo originale?");
+  const QString domanda = "Testo con correzioni perso: vuoi ripristinare il testo originale?";
   for (const Risposta risposta : {Risposta::Si, Risposta::No}) {
-    dialoghi.AttendeDomanda(domanda, QStringLiteral("Attenzione!"), Pulsanti::SiNo, risposta);
+    dialoghi.AttendeDomanda(domanda, "Attenzione!", Pulsanti::SiNo, risposta);
     const QString corretto = Controlla(
-        QStringLiteral("perchè"), risposta == Risposta::Si ? Qt::Key_O : Qt::Key_G,
-        [](QWidget& correzione) {
+        "perchè", risposta == Risposta::Si ? Qt::Key_O : Qt::Key_G, [](QWidget& correzione) {
           QTest::keyClick(&Trova<QLineEdit>(correzione, "txtSostituzione"), Qt::Key_Delete);
           Batti(correzione, {});
         });
     EXPECT_EQ(corretto, risposta == Risposta::Si ? "perchè" : "");
   }
-  dialoghi.AttendeDomanda(domanda, QStringLiteral("Attenzione!"), Pulsanti::SiNo, Risposta::Si);
+  dialoghi.AttendeDomanda(domanda, "Attenzione!", Pulsanti::SiNo, Risposta::Si);
   EXPECT_EQ(Controlla({}, Qt::Key_O, {}), "");
 }
 
 TEST_F(FormaRiassunto, UnderlinesWhatIsMisspelt) {
-  stato.TestoRiassunto = QStringLiteral("Il provedimento");
+  stato.TestoRiassunto = "Il provedimento";
   frmRiassunto forma(stato, dialoghi, dizionari);
   const auto& testo = Trova<QPlainTextEdit>(forma, "txtRiassunto");
   Operatore::Esegue([&forma] { forma.exec(); },
@@ -296,15 +289,15 @@ TEST_F(FormaRiassunto, UnderlinesWhatIsMisspelt) {
 }
 
 TEST_F(FormaRiassunto, TheAbstractInEnglishHasItsOwnDictionary) {
-  stato.TipoTestoRiassunto = QStringLiteral("3");
-  stato.TestoEnglishAbstract = QStringLiteral("The judge and the giudice");
+  stato.TipoTestoRiassunto = "3";
+  stato.TestoEnglishAbstract = "The judge and the giudice";
   const frmRiassunto forma(stato, dialoghi, dizionari);
   EXPECT_EQ(Sottolineate(Trova<QPlainTextEdit>(forma, "txtRiassunto")), "giudice");
 }
 
 TEST_F(FormaRiassunto, WithoutADictionaryOnlyTheSpellingIsMissing) {
   Dizionari nessuno(cartella.Percorso(), cartella.Percorso());
-  stato.TestoRiassunto = QStringLiteral("Il provedimento");
+  stato.TestoRiassunto = "Il provedimento";
   frmRiassunto forma(stato, dialoghi, nessuno);
   auto& testo = Trova<QPlainTextEdit>(forma, "txtRiassunto");
   Operatore::Esegue([&forma] { forma.exec(); }, {[&](QWidget& editore) {

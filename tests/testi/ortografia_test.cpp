@@ -52,8 +52,7 @@ TEST_F(OrtografiaDiProva, FindsWrongWordsAndLeavesLegalWritingAlone) {
             Lingua::Inglese},
            {"it doesn't recieve the Court's judgement", "recieve", Lingua::Inglese},
        }) {
-    EXPECT_EQ(Errate(QString::fromUtf8(caso.testo), caso.lingua).toStdString(), caso.errate)
-        << caso.testo;
+    EXPECT_EQ(Errate(caso.testo, caso.lingua).toStdString(), caso.errate) << caso.testo;
   }
 }
 
@@ -62,9 +61,9 @@ TEST_F(OrtografiaDiProva, ProposesTheAccentOfATypewriterFirst) {
   const auto prima = [&ortografia](const QString& testo) {
     return ortografia.Proposte(ortografia.Segnala(testo).front()).value(0).toStdString();
   };
-  EXPECT_EQ(prima(QStringLiteral("societa'")), "società");
-  EXPECT_EQ(prima(QStringLiteral("perche'")), "perché");
-  EXPECT_EQ(prima(QStringLiteral("aministrazione")), "amministrazione");
+  EXPECT_EQ(prima("societa'"), "società");
+  EXPECT_EQ(prima("perche'"), "perché");
+  EXPECT_EQ(prima("aministrazione"), "amministrazione");
 }
 
 TEST_F(OrtografiaDiProva, PersonalWordsAreKeptInAFileThatMayBeEdited) {
@@ -72,29 +71,29 @@ TEST_F(OrtografiaDiProva, PersonalWordsAreKeptInAFileThatMayBeEdited) {
   ScriviByte(FilePersonale(),
              "\xEF\xBB\xBF"
              "neologio\r\n\r\nTaricco");
-  EXPECT_EQ(Errate(QStringLiteral("Neologio Taricco taricco zzorro")), "taricco|zzorro");
+  EXPECT_EQ(Errate("Neologio Taricco taricco zzorro"), "taricco|zzorro");
   Ortografia ortografia = Apri();
   ScriviByte(FilePersonale(), "altrove");
-  const QString testo = QStringLiteral("zzorro' e Zzorro");
+  const QString testo = "zzorro' e Zzorro";
   ortografia.AggiungiAlDizionario(ortografia.Segnala(testo).front());
   EXPECT_TRUE(ortografia.Segnala(testo).empty());
   EXPECT_EQ(Byte(FilePersonale()), "altrove\nzzorro\n");
-  EXPECT_EQ(Errate(QStringLiteral("zzorro altrove neologio")), "neologio");
+  EXPECT_EQ(Errate("zzorro altrove neologio"), "neologio");
 }
 
 TEST_F(OrtografiaDiProva, AFileThatCannotBeWrittenLosesNothing) {
   ScriviByte(cartella.Percorso() + "/dizionari", "no folder");
   Ortografia ortografia = Apri();
-  Revisione revisione(QStringLiteral("zzorro"), ortografia);
+  Revisione revisione("zzorro", ortografia);
   EXPECT_EQ(NumeroErrore([&revisione] { revisione.AggiungiAlDizionario(); }), 75);
   EXPECT_TRUE(revisione.Corrente());
-  EXPECT_EQ(ortografia.Segnala(QStringLiteral("zzorro")).size(), 1U);
+  EXPECT_EQ(ortografia.Segnala("zzorro").size(), 1U);
 }
 
 TEST_F(OrtografiaDiProva, ARevisionGoesThroughTheText) {
   Ortografia ortografia = Apri();
-  Revisione revisione(QStringLiteral("aqq bqq aqq cqq dqq cqq bqq aqq"), ortografia);
-  revisione.SostituisciTutto(QStringLiteral("una aqq"));  // wrong again, yet asked no more
+  Revisione revisione("aqq bqq aqq cqq dqq cqq bqq aqq", ortografia);
+  revisione.SostituisciTutto("una aqq");  // wrong again, yet asked no more
   EXPECT_EQ(revisione.Corrente()->testo, "bqq");
   revisione.Ignora();
   EXPECT_EQ(revisione.Testo(), "una aqq bqq una aqq cqq dqq cqq bqq aqq");
@@ -102,7 +101,7 @@ TEST_F(OrtografiaDiProva, ARevisionGoesThroughTheText) {
   EXPECT_EQ(revisione.Corrente()->testo, "dqq");
   revisione.Sostituisci({});
   EXPECT_EQ(revisione.Corrente()->testo, "bqq");
-  revisione.Sostituisci(QStringLiteral("bqq"));
+  revisione.Sostituisci("bqq");
   EXPECT_FALSE(revisione.Corrente());
   EXPECT_EQ(revisione.Testo(), "una aqq bqq una aqq cqq  cqq bqq una aqq");
 }
