@@ -68,15 +68,8 @@ void ConfrontaTutto(const Database& archivio, const QString& mdb) {
   EXPECT_EQ(archivio.Tabelle().size(), tabelle.size());
   for (const QString& tabella : archivio.Tabelle()) {
     SCOPED_TRACE(qPrintable(tabella));
-    Righe attese;
-    for (const auto riga : tabelle[tabella].toArray()) {
-      QStringList valori;
-      for (const QString& colonna : archivio.Colonne(tabella)) {
-        valori += Mostra(riga.toObject()[colonna]);
-      }
-      attese.push_back(valori.join(u'|').toStdString());
-    }
-    EXPECT_EQ(RigheDi(archivio, tabella), attese);
+    EXPECT_EQ(RigheDi(archivio, tabella),
+              RigheAttese(archivio.Colonne(tabella), tabelle[tabella].toArray()));
   }
 }
 

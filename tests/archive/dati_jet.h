@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -64,6 +65,17 @@ inline std::string Mostra(const std::vector<Campo>& riga) {
   QStringList valori;
   for (const Campo& campo : riga) valori += Mostra(campo);
   return valori.join('|').toStdString();
+}
+
+// Rows as the independent reader tells them, by the names of the columns.
+[[nodiscard]] inline Righe RigheAttese(const QStringList& colonne, const QJsonArray& righe) {
+  Righe attese;
+  for (const auto riga : righe) {
+    QStringList valori;
+    for (const QString& colonna : colonne) valori += Mostra(riga.toObject()[colonna]);
+    attese.push_back(valori.join('|').toStdString());
+  }
+  return attese;
 }
 
 }  // namespace torvi::prova

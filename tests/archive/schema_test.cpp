@@ -3,89 +3,57 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <algorithm>
 
 #include "archive/database.h"
+#include "archive/jet.h"
 #include "comune/cartella_di_prova.h"
 
 namespace torvi {
 namespace {
 
-QString TipoGenuino(const Colonna& colonna) {
-  switch (colonna.tipo) {
-    case TipoColonna::Contatore:
-      return "LONG counter";
-    case TipoColonna::Intero:
-      return "LONG";
-    case TipoColonna::Testo:
-      return "TEXT";
-    case TipoColonna::Memo:
-      return "MEMO";
-    case TipoColonna::Logico:
-      return "BOOLEAN";
-    case TipoColonna::Data:
-      return "SHORT_DATE_TIME";
-    case TipoColonna::Reale:
-      break;
-  }
-  return {};
+template <typename Cosa>
+const Cosa* Trova(const std::vector<Cosa>& cose, const QString& nome) {
+  const auto cosa = std::ranges::find(cose, nome, &Cosa::nome);
+  return cosa == cose.end() ? nullptr : &*cosa;
 }
 
-QJsonObject SchemaGenuino(const QString& nome) {
-  return QJsonDocument::fromJson(Byte(FileGenuino(nome))).object();
-}
-
-const Tabella* Trova(const std::vector<Tabella>& schema, const QString& nome) {
-  const auto tabella = std::find_if(schema.begin(), schema.end(),
-                                    [&](const Tabella& una) { return una.nome == nome; });
-  return tabella == schema.end() ? nullptr : &*tabella;
-}
-
-void ConfrontaColonne(const Tabella& nostra, const QJsonArray& genuine) {
-  ASSERT_EQ(static_cast<qsizetype>(nostra.colonne.size()), genuine.size());
-  for (qsizetype i = 0; i < genuine.size(); ++i) {
-    const QJsonObject genuina = genuine[i].toObject();
-    const Colonna& colonna = nostra.colonne[static_cast<std::size_t>(i)];
-    QString tipo = genuina["type"].toString();
-    if (genuina["counter"].toBool()) tipo += " counter";
-    EXPECT_EQ(colonna.nome, genuina["name"].toString());
-    EXPECT_EQ(TipoGenuino(colonna), tipo) << colonna.nome.toStdString();
+void ConfrontaColonne(const Tabella& nostra, const Tabella& genuina) {
+  ASSERT_EQ(nostra.colonne.size(), genuina.colonne.size());
+  for (std::size_t i = 0; i < genuina.colonne.size(); ++i) {
+    const Colonna& colonna = nostra.colonne[i];
+    EXPECT_EQ(colonna.nome, genuina.colonne[i].nome);
+    EXPECT_EQ(colonna.tipo, genuina.colonne[i].tipo) << colonna.nome.toStdString();
     if (colonna.larghezza > 0) {
-      EXPECT_EQ(colonna.larghezza, genuina["chars"].toInt()) << colonna.nome.toStdString();
+      EXPECT_EQ(colonna.larghezza, genuina.colonne[i].larghezza) << colonna.nome.toStdString();
     }
   }
 }
 
-void ConfrontaIndici(const Tabella& nostra, const QJsonArray& genuini) {
-  for (const auto& valore : genuini) {
-    const QJsonObject genuino = valore.toObject();
-    const QString nome = genuino["name"].toString();
-    const auto indice = std::find_if(nostra.indici.begin(), nostra.indici.end(),
-                                     [&](const Indice& uno) { return uno.nome == nome; });
-    ASSERT_NE(indice, nostra.indici.end()) << nome.toStdString();
-    EXPECT_EQ(indice->colonne, genuino["columns"].toVariant().toStringList());
-    EXPECT_EQ(indice->unico, genuino["unique"].toBool()) << nome.toStdString();
+void ConfrontaIndici(const Tabella& nostra, const Tabella& genuina) {
+  for (const Indice& genuino : genuina.indici) {
+    const Indice* indice = Trova(nostra.indici, genuino.nome);
+    ASSERT_NE(indice, nullptr) << genuino.nome.toStdString();
+    EXPECT_EQ(indice->colonne, genuino.colonne);
+    EXPECT_EQ(indice->unico, genuino.unico) << genuino.nome.toStdString();
   }
 }
 
 TEST(Schema, HaTuttoQuelloDiUnArchivioGenuino) {
   const std::vector<std::pair<QString, const std::vector<Tabella>&>> casi = {
-      {"master.schema.json", SchemaArchivio()},
-      {"catalogo norme.schema.json", SchemaCatalogo()},
+      {"master.mdb", SchemaArchivio()},
+      {"catalogo norme.mdb", SchemaCatalogo()},
   };
   for (const auto& [file, schema] : casi) {
     if (FileGenuino(file).isEmpty()) GTEST_SKIP() << "../shared/jet is not at hand";
-    const QJsonObject genuino = SchemaGenuino(file);
-    EXPECT_EQ(static_cast<qsizetype>(schema.size()), genuino.size());
-    for (auto voce = genuino.begin(); voce != genuino.end(); ++voce) {
-      SCOPED_TRACE(voce.key().toStdString());
-      const Tabella* tabella = Trova(schema, voce.key());
-      ASSERT_NE(tabella, nullptr);
-      ConfrontaColonne(*tabella, voce.value().toObject()["columns"].toArray());
-      ConfrontaIndici(*tabella, voce.value().toObject()["indexes"].toArray());
+    const LettoreJet genuino(FileGenuino(file));
+    EXPECT_EQ(schema.size(), genuino.Tabelle().size());
+    for (const Tabella& genuina : genuino.Tabelle()) {
+      SCOPED_TRACE(genuina.nome.toStdString());
+      const Tabella* nostra = Trova(schema, genuina.nome);
+      ASSERT_NE(nostra, nullptr);
+      ConfrontaColonne(*nostra, genuina);
+      ConfrontaIndici(*nostra, genuina);
     }
   }
 }

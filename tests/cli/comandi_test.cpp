@@ -61,17 +61,6 @@ TEST_F(Comandi, NuovoNeedsAMaster) {
   EXPECT_FALSE(QFile::exists(Archivio()));
 }
 
-TEST_F(Comandi, EsportaWritesTheThreeFlavoursAndMarksTheDelivery) {
-  PreparaEsempio();
-  for (const char* formato : {"isis", "cassazione", "storico"}) {
-    Riesce({"esporta", formato, Archivio()}, kFine);
-    const QByteArray file = Uscita(("lexxdump " + std::string(formato) + ".A01").c_str());
-    EXPECT_EQ(file.count(" 2AP=2001 NP=A"), 40) << formato;
-    EXPECT_EQ(file.contains("\n22^t"), std::string(formato) == "isis") << formato;
-  }
-  EXPECT_EQ(Informazioni(Archivio()), "A01|12|A|2001|1|-|-|-|-|-|-|-|-");
-}
-
 TEST_F(Comandi, OptionsAnswerTheQuestionsOfTheExport) {
   PreparaEsempio();
   const QStringList esporta{"esporta", "isis", Archivio()};
@@ -291,32 +280,6 @@ TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
   static_cast<void>(Esegui({"errori", "fonti", Archivio()}));
   EXPECT_EQ(Byte(Archivio() + ".jet"), originale);
   EXPECT_TRUE(Byte(Archivio()).startsWith("SQLite format 3"));
-}
-
-// As it came it cites a reference, a source text and numbers that are not there; mended, it goes
-// through.
-TEST_F(Genuini, AJetDeliveryIsExportedInThreeFlavours) {
-  const QStringList isis{"esporta", "isis", Archivio()};
-  const EsitoProgramma guasto = Esegui(isis);
-  EXPECT_EQ(guasto.codice, 1);
-  EXPECT_TRUE(guasto.errori.contains("\nErrore di run-time '3021': "))
-      << guasto.errori.toStdString();
-  EXPECT_EQ(Uscita("lexxdump isis.A01").count(" 2AP=2001 NP=A"), 6);
-  {
-    const Database archivio = OpenDatabase(Archivio());
-    archivio.Execute("delete * from TabDocumento where IDDocumento = 8 or IDDocumento = 11");
-    archivio.Execute("update TabFonte set numero = \"\" where numero is null");
-  }
-  for (const char* formato : {"isis", "cassazione", "storico"}) {
-    Riesce({"esporta", formato, Archivio()}, kFine);
-    const QByteArray file = Uscita(("lexxdump " + std::string(formato) + ".A01").c_str());
-    EXPECT_EQ(file.count(" 2AP=2001 NP=A"), 21) << formato;
-  }
-  EXPECT_EQ(Esegui({"errori", "fonti", Archivio()}).uscita,
-            "Errori nelle fonti\r\n\r\n"
-            "Fonte TAR senza regione: Tribunale amministrativo regionale 2000 (2001A0013)\r\n"
-            "Fonte GICO con numero > 1000: C. Cost. 12 marzo 2001, n. 1005 (2001A0014)\r\n"
-            "Fonte GICO/GICA senza numero: ord. C. Cost. 2000 (2001A0014)\r\n\r\n");
 }
 
 TEST_F(Genuini, AJetMasterMakesDeliveries) {

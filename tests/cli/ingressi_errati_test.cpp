@@ -24,14 +24,17 @@ class IngressiErrati : public testing::Test {
   [[nodiscard]] EsitoProgramma Esporta(const QStringList& davanti = {}) const {
     return Torvi({"--cartella", cartella_.Percorso(), "esporta", "isis", archivio_}, davanti);
   }
-  // Exit 1 and one line with the number and the name; nothing in mdb/ changes.
-  void FallisceCon(int numero, const QString& nome, const QStringList& davanti = {}) const {
-    const auto prima = Cartella();
-    const EsitoProgramma esito = Esporta(davanti);
+  static void Fallito(const EsitoProgramma& esito, int numero, const QString& nome) {
     EXPECT_EQ(esito.codice, 1) << esito.errori.toStdString();
     EXPECT_TRUE(esito.errori.startsWith(QStringLiteral("Errore di run-time '%1': ").arg(numero)))
         << esito.errori.toStdString();
     EXPECT_TRUE(esito.errori.contains(nome)) << esito.errori.toStdString();
+  }
+  // Exit 1 and one line with the number and the name; nothing in mdb/ changes.
+  void FallisceCon(int numero, const QString& nome, const QStringList& davanti = {}) const {
+    const auto prima = Cartella();
+    const EsitoProgramma esito = Esporta(davanti);
+    Fallito(esito, numero, nome);
     EXPECT_EQ(esito.errori.count(u'\n'), 1) << esito.errori.toStdString();
     EXPECT_EQ(Cartella(), prima);
   }
@@ -51,21 +54,13 @@ class IngressiErrati : public testing::Test {
 TEST_F(IngressiErrati, AFileThatIsNoArchive) {
   QByteArray jet("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24);
   jet.append(QByteArray(6000, '\0'));
-  struct Caso {
-    const char* cosa;
-    QByteArray byte;
-    int numero;
-  };
-  const Caso kCasi[] = {
-      {"empty", {}, 3343},
-      {"text", "Non sono un archivio.\n", 3343},
-      {"a header and nothing behind it", QByteArray("SQLite format 3\0", 16), 3343},
-      {"a Jet file of which little is left", jet, 3343},
-  };
-  for (const Caso& caso : kCasi) {
-    SCOPED_TRACE(caso.cosa);
-    ScriviByte(archivio_, caso.byte);
-    FallisceCon(caso.numero, archivio_);
+  for (const auto& [cosa, byte] : {std::pair{"empty", QByteArray()},
+                                   {"text", "Non sono un archivio.\n"},
+                                   {"only a header", QByteArray("SQLite format 3\0", 16)},
+                                   {"a Jet file of which little is left", jet}}) {
+    SCOPED_TRACE(cosa);
+    ScriviByte(archivio_, byte);
+    FallisceCon(3343, archivio_);
   }
 }
 
@@ -110,43 +105,27 @@ TEST_F(IngressiErrati, TabInfoWithoutARowOrWithTwo) {
   FallisceCon(3011, archivio_);
   OpenDatabase(archivio_).Execute("delete * from TabInfo");
   FallisceCon(3021, archivio_);
-  const EsitoProgramma esito =
-      Torvi({"--cartella", cartella_.Percorso(), "errori", "fonti", archivio_});
-  EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '3021': "));
+  Fallito(Torvi({"--cartella", cartella_.Percorso(), "errori", "fonti", archivio_}), 3021, {});
 }
 
-TEST_F(IngressiErrati, AnArchiveWithoutDocuments) {
-  const EsitoProgramma esito = Esporta();
-  EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '3021': "));
-}
+TEST_F(IngressiErrati, AnArchiveWithoutDocuments) { Fallito(Esporta(), 3021, {}); }
 
 TEST_F(IngressiErrati, AnAbsentNormCatalogueEndsTheRunAtTheFirstAct) {
   QFile::remove(archivio_);
   ASSERT_EQ(Torvi({"esempio", archivio_}).codice, 0);
-  const EsitoProgramma esito = Esporta();
-  EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '3024': "));
-  EXPECT_TRUE(esito.errori.contains("/mdb/catalogo norme.mdb"));
+  Fallito(Esporta(), 3024, "/mdb/catalogo norme.mdb");
   EXPECT_TRUE(Byte(cartella_.Dump("lexxdump isis.A01")).isEmpty());
 }
 
 TEST_F(IngressiErrati, AnAbsentDumpFolder) {
   ASSERT_TRUE(QDir(cartella_.Percorso()).rmdir("dump"));
-  const EsitoProgramma esito = Esporta();
-  EXPECT_EQ(esito.codice, 1);
-  EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '76': ")) << esito.errori.toStdString();
-  EXPECT_TRUE(esito.errori.contains(cartella_.Percorso() + "/dump"));
+  Fallito(Esporta(), 76, cartella_.Percorso() + "/dump");
 }
 
 TEST_F(IngressiErrati, AFileThatExistsIsNotWrittenOver) {
   for (const char* comando : {"master", "catalogo", "esempio"}) {
     const QByteArray prima = Byte(archivio_);
-    const EsitoProgramma esito = Torvi({comando, archivio_});
-    EXPECT_EQ(esito.codice, 1) << comando;
-    EXPECT_TRUE(esito.errori.startsWith("Errore di run-time '75': ")) << comando;
-    EXPECT_TRUE(esito.errori.contains(archivio_)) << comando;
+    Fallito(Torvi({comando, archivio_}), 75, archivio_);
     EXPECT_EQ(Byte(archivio_), prima) << comando;
   }
 }
@@ -172,7 +151,7 @@ TEST_F(IngressiErrati, AFileThatCannotBeWritten) {
   if (Torvi({"--aiuto"}, senzaDiritti).codice != 0) {
     GTEST_SKIP() << "the program is out of reach for a user without rights";
   }
-  for (const QString& cartella : {QString(), "/mdb", "/dump"}) {
+  for (const char* cartella : {"", "/mdb", "/dump"}) {
     QFile::setPermissions(cartella_.Percorso() + cartella,
                           QFile::Permissions(0x5755));  // rwxr-xr-x
   }

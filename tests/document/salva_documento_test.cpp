@@ -96,12 +96,6 @@ TEST_F(Salvataggio, TwiceInTheNewStateGivesTwoRowsAndTwiceTheLinks) {
             "12-34");
 }
 
-TEST_F(Salvataggio, AnUnknownJournalLeavesTheDocumentWithoutReference) {
-  documento.campi.txtCPer = "ZZZZ";
-  EXPECT_TRUE(SalvaDocumento(documento));
-  EXPECT_EQ(Valore(archivio, "select * from TabDocumento where IDDocumento = 1", "IDRifBibl"), "0");
-}
-
 struct Guasto {
   const char* passo;
   int errore;

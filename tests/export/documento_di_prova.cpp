@@ -3,7 +3,6 @@
 #include <QFile>
 #include <map>
 
-#include "archive/schema.h"
 #include "shell/consegna.h"
 
 namespace torvi {
@@ -19,16 +18,6 @@ qint64 AggiungiCon(const Database& archivio, const QString& tabella, Predefiniti
   for (const auto& [nome, valore] : righe) tab.Assegna(nome, valore);
   tab.Update();
   return tab.LastModified();
-}
-
-void CatalogoConUnaLegge(const CartellaDiProva& cartella) {
-  const QString percorso = cartella.Mdb("catalogo norme.mdb");
-  CreaDatabase(percorso, SchemaCatalogo());
-  Aggiungi(OpenDatabase(percorso), "tabCatalogo",
-           {{"anno", 1990},
-            {"numero", "241"},
-            {"abbreviazione", "l."},
-            {"promulgazione", "07/08/1990"}});
 }
 
 }  // namespace
@@ -95,7 +84,7 @@ void DocumentiDiProva::Codice1999(qint64 idDoc, qint64 idClasse) const {
 }
 
 qint64 DocumentiDiProva::Esempio() const {
-  CatalogoConUnaLegge(cartella);
+  CatalogoConUnAtto(cartella, "l.");
   const qint64 riferimento = Riferimento({{"Annata", "47"}, {"Parte", "I"}});
   const qint64 idDoc = Documento({{"IDRifBibl", riferimento}, {"td", "02"}, {"TAbs", "600"}});
   Responsabile(idDoc, "Rossi", "Mario");

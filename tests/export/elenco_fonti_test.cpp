@@ -8,41 +8,22 @@ namespace torvi {
 namespace {
 
 TEST(ElencoFonti, TheMarkedKindsBearTheirCode) {
-  struct Caso {
-    const char* tp;
-    const char* testo;
-    const char* elemento;
-  };
-  constexpr Caso kCasi[] = {
-      {"NIC", "Dir. 90/314", "Dir. 90/314*NIC*"},
-      {"NIT", "T", "T*NIT*"},
-      {"NIA", "T", "T*NIA*"},
-      {"GEC", "T", "T*GEC*"},
-      {"GEI", "T", "T*GEI*"},
-      {"NS", "T", "T*NS*"},
-      {"GS", "T", "T*GS*"},
-      {"FCA", "T", "T*FCA*"},
-      {"FSRG", "T", "T*FSRG*"},
-      {"FSA", "T", "T*FSA*"},
-      {"NSX", "T", "T"},
-      {"GSX", "T", "T"},
-      {"GIA", "T", "T"},
-      {"GICO", "T", "T"},
-      {"LIC", "T", "T"},
-      {"AC", "T", "T"},
-      {"LIF", "T", "T"},
-      {"nic", "T", "T"},
-      {"", "T", "T"},
-      {"NIC", "T*NIC*", "T*NIC*"},
-      {"FCA", "a*b", "a*b"},
-      {"NS", "", "*NS*"},
-  };
   FontiDiProva prova;
   std::string atteso = "10";
-  for (const Caso& caso : kCasi) {
-    prova.Fonte({{"TP", caso.tp}, {"testo", caso.testo}, {"numero", "1"}});
-    atteso += (atteso == "10" ? "" : "\\") + std::string(caso.elemento);
+  const auto cita = [&](const char* tp, const char* testo, const std::string& elemento) {
+    prova.Fonte({{"TP", tp}, {"testo", testo}, {"numero", "1"}});
+    atteso += (atteso == "10" ? "" : "\\") + elemento;
+  };
+  for (const std::string tp :
+       {"NIC", "NIT", "NIA", "GEC", "GEI", "NS", "GS", "FCA", "FSRG", "FSA"}) {
+    cita(tp.c_str(), "T", "T*" + tp + "*");
   }
+  for (const char* tp : {"NSX", "GSX", "GIA", "GICO", "LIC", "AC", "LIF", "nic", ""}) {
+    cita(tp, "T", "T");
+  }
+  cita("NIC", "T*NIC*", "T*NIC*");
+  cita("FCA", "a*b", "a*b");
+  cita("NS", "", "*NS*");
   const Scritto esito = prova.Elenco();
   EXPECT_EQ(esito.campi, atteso + "\n");
   EXPECT_EQ(esito.errori, "");

@@ -1,8 +1,5 @@
 #include "export/fonti_di_prova.h"
 
-#include <QFile>
-
-#include "archive/schema.h"
 #include "export/elenco_fonti.h"
 #include "export/fonti_documento.h"
 #include "export/fonti_etichettate.h"
@@ -32,14 +29,7 @@ qint64 FontiDiProva::Fonte(Valori valori) const {
 void FontiDiProva::TogliFonti() const { stato.DbArchivio.Execute("delete * from LegameDocFonte"); }
 
 void FontiDiProva::NuovoCatalogo(const char* abbreviazione) const {
-  const QString percorso = cartella.Mdb("Catalogo Norme.MDB");
-  QFile::remove(percorso);
-  CreaDatabase(percorso, SchemaCatalogo());
-  Aggiungi(OpenDatabase(percorso), "tabCatalogo",
-           {{"anno", 1990},
-            {"numero", "241"},
-            {"abbreviazione", abbreviazione},
-            {"promulgazione", "07/08/1990"}});
+  CatalogoConUnAtto(cartella, abbreviazione);
 }
 
 std::vector<FonteLetta> FontiDiProva::Fonti(ContestoEsportazione& contesto) {

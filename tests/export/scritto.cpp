@@ -1,5 +1,8 @@
 #include "export/scritto.h"
 
+#include <QFile>
+
+#include "archive/schema.h"
 #include "export/catalogo_norme.h"
 
 namespace torvi {
@@ -28,6 +31,17 @@ Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
   scritto.errClasse = Byte(errClasse).toStdString();
   scritto.errFonte = Byte(errFonte).toStdString();
   return scritto;
+}
+
+void CatalogoConUnAtto(const CartellaDiProva& cartella, const char* abbreviazione) {
+  const QString percorso = cartella.Mdb("Catalogo Norme.MDB");
+  QFile::remove(percorso);
+  CreaDatabase(percorso, SchemaCatalogo());
+  const Valori valori = {{"anno", 1990},
+                         {"numero", "241"},
+                         {"abbreviazione", abbreviazione},
+                         {"promulgazione", "07/08/1990"}};
+  Aggiungi(OpenDatabase(percorso), "tabCatalogo", valori);
 }
 
 }  // namespace torvi

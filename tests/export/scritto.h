@@ -20,4 +20,7 @@ struct Scritto {
 [[nodiscard]] Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
                              const std::function<void(ContestoEsportazione&)>& scrittore);
 
+// mdb/"catalogo norme.mdb" with one act: 7 August 1990, number 241.
+void CatalogoConUnAtto(const CartellaDiProva& cartella, const char* abbreviazione);
+
 }  // namespace torvi

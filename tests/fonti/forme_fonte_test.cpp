@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 
+#include "archive/errore.h"
 #include "cli/json_fonte.h"
 #include "comune/citazioni.h"
 #include "comune/dialoghi_scritti.h"

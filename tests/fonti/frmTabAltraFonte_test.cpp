@@ -175,39 +175,6 @@ TEST_F(FormaAltraFonte, ShowsWhatEachKindNeeds) {
   EXPECT_TRUE(dialoghi.Parole().isEmpty());
 }
 
-// By keys alone: kind, act, fields in the order of the form, and out.
-TEST_F(FormaAltraFonte, ComposesOnEveryTab) {
-  struct Caso {
-    int scheda;
-    const char* tasti;  // from the kind of act on
-    const char* riga;
-  };
-  for (const auto& [scheda, tasti, riga] :
-       {Caso{0, "NIA{Tab}{Down}{Tab}2{Tab}maggio{Tab}1990{Tab}7{Tab}Beta",
-             "Ris. ONU 2 maggio 1990, n. 7 (Beta)*NIA*"},
-        Caso{0,
-             "GEI{Tab}{Down}{Tab}3{Tab}mar{Tab}1995{Tab}{Tab}{Space}{Tab}{Tab}II{Tab}{Tab}A c. B",
-             "ord. C. int. giust. II 3 marzo 1995 (A c. B)*GEI*"},
-        Caso{1, "derivato{Tab}{Down}{Return}{Tab}{Tab}2016{Return}679", "Reg. UE 2016/679*NIC*"},
-        Caso{
-            2,
-            "NS{Tab}{Tab}{Tab}{Tab}{Tab}1382{Tab}bis{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}Code{Tab}Francia",
-            "art. 1382 bis Code (Francia)*NS*"},
-        Caso{3, "FCC{Tab}{Down}{Tab}{Tab}{Tab}{Tab}{Tab}1055", "can. 1055 C. Iur. Can. 1983*FCC*"},
-        Caso{4, "FSR{Tab}{Down}{Down}{Tab}D. 1.1.1", "D. 1.1.1*FSRP*"},
-        Caso{4, "FSA{Tab}{Tab}Alfa", "Alfa*FSA*"}}) {
-    SCOPED_TRACE(tasti);
-    stato.RigheFonte.clear();
-    Apri(scheda);
-    Batti(tasti);
-    Clic(Pagina(), "cmdEsciSalva");
-    EXPECT_EQ(forma->result(), QDialog::Accepted);
-    EXPECT_FALSE(forma->isVisible());
-    EXPECT_EQ(Righe(), riga);
-  }
-  EXPECT_EQ(dialoghi.Messaggi(), QStringList());
-}
-
 TEST_F(FormaAltraFonte, StaysOpenUntilASourceIsComposed) {
   Apri();
   const auto esce = [this](const char* messaggio, std::size_t righe) {
@@ -380,6 +347,11 @@ TEST_F(FormaAltraFonte, OffersTheStates) {
   }
   Clic(Pagina(), "cmdClear");
   EXPECT_EQ(Testo("txtStato"), "Francia");
+  Scegli("NS");
+  Scrivi({{"txtLibero", "Code"}, {"txtArt", "1382"}});
+  Controllo<QComboBox>("ComboRipA").setFocus();
+  Batti("bis{Tab}");
+  EXPECT_EQ(Anteprima(), "art. 1382 bis Code (Francia)");
 }
 
 TEST_F(FormaAltraFonte, FillsItselfFromAConventionThatWasCited) {
@@ -435,6 +407,9 @@ TEST_F(FormaAltraFonte, TellsHowToWriteAndWhatIsMissing) {
   Controllo<QComboBox>("ComboMese").setCurrentText("marzo");
   Controllo<QCheckBox>("chkDecr").click();
   EXPECT_EQ(Anteprima(), "decr. C. Giust. II 9 marzo 1978");
+  Controllo<QCheckBox>("chkDecr").click();
+  Controllo<QCheckBox>("chkOrd").click();
+  EXPECT_EQ(Anteprima(), "ord. C. Giust. II 9 marzo 1978");
   Batti("{Ctrl+Tab}");
   EXPECT_TRUE(Anteprima().contains("Nessuna fonte immessa!"));
   EXPECT_TRUE(stato.RigheFonte.empty());
