@@ -27,12 +27,6 @@ QList<Riga> Righe(const Database& database, const QString& tabella) {
   return righe;
 }
 
-QStringList Valori(const Database& database, const QString& tabella, const QString& colonna) {
-  QStringList valori;
-  for (const Riga& riga : Righe(database, tabella)) valori += riga[colonna].TestoOVuoto();
-  return valori;
-}
-
 bool SenzaRipetizioni(const QStringList& valori) {
   QSet<QString> visti;
   for (const QString& valore : valori) visti += valore.toLower();
@@ -78,42 +72,31 @@ TEST_F(Master, LeTabelleDeiDocumentiSonoVuoteELeAltrePiene) {
 
 TEST_F(Master, LeChiaviFisseSonoAlLoroPosto) {
   struct Caso {
-    const char* tabella;
-    int chiave;
-    const char* colonna;
-    const char* valore;
+    const char* riga;
+    const char* colonne;
+    const char* valori;
   };
-  for (const Caso& caso : {
-           Caso{"TabFonteInterna", 117, "FonteNorm", "Tribunale amministrativo regionale"},
-           Caso{"TabFonteInterna", 117, "liv1", "3"},
-           Caso{"TabFonteInterna", 117, "liv2", "6"},
-           Caso{"TabFonteCom", 5, "FonteCom", "Tratt. CE"},
-           Caso{"TabFonteCom", 5, "Settore", "1"},
-           Caso{"TabFonteCom", 5, "Codice", "E"},
-           Caso{"TabFonteCom", 5, "AnnoF", "1997"},
-           Caso{"TabFonteCom", 30, "FonteCom", "Conv. UE"},
-           Caso{"TabFonteCom", 30, "Tipo", "4"},
-           Caso{"TabFonteInt", 2, "FonteInt", "C. eur. dir. uomo"},
-           Caso{"TabFonteInt", 2, "Tipo", "3"},
-       }) {
-    Recordset righe = master.OpenRecordset(caso.tabella);
-    righe.Index("PrimaryKey");
-    righe.Seek(caso.chiave);
-    ASSERT_FALSE(righe.NoMatch()) << caso.tabella << ' ' << caso.chiave;
-    EXPECT_EQ(righe.Fields(caso.colonna).Testo(), caso.valore) << caso.tabella << caso.chiave;
+  for (const auto& [riga, colonne, valori] :
+       {Caso{"TabFonteInterna where IDFonteInterna = 117", "FonteNorm liv1 liv2",
+             "Tribunale amministrativo regionale|3|6"},
+        Caso{"TabFonteCom where IDFonteCom = 5", "FonteCom Settore Codice AnnoF",
+             "Tratt. CE|1|E|1997"},
+        Caso{"TabFonteCom where IDFonteCom = 30", "FonteCom Tipo", "Conv. UE|4"},
+        Caso{"TabFonteInt where IDFonteInt = 2", "FonteInt Tipo", "C. eur. dir. uomo|3"}}) {
+    EXPECT_EQ(RigheTesto(master, QString("select * from ") + riga, QString(colonne).split(' ')),
+              QStringList(valori));
   }
 }
 
 // The combos of the document form take the place of a code for its value.
 TEST_F(Master, ICodiciDelDocumentoSonoInOrdine) {
   const auto codici = [&](const char* tabella, const char* colonna) {
-    return Valori(master, tabella, colonna).join(' ');
+    return RigheTesto(master, tabella, {colonna}).join(' ');
   };
   EXPECT_EQ(codici("TabBib", "IDBib"), "0 1 2 3 4");
   EXPECT_EQ(codici("TabTipoDoc", "IDTD"), "01 02 03 04 05 06 07 08 09");
   EXPECT_EQ(codici("TabTAbs", "IDTAbs"), "400 500 600 700 800 900");
-  EXPECT_EQ(Righe(master, "TabLingua").front()["idLingua"], Campo("00"));
-  EXPECT_EQ(Righe(master, "TabLingua").front()["Lingua"], Campo("italiano"));
+  EXPECT_EQ(RigheTesto(master, "TabLingua", {"idLingua", "Lingua"}).front(), "00|italiano");
 }
 
 // Names that the entry of sources compares to the character.
@@ -160,12 +143,9 @@ TEST_F(Master, INomiCheLImmissioneConosceCiSono) {
   for (const Caso& caso : casi) {
     const QString tabella = caso.tabella;
     const QString colonna = tabella == "TabFonteInterna" ? "FonteNorm" : tabella.mid(3);
-    QStringList offerti;
-    Recordset righe = master.OpenRecordset(
-        QStringLiteral("select * from %1 where %2").arg(tabella, caso.condizione));
-    for (; !righe.Eof(); righe.MoveNext()) {
-      offerti += righe.Fields(colonna.toStdString()).Testo();
-    }
+    const QStringList offerti = RigheTesto(
+        master, QStringLiteral("select * from %1 where %2").arg(tabella, caso.condizione),
+        {colonna});
     for (const QString& nome : caso.nomi) {
       EXPECT_TRUE(offerti.contains(nome)) << caso.condizione << ": " << nome.toStdString();
     }
@@ -191,7 +171,7 @@ TEST_F(Master, INomiNonSiRipetono) {
       {"TabNIT", "fonte"},
   };
   for (const auto& [tabella, colonna] : casi) {
-    EXPECT_TRUE(SenzaRipetizioni(Valori(master, tabella, colonna))) << tabella.toStdString();
+    EXPECT_TRUE(SenzaRipetizioni(RigheTesto(master, tabella, {colonna}))) << tabella.toStdString();
   }
 }
 
@@ -205,7 +185,7 @@ TEST_F(Master, LeRegioniSonoQuelleDellElencoDiScelta) {
             "FV - Friuli Venezia Giulia, LA - Lazio, LI - Liguria, LO - Lombardia, MA - Marche, "
             "MO - Molise, PI - Piemonte, PU - Puglia, SA - Sardegna, SI - Sicilia, TO - Toscana, "
             "TA - Trentino Alto Adige, UM - Umbria, VA - Valle d'Aosta, VE - Veneto");
-  const QStringList province = Valori(master, "TabProvincia", "CodProvincia");
+  const QStringList province = RigheTesto(master, "TabProvincia", {"CodProvincia"});
   EXPECT_TRUE(province.contains("BZ") && province.contains("TN"));
   for (const QString& codice : province) EXPECT_EQ(codice.size(), 2) << codice.toStdString();
 }
@@ -264,8 +244,8 @@ TEST_F(Master, LeFontiEuropeeHannoQuelloCheServeAlLoroNumero) {
 }
 
 TEST_F(Master, LeCoppieDellaClassificazioneNominanoCodiciEsistenti) {
-  const QStringList sistematici = Valori(master, "TabClasse2000-S", "CodiceS");
-  const QStringList descrittori = Valori(master, "TabClasse2000-D", "CodiceD");
+  const QStringList sistematici = RigheTesto(master, "TabClasse2000-S", {"CodiceS"});
+  const QStringList descrittori = RigheTesto(master, "TabClasse2000-D", {"CodiceD"});
   EXPECT_GE(sistematici.size(), 100);
   EXPECT_GE(descrittori.size(), 300);
   for (const QString& codice : sistematici + descrittori) EXPECT_EQ(codice.size(), 5);
@@ -302,7 +282,7 @@ TEST_F(Master, LAlberoDellaClassificazioneAnterioreHaSoloRamiVivi) {
 
 TEST_F(Master, LeRivisteHannoSigleDiDueAQuattroLettereEUnaPeriodicita) {
   static const QRegularExpression sigla("^[A-Z]{2,4}$");
-  const QStringList periodicita = Valori(master, "TabPeriodicita", "IDPeriodicita");
+  const QStringList periodicita = RigheTesto(master, "TabPeriodicita", {"IDPeriodicita"});
   EXPECT_TRUE(periodicita.contains("9"));
   for (const Riga& riga : Righe(master, "TabRivista")) {
     EXPECT_TRUE(sigla.match(riga["CPER"].Testo()).hasMatch()) << riga["CPER"].Testo().toStdString();
@@ -345,8 +325,8 @@ TEST_F(Master, IlCatalogoDelleNormeECoerente) {
     if (!riga["numero"].Nullo()) attesi += QLatin1String(", n. ") + riga["numero"].Testo();
     EXPECT_EQ(estremi, attesi);
   }
-  const QStringList chiavi = Valori(catalogo, "tabCatalogo", "pd");
-  for (const QString& pd : Valori(catalogo, "PD", "pd")) {
+  const QStringList chiavi = RigheTesto(catalogo, "tabCatalogo", {"pd"});
+  for (const QString& pd : RigheTesto(catalogo, "PD", {"pd"})) {
     EXPECT_TRUE(chiavi.contains(pd)) << pd.toStdString();
   }
   EXPECT_TRUE(catalogo.OpenRecordset("tabCatalogoRidotta").Eof());

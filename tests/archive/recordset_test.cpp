@@ -135,13 +135,6 @@ TEST_F(RecordsetTest, DeleteToglieLaRigaEIlPassoSeguenteVaAllaSuccessiva) {
   EXPECT_EQ("C", Codici(restano));
 }
 
-TEST_F(RecordsetTest, UnNumeroCancellatoNonTornaPiu) {
-  Sezione("A", "t");
-  const qint64 ultimo = Sezione("B", "t");
-  db_.Execute("delete * from TabSezione where sigla = 'B'");
-  EXPECT_EQ(ultimo + 1, Sezione("C", "t"));
-}
-
 TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
   Sezione("A", "t");
   Recordset unione = db_.OpenRecordset("select * from TabSezione, TabPeriodicita");

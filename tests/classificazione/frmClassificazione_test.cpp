@@ -21,19 +21,15 @@ class FormaClassificazione : public testing::Test {
  protected:
   FormaClassificazione() {
     const UnitaDiScrittura unita(stato.DbArchivio);
-    const auto riga = [this](const char* tabella, auto... valori) {
-      Aggiungi(stato.DbArchivio, tabella, {valori...});
-    };
-    using Valore = std::pair<const char*, Campo>;
-    riga("TabClasse2000-S", Valore("CodiceS", "S0001"), Valore("sigla", "DC"),
-         Valore("descrizione", "diritto civile"));
+    const Database& archivio = stato.DbArchivio;
+    Aggiungi(archivio, "TabClasse2000-S",
+             {{"CodiceS", "S0001"}, {"sigla", "DC"}, {"descrizione", "diritto civile"}});
     for (const char* codice : {"D0001", "D0002"}) {
-      riga("TabClasse2000-D", Valore("CodiceD", codice), Valore("descrizione", "voce"));
+      Aggiungi(archivio, "TabClasse2000-D", {{"CodiceD", codice}, {"descrizione", "voce"}});
     }
-    riga("TabLegameDS", Valore("NS", "S0001"), Valore("ND", "D0001"));
-    for (const auto& [ns, nd] :
-         {std::pair{"S0001", "*b"}, std::pair{"S0002", "*a"}, std::pair{"S0002", "*b"}}) {
-      riga("TabLegameDSA", Valore("NS", ns), Valore("ND", nd));
+    Aggiungi(archivio, "TabLegameDS", {{"NS", "S0001"}, {"ND", "D0001"}});
+    for (const auto& [ns, nd] : {std::pair{"S0001", "*b"}, {"S0002", "*a"}, {"S0002", "*b"}}) {
+      Aggiungi(archivio, "TabLegameDSA", {{"NS", ns}, {"ND", nd}});
     }
     stato.NuovaClasse = true;
   }

@@ -30,50 +30,6 @@ DialoghiScritti::~DialoghiScritti() {
   EXPECT_EQ(attese_, 0) << "the hourglass was left on";
 }
 
-void DialoghiScritti::AttendeDomanda(const QString& testo, const QString& titolo, Pulsanti pulsanti,
-                                     Risposta risposta) {
-  copione_.push_back({{Genere::Domanda, testo, titolo, pulsanti, {}}, risposta, {}, false, {}, {}});
-}
-
-void DialoghiScritti::AttendeImmissione(const QString& testo, const QString& titolo,
-                                        const QString& risposta) {
-  copione_.push_back({{Genere::Immissione, testo, titolo, {}, {}}, {}, risposta, false, {}, {}});
-}
-
-void DialoghiScritti::AttendeFile(const QString& titolo, const QString& percorso) {
-  copione_.push_back({{Genere::File, {}, titolo, {}, {}}, {}, percorso, false, {}, {}});
-}
-
-void DialoghiScritti::AttendeFileAnnullato(const QString& titolo) {
-  copione_.push_back({{Genere::File, {}, titolo, {}, {}}, {}, {}, true, {}, {}});
-}
-
-void DialoghiScritti::AttendeInformazione(const QString& risposta) {
-  copione_.push_back({{Genere::Informazione, {}, {}, {}, {}}, {}, risposta, false, {}, {}});
-}
-
-void DialoghiScritti::AttendeFileUscita(const QString& risposta, std::function<void()> prima) {
-  copione_.push_back(
-      {{Genere::FileUscita, {}, {}, {}, {}}, {}, risposta, false, std::move(prima), {}});
-}
-
-void DialoghiScritti::AttendeTestoEsteso(const QString& etichetta, const QString& risposta) {
-  copione_.push_back({{Genere::TestoEsteso, etichetta, {}, {}, {}}, {}, risposta, false, {}, {}});
-}
-
-void DialoghiScritti::AttendeLista(const QStringList& voci, const QString& risposta) {
-  copione_.push_back({{Genere::Lista, {}, {}, {}, {}}, {}, risposta, false, {}, voci});
-}
-
-void DialoghiScritti::AttendeLista(const QString& risposta) {
-  copione_.push_back({{Genere::Lista, {}, {}, {}, {}}, {}, risposta, false, {}, {}});
-}
-
-void DialoghiScritti::AttendeLogin(bool riuscito) {
-  const Risposta risposta = riuscito ? Risposta::Ok : Risposta::Annulla;
-  copione_.push_back({{Genere::Login, {}, {}, {}, {}}, risposta, {}, false, {}, {}});
-}
-
 QStringList DialoghiScritti::Messaggi() const {
   QStringList testi;
   for (const Parola& parola : parole_) {
@@ -92,9 +48,7 @@ DialoghiScritti::Battuta DialoghiScritti::Prossima(const Parola& parola) {
   if (copione_.empty() || !StesseParole(copione_.front().parola, parola)) {
     ADD_FAILURE() << "asked: " << Mostra(parola) << "\nexpected: "
                   << (copione_.empty() ? "nothing" : Mostra(copione_.front().parola));
-    return {parola, parola.pulsanti == Pulsanti::SiNo ? Risposta::No : Risposta::Annulla,
-            {},     true,
-            {},     {}};
+    return {parola, parola.pulsanti == Pulsanti::SiNo ? Risposta::No : Risposta::Annulla};
   }
   Battuta battuta = std::move(copione_.front());
   copione_.pop_front();
@@ -107,48 +61,46 @@ void DialoghiScritti::Messaggio(const QString& testo, const QString& titolo, Ico
 }
 
 Risposta DialoghiScritti::Domanda(const QString& testo, const QString& titolo, Pulsanti pulsanti) {
-  return Prossima({Genere::Domanda, testo, titolo, pulsanti, {}}).risposta;
+  return Prossima({Genere::Domanda, testo, titolo, pulsanti}).risposta;
 }
 
 QString DialoghiScritti::Immissione(const QString& testo, const QString& titolo) {
-  return Prossima({Genere::Immissione, testo, titolo, {}, {}}).testo;
+  return Prossima({Genere::Immissione, testo, titolo}).testo;
 }
 
 QString DialoghiScritti::ScegliFile(const RichiestaFile& richiesta) {
   richiesta_ = richiesta;
-  const Battuta battuta = Prossima({Genere::File, {}, richiesta.titolo, {}, {}});
-  if (battuta.annullata) throw ErroreEsecuzione(Errore::OperazioneAnnullata);
+  const Battuta battuta = Prossima({Genere::File, {}, richiesta.titolo});
+  if (battuta.risposta == Risposta::Annulla) throw ErroreEsecuzione(Errore::OperazioneAnnullata);
   return battuta.testo;
 }
 
-QString DialoghiScritti::ChiediInformazione() {
-  return Prossima({Genere::Informazione, {}, {}, {}, {}}).testo;
-}
+QString DialoghiScritti::ChiediInformazione() { return Prossima({Genere::Informazione}).testo; }
 
 QString DialoghiScritti::ScegliFileUscita(const QString& cartella, const QString& modello,
                                           bool conNuovo) {
   uscita_ = {cartella, modello, conNuovo ? "nuovo" : QString()};
-  return Prossima({Genere::FileUscita, {}, {}, {}, {}}).testo;
+  return Prossima({Genere::FileUscita}).testo;
 }
 
 void DialoghiScritti::MostraErrori(const QString& testo) {
-  parole_ += {Genere::Errori, testo, {}, {}, {}};
+  parole_ += {Genere::Errori, testo};
   errori_ = testo;
 }
 
 QString DialoghiScritti::ChiediTestoEsteso(const QString& etichetta) {
-  return Prossima({Genere::TestoEsteso, etichetta, {}, {}, {}}).testo;
+  return Prossima({Genere::TestoEsteso, etichetta}).testo;
 }
 
 QString DialoghiScritti::ScegliDaLista(const QStringList& voci) {
   lista_ = voci;
-  const Battuta battuta = Prossima({Genere::Lista, {}, {}, {}, {}});
+  const Battuta battuta = Prossima({Genere::Lista});
   EXPECT_EQ(voci, battuta.voci.value_or(voci));
   return battuta.testo;
 }
 
 bool DialoghiScritti::ChiediLogin(const QString& /*passwordRiservata*/) {
-  return Prossima({Genere::Login, {}, {}, {}, {}}).risposta == Risposta::Ok;
+  return Prossima({Genere::Login}).risposta == Risposta::Ok;
 }
 
 void DialoghiScritti::Attesa(bool attiva) { attese_ += attiva ? 1 : -1; }

@@ -29,8 +29,8 @@ struct Parola {
     Login
   };
   Genere genere = Genere::Messaggio;
-  QString testo;
-  QString titolo;
+  QString testo = {};
+  QString titolo = {};
   Pulsanti pulsanti = Pulsanti::Ok;
   Icona icona = Icona::Nessuna;
 };
@@ -44,20 +44,38 @@ class DialoghiScritti : public Dialoghi {
 
   // The script, in the order of the questions.
   void AttendeDomanda(const QString& testo, const QString& titolo, Pulsanti pulsanti,
-                      Risposta risposta);
-  void AttendeImmissione(const QString& testo, const QString& titolo, const QString& risposta);
-  void AttendeFile(const QString& titolo, const QString& percorso);
-  void AttendeFileAnnullato(const QString& titolo);
-  void AttendeInformazione(const QString& risposta);
+                      Risposta risposta) {
+    Attende({{Parola::Genere::Domanda, testo, titolo, pulsanti}, risposta});
+  }
+  void AttendeImmissione(const QString& testo, const QString& titolo, const QString& risposta) {
+    Attende({{Parola::Genere::Immissione, testo, titolo}, Risposta::Ok, risposta});
+  }
+  void AttendeFile(const QString& titolo, const QString& percorso) {
+    Attende({{Parola::Genere::File, {}, titolo}, Risposta::Ok, percorso});
+  }
+  void AttendeFileAnnullato(const QString& titolo) {
+    Attende({{Parola::Genere::File, {}, titolo}, Risposta::Annulla});
+  }
+  void AttendeInformazione(const QString& risposta) {
+    Attende({{Parola::Genere::Informazione}, Risposta::Ok, risposta});
+  }
   // `prima` runs before the answer, as a form changes variables while it is shown.
-  void AttendeFileUscita(const QString& risposta, std::function<void()> prima = {});
-
-  void AttendeTestoEsteso(const QString& etichetta, const QString& risposta);
+  void AttendeFileUscita(const QString& risposta, const std::function<void()>& prima = {}) {
+    Attende({{Parola::Genere::FileUscita}, Risposta::Ok, risposta, prima});
+  }
+  void AttendeTestoEsteso(const QString& etichetta, const QString& risposta) {
+    Attende({{Parola::Genere::TestoEsteso, etichetta}, Risposta::Ok, risposta});
+  }
   // `voci` must be the lines of the list; without them any list will do.
-  void AttendeLista(const QStringList& voci, const QString& risposta);
-  void AttendeLista(const QString& risposta);
-
-  void AttendeLogin(bool riuscito);
+  void AttendeLista(const QStringList& voci, const QString& risposta) {
+    Attende({{Parola::Genere::Lista}, Risposta::Ok, risposta, {}, voci});
+  }
+  void AttendeLista(const QString& risposta) {
+    Attende({{Parola::Genere::Lista}, Risposta::Ok, risposta});
+  }
+  void AttendeLogin(bool riuscito) {
+    Attende({{Parola::Genere::Login}, riuscito ? Risposta::Ok : Risposta::Annulla});
+  }
 
   // What was shown or asked so far.
   [[nodiscard]] const QList<Parola>& Parole() const { return parole_; }
@@ -99,11 +117,11 @@ class DialoghiScritti : public Dialoghi {
   struct Battuta {
     Parola parola;
     Risposta risposta = Risposta::Ok;
-    QString testo;
-    bool annullata = false;
-    std::function<void()> prima;
-    std::optional<QStringList> voci;
+    QString testo = {};
+    std::function<void()> prima = {};
+    std::optional<QStringList> voci = {};
   };
+  void Attende(const Battuta& battuta) { copione_.push_back(battuta); }
   Battuta Prossima(const Parola& parola);
 
   std::deque<Battuta> copione_;

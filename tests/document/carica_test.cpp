@@ -143,16 +143,6 @@ TEST(Carica, PairsByTheSchemeOfTheYear) {
             QStringList(QString::fromStdString("0 - " + codice)));
 }
 
-TEST(Carica, AnUnknownJournalIsToldAndKeepsTheFocus) {
-  ArchivioDiProva prova;
-  prova.Apri("1");
-  prova.documento.campi.txtCPer = "ZZZZ";
-  ControllaPeriodico(prova.documento);
-  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Codice periodico errato!");
-  EXPECT_EQ(prova.dialoghi.Parole().last().titolo, "Attenzione!");
-  EXPECT_EQ(prova.documento.fuoco, "txtCPer");
-}
-
 TEST(Carica, NewDocumentsAreNumberedBehindTheLast) {
   ArchivioDiProva prova;
   prova.Apri({});

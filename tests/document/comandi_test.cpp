@@ -154,13 +154,5 @@ TEST(Comandi, ASourceGoesIntoTheNoteOfNotesAndComments) {
   }
 }
 
-TEST(Comandi, ClassificationNeedsAYear) {
-  ArchivioDiProva prova;
-  EXPECT_FALSE(AnnoPerClassificare(prova.documento));
-  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(),
-            "Per questa operazione è necessario riempire il campo \"Anno\"!");
-  EXPECT_EQ(prova.documento.fuoco, "txtAA");
-}
-
 }  // namespace
 }  // namespace torvi

@@ -68,6 +68,8 @@ TEST(SalvaRigaDocumento, WhatIsClearedKeepsItsOldValue) {
   campi.ComboLIN = SegnapostoLIN();
   SalvaRigaDocumento(prova.documento, 5);
   EXPECT_EQ(riga(1), "5|12-34|00|00|00|00|1|07|");
+  SalvaRigaDocumento(prova.documento, 0);  // a journal that is not known
+  EXPECT_TRUE(riga(1).starts_with("0|")) << riga(1);
   EXPECT_TRUE(riga(2).ends_with("|-|00|-|-|-|||")) << "no other document is touched: " << riga(2);
 
   prova.documento.SalvaComeNuovo = true;

@@ -73,52 +73,39 @@ TEST_F(Classi, ADocumentWithoutClassesIsToldInBothSchemes) {
   }
 }
 
-TEST_F(Classi, PairsAreDecodedOneByOneOrGrouped) {
+// Pairs one by one or grouped; older codes with their parent.
+TEST_F(Classi, CodesAreDecodedByTheSchemeOfTheYear) {
   struct Caso {
+    bool dopo2000;
     const char* codici;
-    const char* storico;
-    const char* cassazione;
+    std::string storico;
+    std::string cassazione;
   };
-  constexpr Caso kCasi[] = {
-      {"AM001;00123\\AM001;00456\\BC002",
+  const Caso kCasi[] = {
+      {true, "AM001;00123\\AM001;00456\\BC002",
        "AMM|Atti amministrativi; Procedimento\\AMM|Atti amministrativi; Silenzio\\CIV|Contratti",
        "AMM Atti amministrativi; Procedimento; Silenzio\\CIV Contratti"},
-      {"AM001;00123\\BC002\\AM001;00456",
+      {true, "AM001;00123\\BC002\\AM001;00456",
        "AMM|Atti amministrativi; Procedimento\\CIV|Contratti\\AMM|Atti amministrativi; Silenzio",
        "AMM Atti amministrativi; Procedimento\\CIV Contratti\\AMM Atti amministrativi; Silenzio"},
-      {"BC002;*a", "CIV|Contratti; *a", "CIV Contratti; *a"},
-      {"BC002;libero testo", "CIV|Contratti; libero testo", "CIV Contratti; libero testo"},
-      {"BC002;00123 e altro", "CIV|Contratti; Procedimento", "CIV Contratti; Procedimento"},
-  };
-  for (const Caso& caso : kCasi) {
-    EXPECT_EQ(Decodifica(ScriviClassiStorico, caso.codici).campi,
-              "24" + std::string(caso.storico) + "\n");
-    EXPECT_EQ(Decodifica(ScriviClassiCassazione, caso.codici).campi,
-              "25" + std::string(caso.cassazione) + "\n");
-  }
-}
-
-TEST_F(Classi, OlderCodesAreDecodedWithTheirParent) {
-  struct Caso {
-    const char* codici;
-    const char* storico;
-    const char* cassazione;
-  };
-  constexpr Caso kCasi[] = {
-      {"A1", "A1. (Padre)", "A1. A1 (Padre)"},
-      {"A12", "A1.2. (Padre: Figlio)", "A1.2. A12 (Padre: Figlio)"},
-      {"A12\\A1", "A1.2. (Padre: Figlio)\\A1. (Padre)",
+      {true, "BC002;*a", "CIV|Contratti; *a", "CIV Contratti; *a"},
+      {true, "BC002;libero testo", "CIV|Contratti; libero testo", "CIV Contratti; libero testo"},
+      {true, "BC002;00123 e altro", "CIV|Contratti; Procedimento", "CIV Contratti; Procedimento"},
+      {false, "A1", "A1. (Padre)", "A1. A1 (Padre)"},
+      {false, "A12", "A1.2. (Padre: Figlio)", "A1.2. A12 (Padre: Figlio)"},
+      {false, "A12\\A1", "A1.2. (Padre: Figlio)\\A1. (Padre)",
        "A1.2. A12 (Padre: Figlio)\\A1. A1 (Padre)"},
-      {"D9A", "D9.A. (Varie)", "D9.A. D9A (Varie)"},
-      {"d9a", "d9.a. (Varie)", "d9.a. d9a (Varie)"},
-      {"D9AB", "D9.A.B. (Varie: Altre)", "D9.A.B. D9AB (Varie: Altre)"},
+      {false, "D9A", "D9.A. (Varie)", "D9.A. D9A (Varie)"},
+      {false, "d9a", "d9.a. (Varie)", "d9.a. d9a (Varie)"},
+      {false, "D9AB", "D9.A.B. (Varie: Altre)", "D9.A.B. D9AB (Varie: Altre)"},
   };
-  prova.stato.Dopo2000 = false;
   for (const Caso& caso : kCasi) {
+    SCOPED_TRACE(caso.codici);
+    prova.stato.Dopo2000 = caso.dopo2000;
     EXPECT_EQ(Decodifica(ScriviClassiStorico, caso.codici).campi,
-              "12" + std::string(caso.storico) + "\n");
+              (caso.dopo2000 ? "24" : "12") + caso.storico + "\n");
     EXPECT_EQ(Decodifica(ScriviClassiCassazione, caso.codici).campi,
-              "12" + std::string(caso.cassazione) + "\n");
+              (caso.dopo2000 ? "25" : "12") + caso.cassazione + "\n");
   }
 }
 

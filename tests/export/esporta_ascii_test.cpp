@@ -87,32 +87,6 @@ std::string Campi(const DocumentiDiProva& prova, const char* file, const std::st
   return campi;
 }
 
-TEST(EsportaAscii, TheSchemeBefore2000HasATagOfItsOwn) {
-  DocumentiDiProva prova;
-  prova.Codice1999(prova.Documento({{"IDRifBibl", prova.Riferimento({{"Data", "15/03/1999"}})}}),
-                   2);
-  const FlagEsportazione flavour[] = {kEsportaIsis, kEsportaCassazione, kEsportaStorico};
-  const char* file[] = {"lexxdump isis.A01", "lexxdump cassazione.A01", "lexxdump storico.A01"};
-  const char* attesi[] = {"12A1.2. A12 (Padre: Figlio)\n", "12A1.2. A12 (Padre: Figlio)\n",
-                          "12A1.2. (Padre: Figlio)\n"};
-  for (int i = 0; i < 3; ++i) {
-    EsportaDaMenu(prova.stato, flavour[i]);
-    EXPECT_EQ(Campi(prova, file[i], "12"), attesi[i]) << file[i];
-    for (const char* tag : {"23", "24", "25"}) EXPECT_EQ(Campi(prova, file[i], tag), "") << file[i];
-  }
-}
-
-TEST(EsportaAscii, ADocumentWithoutClassesKeepsAnEmptyField23) {
-  DocumentiDiProva prova;
-  prova.Documento({{"IDRifBibl", prova.Riferimento()}});
-  EsportaDaMenu(prova.stato, kEsportaIsis);
-  EXPECT_EQ(Campi(prova, "lexxdump isis.A01", "2"),
-            "2001A0012\n21Rivista giuridica, \x06"
-            "D2001\x06"
-            "d, fasc\x06. 3 (15 marzo), pagg\x06. "
-            "101-120, (con note)\n23\n");
-}
-
 TEST(EsportaAscii, ADocumentWithoutDateKeepsTheSchemeOfTheOneBefore) {
   DocumentiDiProva prova;
   const qint64 nuovo = prova.Riferimento();

@@ -12,11 +12,12 @@ std::string Mostra(Parte parte) {
       .toStdString();
 }
 
+struct Caso {
+  const char* testo;
+  const char* atteso;
+};
+
 TEST(ParteData, TheYearIsTheLastFourDigitsAndIsComparedAsText) {
-  struct Caso {
-    const char* data;
-    const char* atteso;
-  };
   constexpr Caso kCasi[] = {
       {"15/03/2001", "15032001|, ~D2001~d|"},
       {"00/00/1970", "00001970|, ~D1970~d|"},
@@ -28,17 +29,17 @@ TEST(ParteData, TheYearIsTheLastFourDigitsAndIsComparedAsText) {
       {"15/03/200a", "1503200a|, ~D200a~d|Errore anno nel sottocampo DATA: "},
   };
   for (const Caso& caso : kCasi) {
-    EXPECT_EQ(Mostra(ParteData(CifreData(caso.data), "2001")), caso.atteso) << caso.data;
+    EXPECT_EQ(Mostra(ParteData(CifreData(caso.testo), "2001")), caso.atteso) << caso.testo;
   }
 }
 
 TEST(ParteFascicolo, DayAndMonthStandBehindTheIssue) {
-  struct Caso {
+  struct CasoFascicolo {
     const char* fascicolo;
     const char* data;
     const char* atteso;
   };
-  constexpr Caso kCasi[] = {
+  constexpr CasoFascicolo kCasi[] = {
       {"3", "15/03/2001", "000000003|, fasc~. 3 (15 marzo)|"},
       {"3", "07/12/2001", "000000003|, fasc~. 3 (7 dicembre)|"},
       {"3", "31/01/2001", "000000003|, fasc~. 3 (31 gennaio)|"},
@@ -60,17 +61,13 @@ TEST(ParteFascicolo, DayAndMonthStandBehindTheIssue) {
        "01/2-0003|, fasc~. 1/2-3|Fascicolo con '/': +Errore mese nel sottocampo "
        "DATA: "},
   };
-  for (const Caso& caso : kCasi) {
+  for (const CasoFascicolo& caso : kCasi) {
     EXPECT_EQ(Mostra(ParteFascicolo(caso.fascicolo, CifreData(caso.data))), caso.atteso)
         << caso.fascicolo << ' ' << caso.data;
   }
 }
 
 TEST(PartePagine, ARangeMustRiseUnlessAnAsteriskStands) {
-  struct Caso {
-    const char* pagine;
-    const char* atteso;
-  };
   constexpr Caso kCasi[] = {
       {"101-120", "0101-0120| pagg~. 101-120|"},
       {"5", "000000005| pag~. 5|"},
@@ -93,7 +90,7 @@ TEST(PartePagine, ARangeMustRiseUnlessAnAsteriskStands) {
       {"7.5-3", "7.5| pagg~. 7.5-3|Errore di paginazione: +Errore di paginazione: "},
   };
   for (const Caso& caso : kCasi) {
-    EXPECT_EQ(Mostra(PartePagine(caso.pagine)), caso.atteso) << caso.pagine;
+    EXPECT_EQ(Mostra(PartePagine(caso.testo)), caso.atteso) << caso.testo;
   }
 }
 

@@ -347,11 +347,6 @@ TEST_F(FormaAltraFonte, OffersTheStates) {
   }
   Clic(Pagina(), "cmdClear");
   EXPECT_EQ(Testo("txtStato"), "Francia");
-  Scegli("NS");
-  Scrivi({{"txtLibero", "Code"}, {"txtArt", "1382"}});
-  Controllo<QComboBox>("ComboRipA").setFocus();
-  Batti("bis{Tab}");
-  EXPECT_EQ(Anteprima(), "art. 1382 bis Code (Francia)");
 }
 
 TEST_F(FormaAltraFonte, FillsItselfFromAConventionThatWasCited) {

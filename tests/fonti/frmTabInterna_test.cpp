@@ -20,10 +20,6 @@ class FormaTabInterna : public testing::Test {
   FormaTabInterna() {
     stato.NuovaFonte = true;
     const UnitaDiScrittura unita(stato.DbArchivio);
-    const auto riga = [this](const char* tabella, auto... valori) {
-      Aggiungi(stato.DbArchivio, tabella, {valori...});
-    };
-    using Valore = std::pair<const char*, Campo>;
     // Both levels, and the name.
     for (const QString& atto :
          QString(
@@ -32,14 +28,18 @@ class FormaTabInterna : public testing::Test {
              "33 App.|34 Comm. trib.|36 C. Stato|37 Trib. Acque|38 Comm. brevetti|39 Coll. arb.|"
              "3a ABF")
              .split('|')) {
-      riga("TabFonteInterna", Valore("FonteNorm", atto.mid(3)), Valore("liv1", atto.left(1)),
-           Valore("liv2", atto.mid(1, 1).trimmed()));
+      Riga(
+          "TabFonteInterna",
+          {{"FonteNorm", atto.mid(3)}, {"liv1", atto.left(1)}, {"liv2", atto.mid(1, 1).trimmed()}});
     }
-    for (const char* citta : {"Roma", "Asti", "Rovigo"}) riga("TabCitta", Valore("citta", citta));
-    for (const char* sezione : {"s.u.", "I"}) riga("TabSezione", Valore("sigla", sezione));
-    riga("TabMinistero", Valore("MinisteroNorm", "Giustizia"));
-    riga("TabAmministrazione", Valore("AmministrazioneNorm", "Dogane"));
-    riga("TabAutorita", Valore("AutoritaNorm", "Garante"));
+    for (const char* citta : {"Roma", "Asti", "Rovigo"}) Riga("TabCitta", {{"citta", citta}});
+    for (const char* sezione : {"s.u.", "I"}) Riga("TabSezione", {{"sigla", sezione}});
+    Riga("TabMinistero", {{"MinisteroNorm", "Giustizia"}});
+    Riga("TabAmministrazione", {{"AmministrazioneNorm", "Dogane"}});
+    Riga("TabAutorita", {{"AutoritaNorm", "Garante"}});
+  }
+  void Riga(const char* tabella, Valori valori) const {
+    Aggiungi(stato.DbArchivio, tabella, valori);
   }
   void Apri(int scheda = 0) {
     forma = std::make_unique<frmTabInterna>(stato, dialoghi);

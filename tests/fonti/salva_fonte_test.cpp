@@ -10,7 +10,11 @@ namespace torvi {
 namespace {
 
 struct SalvataggioFonte : testing::Test {
-  SalvataggioFonte() { stato.NuovaFonte = true; }
+  SalvataggioFonte() {
+    stato.NuovaFonte = true;
+    legge.indice = 2;
+    legge.ComboFonte = "Legge costituzionale";
+  }
   [[nodiscard]] QString Testi() const {
     QStringList testi;
     for (const RigaFonte& riga : stato.RigheFonte) testi += riga.TP + ' ' + riga.Testo;
@@ -19,12 +23,10 @@ struct SalvataggioFonte : testing::Test {
 
   StatoGlobale stato;
   DialoghiScritti dialoghi;
+  ControlliFonte legge;
 };
 
 TEST_F(SalvataggioFonte, AppendsToTheRowsThatThereAre) {
-  ControlliFonte legge;
-  legge.indice = 2;
-  legge.ComboFonte = "Legge costituzionale";
   ControlliFonte senzaAtto = legge;
   senzaAtto.ComboFonte = "Contratti collettivi";
   ControlliFonte sentenza;
@@ -44,9 +46,6 @@ TEST_F(SalvataggioFonte, AppendsToTheRowsThatThereAre) {
 }
 
 TEST_F(SalvataggioFonte, HoldsNoMoreRowsThanSixteenBitsCount) {
-  ControlliFonte legge;
-  legge.indice = 2;
-  legge.ComboFonte = "Legge costituzionale";
   stato.RigheFonte.resize(32766);
   EXPECT_EQ(SalvaFonteInterna(stato, dialoghi, legge), EsitoFonte::Composta);
   EXPECT_EQ(NumeroErrore([&] { SalvaFonteInterna(stato, dialoghi, legge); }), 6);

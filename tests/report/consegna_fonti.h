@@ -9,40 +9,34 @@
 
 namespace torvi {
 
-using Valori = std::initializer_list<std::pair<const char*, Campo>>;
-
 // Lines as a file has them.
 inline QByteArray Righe(const QStringList& righe) {
-  return ConvertiAnsi((righe + QStringList{QString()}).join(QLatin1String("\r\n")));
+  return ConvertiAnsi((righe + QStringList{QString()}).join("\r\n"));
 }
 
 class ConsegnaFonti : public testing::Test {
  protected:
   qint64 Documento(const Campo& titolo = {}) const {
-    const qint64 documento = Aggiungi(stato.DbArchivio, QStringLiteral("TabDocumento"), {});
+    const qint64 documento = Aggiungi(stato.DbArchivio, "TabDocumento", {});
     if (!titolo.Nullo()) Testo(documento, "0", titolo);
     return documento;
   }
   void Testo(qint64 documento, const char* tipo, const Campo& testo) const {
-    const qint64 numero =
-        Aggiungi(stato.DbArchivio, QStringLiteral("TabTesto"), {{"testo", testo}});
-    Aggiungi(stato.DbArchivio, QStringLiteral("LegameDocTesto"),
+    const qint64 numero = Aggiungi(stato.DbArchivio, "TabTesto", {{"testo", testo}});
+    Aggiungi(stato.DbArchivio, "LegameDocTesto",
              {{"IDDoc", documento}, {"IDTesto", numero}, {"Tipo", tipo}});
   }
   void Fonte(qint64 documento, Valori valori) const {
-    const qint64 numero = Aggiungi(stato.DbArchivio, QStringLiteral("TabFonte"), valori);
+    const qint64 numero = Aggiungi(stato.DbArchivio, "TabFonte", valori);
     Cita(documento, numero);
   }
   void Cita(qint64 documento, qint64 fonte) const {
-    Aggiungi(stato.DbArchivio, QStringLiteral("LegameDocFonte"),
-             {{"IDDoc", documento}, {"IDFnt", fonte}});
+    Aggiungi(stato.DbArchivio, "LegameDocFonte", {{"IDDoc", documento}, {"IDFnt", fonte}});
   }
-  [[nodiscard]] QByteArray Dump(const char* nome) const {
-    return Byte(cartella.Dump(QString::fromUtf8(nome)));
-  }
+  [[nodiscard]] QByteArray Dump(const char* nome) const { return Byte(cartella.Dump(nome)); }
   void InBatch() {
     stato.ModoBatch = true;
-    stato.FileBatch = cartella.Dump(QStringLiteral("comune.lst"));
+    stato.FileBatch = cartella.Dump("comune.lst");
   }
 
   CartellaDiProva cartella;

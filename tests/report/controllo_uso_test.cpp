@@ -9,7 +9,7 @@ namespace {
 using ControlloUso = ConsegnaFonti;
 
 TEST_F(ControlloUso, ListsTheFunctionsUsedInTheirOrder) {
-  const QString testa = QStringLiteral("Sono stati utilizzate le seguenti funzioni:");
+  const QString testa = "Sono stati utilizzate le seguenti funzioni:";
   EXPECT_EQ(FunzioniUsate(stato.DbArchivio), testa);
   const QStringList etichette = {"'Storico'",
                                  "'Stampa HTML per controllo Celex'",
@@ -27,12 +27,12 @@ TEST_F(ControlloUso, ListsTheFunctionsUsedInTheirOrder) {
     EXPECT_EQ(FunzioniUsate(stato.DbArchivio), attese);
   }
   // Anything but "1" is no use.
-  stato.DbArchivio.Execute(QStringLiteral("update TabInfo set CELEX = \"2\", Storico = null"));
+  stato.DbArchivio.Execute("update TabInfo set CELEX = \"2\", Storico = null");
   EXPECT_EQ(FunzioniUsate(stato.DbArchivio).count("\r\n"), 7);
 }
 
 TEST_F(ControlloUso, ShowsThemAfterAGoodLoginOnly) {
-  RegistraUsoFunzione(stato, QStringLiteral("5"));
+  RegistraUsoFunzione(stato, "5");
   stato.LoginRiservato = true;  // of an earlier command
   dialoghi.AttendeLogin(false);
   ControllaUso(stato, dialoghi);

@@ -15,14 +15,9 @@ TEST_F(Estrazioni, EachNoteStandsUnderTheNumberOfItsDocument) {
   Testo(Documento(), "5", R"(Perché?\seconda riga\)");
   Documento();
   Testo(Documento(), "5", "una riga sola");
-  const QStringList righe = {"2001A0013 (Record: 2)",
-                             QStringLiteral("Perché?"),
-                             "seconda riga",
-                             "",
-                             "",
-                             "2001A0015 (Record: 4)",
-                             "una riga sola",
-                             ""};
+  const QStringList righe = {
+      "2001A0013 (Record: 2)", "Perché?", "seconda riga", "", "", "2001A0015 (Record: 4)",
+      "una riga sola",         ""};
   EstraiNote(stato, dialoghi);
   EXPECT_EQ(Dump("note.A01").toStdString(), Righe(righe).toStdString());
   EXPECT_EQ(dialoghi.UltimoMessaggio(), "Fine estrazione note ai documenti (consegna A01)");
@@ -44,11 +39,11 @@ TEST_F(Estrazioni, WithoutNotesOnlyABatchLeavesLines) {
 TEST_F(Estrazioni, NewValuesAreListedWithTheirDocuments) {
   // An archive made before new ministries were marked.
   std::vector<Tabella> schema = SchemaArchivio();
-  const auto ministeri = std::ranges::find(schema, QStringLiteral("TabMinistero"), &Tabella::nome);
+  const auto ministeri = std::ranges::find(schema, QString("TabMinistero"), &Tabella::nome);
   std::erase_if(ministeri->colonne, [](const Colonna& una) { return una.nome == "nuovo"; });
   CreaDatabase(cartella.Mdb("vecchio.mdb"), schema);
   stato.DbArchivio = OpenDatabase(cartella.Mdb("vecchio.mdb"));
-  Aggiungi(stato.DbArchivio, QStringLiteral("TabInfo"),
+  Aggiungi(stato.DbArchivio, "TabInfo",
            {{"Consegna", "A01"},
             {"NumInizio", "1"},
             {"IDCentroSpoglio", "A"},
@@ -56,8 +51,7 @@ TEST_F(Estrazioni, NewValuesAreListedWithTheirDocuments) {
 
   const auto nuovo = [this](const char* tabella, const char* colonna, const char* valore,
                             int segno) {
-    return Aggiungi(stato.DbArchivio, QLatin1String(tabella),
-                    {{colonna, valore}, {"nuovo", segno}});
+    return Aggiungi(stato.DbArchivio, tabella, {{colonna, valore}, {"nuovo", segno}});
   };
   const qint64 stato1 = nuovo("TabStato", "Stato", "Città del Vaticano", 1);
   const qint64 citta = nuovo("TabCitta", "Citta", "Roma", 0);
@@ -72,17 +66,16 @@ TEST_F(Estrazioni, NewValuesAreListedWithTheirDocuments) {
   Fonte(primo, {{"IDStato", stato1}, {"IDCitta", citta}, {"IDAutorita", autorita}});
   Fonte(primo, {{"IDAmministrazione", amministrazione}});
   EstraiNuovi(stato, dialoghi);
-  EXPECT_EQ(
-      Dump("nuovi.A01").toStdString(),
-      Righe({"Nuovi inserimenti in tabStato", QStringLiteral("Nuovo: Città del Vaticano (2)"),
-             QStringLiteral("Nuovo: Città del Vaticano (1)"), "", "Nuovi inserimenti in tabCitta",
-             QStringLiteral("Nessuna novità in tabCitta"), "", "Nuovi inserimenti in tabSezione",
-             "Nuovo: sez. un. (2)", "", "Nuovi inserimenti in tabMinistero",
-             QStringLiteral("Impossibilità di risultato a causa della struttura non aggiornata "
-                            "della tabella"),
-             "", "Nuovi inserimenti in tabAmministrzione", "Nuovo: Amm. forestale (1)", "",
-             "Nuovi inserimenti in tabAutorita", "Nuovo: Aut. portuale (1)", ""})
-          .toStdString());
+  EXPECT_EQ(Dump("nuovi.A01").toStdString(),
+            Righe({"Nuovi inserimenti in tabStato", "Nuovo: Città del Vaticano (2)",
+                   "Nuovo: Città del Vaticano (1)", "", "Nuovi inserimenti in tabCitta",
+                   "Nessuna novità in tabCitta", "", "Nuovi inserimenti in tabSezione",
+                   "Nuovo: sez. un. (2)", "", "Nuovi inserimenti in tabMinistero",
+                   "Impossibilità di risultato a causa della struttura non aggiornata "
+                   "della tabella",
+                   "", "Nuovi inserimenti in tabAmministrzione", "Nuovo: Amm. forestale (1)", "",
+                   "Nuovi inserimenti in tabAutorita", "Nuovo: Aut. portuale (1)", ""})
+                .toStdString());
   EXPECT_EQ(dialoghi.UltimoMessaggio(), "Fine estrazione nuovi ai documenti (consegna A01)");
 }
 

@@ -16,11 +16,11 @@ class SceltaFileOut : public testing::Test {
  protected:
   SceltaFileOut() {
     for (const char* nome : {"lexxdump isis.A01", "lexxdump storico.A01", "errori.A01"}) {
-      ScriviByte(cartella.Dump(QLatin1String(nome)), "x");
+      ScriviByte(cartella.Dump(nome), "x");
     }
     // The folder is asked for in another case than it has on disk.
     forma = std::make_unique<frmSceltaFileOut>(dialoghi, cartella.Percorso() + "/Dump",
-                                               QStringLiteral("lexxdump*.*"), true);
+                                               "lexxdump*.*", true);
     forma->show();
   }
   [[nodiscard]] QListWidget& Lista() const { return Trova<QListWidget>(*forma, "fileListOut"); }
@@ -31,16 +31,12 @@ class SceltaFileOut : public testing::Test {
 };
 
 TEST_F(SceltaFileOut, ShowsTheFilesThatMatch) {
-  EXPECT_EQ(forma->windowTitle(), "Scelta file di uscita");
-  EXPECT_EQ(Trova<QLabel>(*forma, "Label1").text(), "Scegli un file:");
-  EXPECT_EQ(Trova<QPushButton>(*forma, "cmdConferma").text(), "&Conferma");
-  EXPECT_EQ(Trova<QPushButton>(*forma, "cmdNuovo").text(), "&Nuovo file");
-  EXPECT_EQ(Trova<QPushButton>(*forma, "cmdAnnulla").text(), "&Annulla");
+  EXPECT_EQ(Scritte(*forma),
+            "Scelta file di uscita|Scegli un file:|&Conferma|&Nuovo file|&Annulla");
   ASSERT_EQ(Lista().count(), 2);
   EXPECT_EQ(Lista().item(0)->text(), "lexxdump isis.A01");
   EXPECT_TRUE(Trova<QPushButton>(*forma, "cmdNuovo").isVisible());
-  const frmSceltaFileOut senzaNuovo(dialoghi, cartella.Percorso() + "/dump",
-                                    QStringLiteral("lexxdump*.*"), false);
+  const frmSceltaFileOut senzaNuovo(dialoghi, cartella.Percorso() + "/dump", "lexxdump*.*", false);
   EXPECT_TRUE(Trova<QPushButton>(senzaNuovo, "cmdNuovo").isHidden());
 }
 
@@ -67,11 +63,11 @@ TEST_F(SceltaFileOut, FollowsTheKeyboard) {
 }
 
 TEST_F(SceltaFileOut, JoinsFolderAndNewNameAsTheyStand) {
-  const QString testo = QStringLiteral("Inserisci nuovo nome file:");
-  const QString titolo = QStringLiteral("Nome file nuovo");
-  dialoghi.AttendeImmissione(testo, titolo, QStringLiteral("/lexxdump unico.B01"));
-  dialoghi.AttendeImmissione(testo, titolo, QStringLiteral("\\lexxdump unico.B02"));
-  dialoghi.AttendeImmissione(testo, titolo, QStringLiteral("unico"));
+  const QString testo = "Inserisci nuovo nome file:";
+  const QString titolo = "Nome file nuovo";
+  dialoghi.AttendeImmissione(testo, titolo, "/lexxdump unico.B01");
+  dialoghi.AttendeImmissione(testo, titolo, "\\lexxdump unico.B02");
+  dialoghi.AttendeImmissione(testo, titolo, "unico");
   Clic(*forma, "cmdNuovo");
   EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump unico.B01"));
   Clic(*forma, "cmdNuovo");

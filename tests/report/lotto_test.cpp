@@ -16,9 +16,9 @@ class LottoDiConsegne : public ConsegnaFonti {
   LottoDiConsegne() {
     for (const auto& [sigla, documenti] :
          {std::pair{"L1", 1}, {"L2", 12}, {"L4", 100}, {"L5", 0}}) {
-      stato.DbArchivio = cartella.NuovaConsegna(
-          QLatin1String(sigla) + ".mdb",
-          {.consegna = QLatin1String(sigla), .inizio = "7", .centro = "B", .anno = "2003"});
+      stato.DbArchivio =
+          cartella.NuovaConsegna(QLatin1String(sigla) + ".mdb",
+                                 {.consegna = sigla, .inizio = "7", .centro = "B", .anno = "2003"});
       const UnitaDiScrittura unita(stato.DbArchivio);
       for (int i = 0; i < documenti; ++i) Documento();
       if (documenti > 1) Testo(2, "5", QByteArray("nota di ").append(sigla).constData());
@@ -26,9 +26,9 @@ class LottoDiConsegne : public ConsegnaFonti {
   }
   EsitoLotto Esegue(Lotto lotto, const QByteArray& sigle, AlGuasto alGuasto = AlGuasto::Ferma,
                     const char* nome = "sigle.A03") {
-    const QString lista = cartella.Mdb(QLatin1String(nome));
+    const QString lista = cartella.Mdb(nome);
     ScriviByte(lista, sigle);
-    stato.FileBatch = QStringLiteral("di prima");
+    stato.FileBatch = "di prima";
     dialoghi.AttendeFileUscita(lista, [this] { EXPECT_EQ(stato.FileBatch, ""); });
     const EsitoLotto esito = EseguiLotto(stato, dialoghi, lotto, alGuasto);
     EXPECT_EQ(dialoghi.UltimaUscita().join('|'), cartella.Percorso() + "/mdb|sigle.*|");
@@ -74,7 +74,7 @@ TEST_F(LottoDiConsegne, StopsAtTheFirstDeliveryThatFails) {
 TEST_F(LottoDiConsegne, GoesOnWhereToldAndTakesBackTheHalves) {
   {  // fails at its second document, behind its first lines
     const Database rotta = OpenDatabase(cartella.Mdb("L4.mdb"));
-    rotta.Execute(QStringLiteral("update TabTesto set testo = null"));
+    rotta.Execute("update TabTesto set testo = null");
   }
   ScriviByte(cartella.Dump("note.A03"), "di prima\r\n");
   const EsitoLotto esito =
@@ -135,8 +135,7 @@ TEST_F(LottoDiConsegne, AnExportGivesWhatEachDeliveryGivesAlone) {
 }
 
 TEST_F(LottoDiConsegne, CountsDocuments) {
-  OpenDatabase(cartella.Mdb("L1.mdb"))
-      .Execute(QStringLiteral("update TabInfo set Consegna = \"L%3\""));
+  OpenDatabase(cartella.Mdb("L1.mdb")).Execute("update TabInfo set Consegna = \"L%3\"");
   ScriviByte(cartella.Dump("conteggio.igl"), "di prima\r\n");
   // The last three characters of the path, whatever the extension.
   EXPECT_TRUE(

@@ -9,7 +9,7 @@ class StampaHtml : public ConsegnaFonti {
  protected:
   // A kind of EU source.
   qint64 Genere(const Campo& settore, const char* codice, const Campo& anno = {}) const {
-    return Aggiungi(stato.DbArchivio, QStringLiteral("TabFonteCom"),
+    return Aggiungi(stato.DbArchivio, "TabFonteCom",
                     {{"Settore", settore}, {"Codice", codice}, {"AnnoF", anno}});
   }
   void Compila() const {
@@ -47,7 +47,7 @@ class StampaHtml : public ConsegnaFonti {
     Cita(primo, 9);  // CEDU 1 once more
   }
   [[nodiscard]] QString Marcatore() const {
-    return stato.DbArchivio.OpenRecordset(QStringLiteral("TabInfo")).Fields("CELEX").TestoOVuoto();
+    return stato.DbArchivio.OpenRecordset("TabInfo").Fields("CELEX").TestoOVuoto();
   }
 };
 
@@ -59,14 +59,14 @@ QString Celex(const char* testo, const char* numero) {
   return QStringLiteral(
              "%1 ---> <A HREF=\"https://celex.example/LexUriServ/LexUriServ.do?uri=CELEX:%2:IT:NOT"
              "\"><U><FONT SIZE=\"2\" COLOR=\"#0000ff\">[recupera via CELEX]</U></FONT></A><br>")
-      .arg(QLatin1String(testo), QLatin1String(numero));
+      .arg(testo, numero);
 }
 
 QString Hudoc(const char* testo, const char* parti) {
   return QStringLiteral(
              "%1 ---> <A target=\"new\" HREF='https://hudoc.echr.coe.int/eng#{\"docname\":[\"%2\"]}"
              "'><U><FONT SIZE=\"2\" COLOR=\"#0000ff\">[recupera via HUDOC]</U></FONT></A><br>")
-      .arg(QLatin1String(testo), QLatin1String(parti));
+      .arg(testo, parti);
 }
 
 TEST_F(StampaHtml, WritesEachSourceWithItsLink) {
@@ -75,13 +75,12 @@ TEST_F(StampaHtml, WritesEachSourceWithItsLink) {
   StampaHTMLCelex(stato, dialoghi);
   EXPECT_EQ(Dump("stampaHTML A01.htm").toStdString(),
             Righe(kTesta +
-                  QStringList{"<hr size=\"1\"/>", "<h2>Record: 1</h2>",
-                              QStringLiteral("<h3>L'attività “libera”</h3>"),
-                              Celex("reg. n. 12/2001", "32001R0012"),
-                              Celex("C. giust. CE", "61999CJ0123"), "<hr size=\"1\"/>",
-                              "<h2>Record: 3</h2>", Celex("art. 12A", "12002E012A"),
-                              Celex("senza causa", " "), "<hr size=\"1\"/>", "<h2>Record: 4</h2>",
-                              "<h3>Nessun settore</h3>"} +
+                  QStringList{
+                      "<hr size=\"1\"/>", "<h2>Record: 1</h2>", "<h3>L'attività “libera”</h3>",
+                      Celex("reg. n. 12/2001", "32001R0012"), Celex("C. giust. CE", "61999CJ0123"),
+                      "<hr size=\"1\"/>", "<h2>Record: 3</h2>", Celex("art. 12A", "12002E012A"),
+                      Celex("senza causa", " "), "<hr size=\"1\"/>", "<h2>Record: 4</h2>",
+                      "<h3>Nessun settore</h3>"} +
                   kCoda)
                 .toStdString());
   EXPECT_EQ(Marcatore(), "1");
@@ -90,8 +89,7 @@ TEST_F(StampaHtml, WritesEachSourceWithItsLink) {
   EXPECT_EQ(
       Dump("stampaHTML_GEI A01.htm").toStdString(),
       Righe(kTesta +
-            QStringList{"<hr size=\"1\"/>", "<h2>Record: 1</h2>",
-                        QStringLiteral("<h3>L'attività “libera”</h3>"),
+            QStringList{"<hr size=\"1\"/>", "<h2>Record: 1</h2>", "<h3>L'attività “libera”</h3>",
                         Hudoc("CEDU 1", "Rossi and Bianchi and others "), "<hr size=\"1\"/>",
                         "<h2>Record: 4</h2>", "<h3>Nessun settore</h3>",
                         Hudoc("CEDU 1", "Rossi and Bianchi and others "), Hudoc("CEDU 2", "")} +
