@@ -58,7 +58,7 @@ TEST_F(RigheGuaste, IlGuastoNominaFileERigaENullaAppare) {
     const QByteArray sano = Byte(Dati(caso.file));
     ScriviByte(Dati(caso.file), caso.contenuto);
     const QString errore = ErroreDi([&] { CreaMaster(cartella.Mdb("m.mdb"), Dati()); });
-    EXPECT_TRUE(errore.startsWith(QString::number(caso.numero)) &&
+    EXPECT_TRUE(errore.startsWith(QString::number(caso.numero) + ' ') &&
                 errore.endsWith(caso.descrizione))
         << errore.toStdString();
     EXPECT_TRUE(QDir(cartella.Mdb({})).entryList(QDir::Files).isEmpty()) << caso.descrizione;

@@ -42,7 +42,7 @@ TEST(DatabaseTest, CioCheNonSiApreHaIlSuoNumeroENomeERestaComEra) {
     const QFileInfo prima(percorso);
     const qint64 lunga = prima.size();
     const QString errore = ErroreDi([&] { (void)OpenDatabase(percorso); });
-    EXPECT_TRUE(errore.startsWith(QString::number(caso.numero)) && errore.contains(percorso))
+    EXPECT_TRUE(errore.startsWith(QString::number(caso.numero) + ' ') && errore.contains(percorso))
         << errore.toStdString();
     EXPECT_EQ(lunga, QFileInfo(percorso).size()) << caso.nome;
   }
