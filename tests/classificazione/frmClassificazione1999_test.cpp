@@ -5,7 +5,7 @@
 #include "classificazione/righe_classe.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
-#include "comune/finestre.h"
+#include "comune/tastiera.h"
 
 namespace torvi {
 namespace {
@@ -24,10 +24,6 @@ class Forma1999 : public testing::Test {
     if (!stato.NuovaClasse) forma->PreparaClasseDaModificare();
     forma->show();
     QApplication::setActiveWindow(forma.get());
-  }
-  void Premi(Qt::Key tasto) const {
-    QTest::keyClick(forma->focusWidget(), tasto);
-    QCoreApplication::processEvents();
   }
   // Code, description and parent.
   [[nodiscard]] QString Mostra() const {
@@ -48,14 +44,11 @@ TEST_F(Forma1999, AddsACodeByKeysAlone) {
   Apri();
   EXPECT_EQ(Scritte(*forma),
             "Classifcazione ante 2000|Codice||Figlio di:||&Esci e salva|&Abbandona");
-  QTest::keyClicks(forma->focusWidget(), "A12");
-  Premi(Qt::Key_Return);
+  Batti("A12{Return}");
   EXPECT_EQ(Mostra(), "A12|figlia|A1 - radice");
-  Premi(Qt::Key_Backtab);
-  QTest::keyClicks(forma->focusWidget(), "A1");
-  Premi(Qt::Key_Return);
+  Batti("{Shift+Tab}A1{Return}");
   EXPECT_EQ(Mostra(), "A1|radice|");
-  Premi(Qt::Key_Return);
+  Batti("{Return}");
   EXPECT_EQ(forma->result(), QDialog::Accepted);
   EXPECT_EQ(Lista(), "0 - A1; ");
 }
@@ -74,18 +67,17 @@ TEST_F(Forma1999, ChangesARowAndTakesItsMarkAway) {
 
 TEST_F(Forma1999, KeepsTheOperatorAtAWrongCodeButLetsHimGo) {
   Apri();
-  QTest::keyClicks(forma->focusWidget(), "B\"2'");
-  Premi(Qt::Key_Tab);
+  Batti("B\"2'{Tab}");
   Clic(*forma, "cmdEsci");
   QCoreApplication::processEvents();
   EXPECT_EQ(dialoghi.Messaggi(), QStringList(2, "Codice errato!"));
   EXPECT_EQ(dialoghi.Parole().last().titolo, "Attenzione!");
   EXPECT_EQ(forma->focusWidget()->objectName(), "txtCodice");
-  Premi(Qt::Key_Escape);
+  Batti("{Esc}");
   EXPECT_EQ(forma->result(), QDialog::Rejected);
   EXPECT_FALSE(forma->isVisible());
   Apri();
-  QTest::keyClicks(forma->focusWidget(), "B");
+  Batti("B");
   Clic(*forma, "cmdAbbandona");
   QCoreApplication::processEvents();
   EXPECT_FALSE(forma->isVisible());

@@ -8,7 +8,7 @@
 #include "classificazione/righe_classe.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
-#include "comune/finestre.h"
+#include "comune/tastiera.h"
 #include "shell/finestra_dialoghi.h"
 
 namespace torvi {
@@ -39,12 +39,6 @@ class FormaClassificazione : public testing::Test {
     forma->show();
     QApplication::setActiveWindow(forma.get());
     return *forma;
-  }
-  // In the control that has the focus.
-  void Scrivi(const char* testo) const { QTest::keyClicks(forma->focusWidget(), testo); }
-  void Premi(Qt::Key tasto, Qt::KeyboardModifiers con = Qt::NoModifier) const {
-    QTest::keyClick(forma->focusWidget(), tasto, con);
-    QCoreApplication::processEvents();
   }
   // Mnemonics press their button with a short delay; a click goes the same way at once.
   [[nodiscard]] std::string Salvato() const {
@@ -113,23 +107,17 @@ TEST_F(FormaClassificazione, ShowsItsWordsByTheMode) {
 
 TEST_F(FormaClassificazione, AddsDescriptorsByKeysAlone) {
   Apri();
-  Scrivi("S0001");
-  Premi(Qt::Key_Return);
+  Batti("S0001{Return}");
   EXPECT_EQ(Etichetta("LabelS"), "DC - diritto civile");
   for (const char* codice : {"D0002", "D0001", "D0001"}) {
-    Scrivi(codice);
-    Premi(Qt::Key_Return);
+    Batti(codice + QString("{Return}"));
     EXPECT_EQ(Testo("txtDescrittore"), "");
   }
-  Premi(Qt::Key_Return);  // an empty field adds nothing
+  Batti("{Return}");  // an empty field adds nothing
   EXPECT_EQ(Lista("lstDescrittore").join('|'), "D0002 --> voce|D0001 --> voce|D0001 --> voce");
-  Premi(Qt::Key_Tab);
-  Premi(Qt::Key_Tab);
+  Batti("{Tab}{Tab}");
   EXPECT_EQ(Fuoco(), "lstDescrittore");
-  Premi(Qt::Key_Space);
-  Premi(Qt::Key_Tab);
-  Premi(Qt::Key_Space);  // the selected one goes, and no other
-  Premi(Qt::Key_Space);
+  Batti("{Space}{Tab}{Space}{Space}");  // the selected one goes, and no other
   EXPECT_EQ(Lista("lstDescrittore").join('|'), "D0001 --> voce|D0001 --> voce");
   EXPECT_EQ(Salvato(), "0 - S0001; D0001|0 - S0001; D0001");
 }
@@ -146,13 +134,13 @@ TEST_F(FormaClassificazione, RefusesAnUnknownDescriptor) {
 
 TEST_F(FormaClassificazione, TakesATermFromTheList) {
   Apri();
-  Scrivi("S0001");
+  Batti("S0001");
   auto& lista = Trova<QListWidget>(*forma, "lstAsteriscato");
   QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
                     lista.visualItemRect(lista.item(0)).center());
   EXPECT_EQ(Testo("txtAsteriscato"), "*a");
   lista.setFocus();
-  Premi(Qt::Key_Down);
+  Batti("{Down}");
   EXPECT_EQ(Testo("txtAsteriscato"), "*b");
   EXPECT_EQ(Salvato(), "2 - S0001; *b");
 }
@@ -173,7 +161,7 @@ TEST_F(FormaClassificazione, FillsItselfForAChange) {
   EXPECT_EQ(etichetta.text(), "voce");
   campo.setText("X");
   campo.setFocus();
-  Premi(Qt::Key_Return);  // as the button of new rows: silent
+  Batti("{Return}");  // as the button of new rows: silent
   EXPECT_EQ(Testo("txtDescrittore"), "X");
   EXPECT_TRUE(dialoghi.Messaggi().isEmpty());
   QTest::mouseClick(&etichetta, Qt::LeftButton);
@@ -188,8 +176,7 @@ TEST_F(FormaClassificazione, FillsItselfForAChange) {
 
 TEST_F(FormaClassificazione, KeepsTheOperatorAtAWrongSystematicCode) {
   Apri();
-  Scrivi("X");
-  Premi(Qt::Key_Tab);
+  Batti("X{Tab}");
   EXPECT_EQ(dialoghi.Messaggi(), QStringList(kSistematicoErrato));
   EXPECT_EQ(dialoghi.Parole().last().titolo, "Attenzione!");
   EXPECT_EQ(Fuoco() + Testo("txtSistematico"), "txtSistematicoX");
@@ -205,11 +192,11 @@ TEST_F(FormaClassificazione, KeepsTheOperatorAtAWrongSystematicCode) {
 }
 
 TEST_F(FormaClassificazione, ClosesOverAWrongCodeWithoutAWord) {
-  for (const auto& chiudi : std::vector<std::function<void()>>{
-           [this] { Clic(*forma, "cmdAbbandona"); }, [this] { Premi(Qt::Key_Escape); },
-           [this] { forma->close(); }}) {
+  for (const auto& chiudi :
+       std::vector<std::function<void()>>{[this] { Clic(*forma, "cmdAbbandona"); },
+                                          [] { Batti("{Esc}"); }, [this] { forma->close(); }}) {
     Apri();
-    Scrivi("X");
+    Batti("X");
     chiudi();
     QCoreApplication::processEvents();
     EXPECT_FALSE(forma->isVisible());

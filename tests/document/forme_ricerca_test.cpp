@@ -4,7 +4,7 @@
 #include <QMainWindow>
 #include <QRadioButton>
 
-#include "comune/finestre.h"
+#include "comune/tastiera.h"
 #include "document/archivio_di_prova.h"
 #include "document/frmRicerca.h"
 #include "document/frmSceltaDoc.h"
@@ -18,10 +18,6 @@ class FormeRicerca : public testing::Test {
   FormeRicerca() {
     for (int i = 0; i < 2; ++i) prova.Metti("TabDocumento", {{"IDRifBibl", 1}});
     finestra.show();
-  }
-  static void Tasti(QWidget& forma, std::initializer_list<Qt::Key> tasti,
-                    Qt::KeyboardModifiers con = Qt::NoModifier) {
-    for (const Qt::Key tasto : tasti) QTest::keyClick(forma.focusWidget(), tasto, con);
   }
   bool Sceglie(const Passo& uso) {
     bool scelto = false;
@@ -47,12 +43,12 @@ TEST_F(FormeRicerca, ChoosesADocumentByKeysAlone) {
   EXPECT_TRUE(Sceglie([this](QWidget& modale) {
     EXPECT_EQ(stato.IDDocumentoScelto, "1");
     EXPECT_FALSE(Trova<QPushButton>(modale, "cmdCancella").isEnabled());
-    Tasti(modale, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+    Batti("{Down}{Down}{Return}");
   }));
   EXPECT_EQ(stato.IDDocumentoScelto, "3");
   EXPECT_FALSE(stato.ModoRicerca || stato.DocumentoNuovo);
   EXPECT_EQ(stato.TestoTraduzione, "");
-  EXPECT_FALSE(Sceglie([](QWidget& modale) { Tasti(modale, {Qt::Key_Escape}); }));
+  EXPECT_FALSE(Sceglie([](QWidget&) { Batti("{Esc}"); }));
   EXPECT_TRUE(Sceglie([](QWidget& modale) { Clic(modale, "cmdEdita"); }));
   EXPECT_EQ(stato.IDDocumentoScelto, "1");
 }
@@ -65,9 +61,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   const QPointer<frmSceltaDoc> forma = forme.first();
   EXPECT_FALSE(forma->isModal());
   QApplication::setActiveWindow(forma);
-  Tasti(*forma, {Qt::Key_Down});
-  Tasti(*forma, {Qt::Key_Down}, Qt::ShiftModifier);
-  Tasti(*forma, {Qt::Key_Return});  // nothing to edit in this mode
+  Batti("{Down}{Shift+Down}{Return}");  // nothing to edit in this mode
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
@@ -77,7 +71,7 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   Clic(*forma, "cmdCancella");
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Nessuna selezione effettuata");
   Trova<QListWidget>(*forma, "lstDocumento").setFocus();
-  Tasti(*forma, {Qt::Key_A}, Qt::ControlModifier);
+  Batti("{Ctrl+A}");
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
@@ -115,17 +109,13 @@ TEST_F(FormeRicerca, SearchesByKeysAlone) {
   const int esito = Cerca([this](QWidget& modale) {
     EXPECT_TRUE(stato.SqlRicerca.isEmpty() && stato.ListaRicerca.empty());
     auto& interroga = Trova<QPushButton>(modale, "cmdInterroga");
-    QTest::keyClicks(modale.focusWidget(), "t");  // the one field that begins so
+    Batti("t");  // the one field that begins so
     EXPECT_EQ(Trova<QComboBox>(modale, "ComboCampo").currentText(), "Titolo");
-    Tasti(modale, {Qt::Key_Return});
-    QTest::keyClicks(modale.focusWidget(), "d'altro");
-    Tasti(modale, {Qt::Key_Enter});
+    Batti("{Return}d'altro{Enter}");
     EXPECT_EQ(prova.dialoghi.UltimoMessaggio(),
               "Non esistono record che soddisfano la ricerca impostata");
     EXPECT_FALSE(interroga.isEnabled());
-    Tasti(modale, {Qt::Key_A}, Qt::ControlModifier);
-    QTest::keyClicks(modale.focusWidget(), "TESTO 0");
-    Tasti(modale, {Qt::Key_Enter});
+    Batti("{Ctrl+A}TESTO 0{Enter}");
     EXPECT_EQ(Linee(Trova<QListWidget>(modale, "lstRisultato")).join('|'), "1 --> 2001A0012 ?");
     QTest::keyClick(&modale, Qt::Key_I, Qt::AltModifier);
   });

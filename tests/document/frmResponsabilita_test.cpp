@@ -8,17 +8,12 @@
 
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
-#include "comune/finestre.h"
+#include "comune/tastiera.h"
 
 namespace torvi {
 namespace {
 
 const RigaResponsabilita kRossi = {7, "Rossi", "Mario", false, false, true};
-
-// The keys of an operator, each to the control that has the focus.
-void Tasti(QWidget& forma, std::initializer_list<Qt::Key> tasti) {
-  for (const Qt::Key tasto : tasti) QTest::keyClick(forma.focusWidget(), tasto);
-}
 
 class FormaResponsabilita : public testing::Test {
  protected:
@@ -35,11 +30,8 @@ class FormaResponsabilita : public testing::Test {
 };
 
 TEST_F(FormaResponsabilita, AddsAPersonByKeysAlone) {
-  const int esito = Apre(-1, [](frmResponsabilita& forma) {
-    QTest::keyClicks(forma.focusWidget(), " D'Amico ");
-    Tasti(forma, {Qt::Key_Return});
-    QTest::keyClicks(forma.focusWidget(), "Zoe \"Z\"");
-    Tasti(forma, {Qt::Key_Enter, Qt::Key_Right, Qt::Key_Return, Qt::Key_Return});
+  const int esito = Apre(-1, [](frmResponsabilita&) {
+    Batti(" D'Amico {Return}Zoe \"Z\"{Enter}{Right}{Return}{Return}");
   });
   EXPECT_EQ(esito, QDialog::Accepted);
   ASSERT_EQ(stato.RigheResponsabilita.size(), 1U);
@@ -65,10 +57,7 @@ TEST_F(FormaResponsabilita, ChangesItsRowAndKeepsKeyAndMarks) {
 
 TEST_F(FormaResponsabilita, LeavesTheRowAlone) {
   stato.RigheResponsabilita = {kRossi};
-  const int esito = Apre(0, [](frmResponsabilita& forma) {
-    QTest::keyClicks(forma.focusWidget(), "altro");
-    Tasti(forma, {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space});
-  });
+  const int esito = Apre(0, [](frmResponsabilita&) { Batti("altro{Tab}{Tab}{Tab}{Tab}{Space}"); });
   EXPECT_EQ(esito, QDialog::Rejected);
   EXPECT_EQ(stato.RigheResponsabilita, std::vector{kRossi});
 }

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QDesktopServices>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -12,7 +10,7 @@
 
 #include "archive/schema.h"
 #include "comune/cartella_di_prova.h"
-#include "comune/finestre.h"
+#include "comune/tastiera.h"
 #include "comune/tavole.h"
 #include "shell/avvio.h"
 
@@ -60,6 +58,10 @@ class Finestra : public testing::Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
   }
 
+  void ApriConsegna() {
+    stato = cartella.StatoConConsegna();
+    finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  }
   void Scegli(const char* voce, std::deque<Passo> passi = {}) const {
     Operatore::Esegue([&] { Trova<QAction>(*finestra, voce).trigger(); }, std::move(passi));
     if (!finestra->isVisible()) return;
@@ -106,8 +108,7 @@ TEST_F(Finestra, FollowsTheArchiveWithItsMenus) {
 
 // Leaving the document enables its menus, whatever became of the archive.
 TEST_F(Finestra, ClosesTheArchiveUnderADocument) {
-  stato = cartella.StatoConConsegna();
-  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  ApriConsegna();
   Scegli("mnuAggiornamentoNuovo");
   Scegli("mnuFileChiudi");
   EXPECT_EQ(Abilitati(*finestra), "AN------");
@@ -127,29 +128,15 @@ TEST_F(Finestra, CancelledOpeningIsToldAndChangesNothing) {
 }
 
 TEST_F(Finestra, CanBeDrivenByKeysAlone) {
-  Operatore::Esegue(
-      [&] {
-        QTest::keyClick(finestra.get(), Qt::Key_F, Qt::AltModifier);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_E);
-      },
-      {Riquadro(kEsci, Qt::Key_Escape)});
+  Operatore::Esegue([] { Batti("{Alt+F}e"); }, {Riquadro(kEsci, Qt::Key_Escape)});
 }
 
 TEST_F(Finestra, MakesADeliveryAndLeavesItClosed) {
   CreaDatabase(cartella.Mdb("master.mdb"), SchemaArchivio());
-  const auto compila = [](QWidget& modale) {
-    EXPECT_EQ(modale.windowTitle(), "Informazione consegna");
-    for (const auto& [tasti, avanti] :
-         {std::pair{"j", true}, {"2", true}, {"b01", true}, {"7", false}}) {
-      QTest::keyClicks(QApplication::focusWidget(), tasti);
-      if (avanti) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  };
   Scegli("mnuFileNuovo", {ScriveFile("b01"),
                           Riquadro("Nuovo archivio|" + cartella.Mdb("b01.mdb") +
                                    "\nIl file non esiste. Crearlo?|Sì|No"),
-                          compila});
+                          Forma("Informazione consegna", "j{Tab}2{Tab}b01{Tab}7{Return}")});
   EXPECT_EQ(Abilitati(*finestra), "A------U");
   EXPECT_EQ(finestra->windowTitle(), "Editore Torvi");
   EXPECT_EQ(RigheTesto(OpenDatabase(cartella.Mdb("B01.MDB")), "TabInfo",
@@ -169,8 +156,7 @@ TEST_F(Finestra, AsksBeforeItEnds) {
 }
 
 TEST_F(Finestra, ShowsWhatNoTrapTakesAndGoesOn) {
-  stato = cartella.StatoConConsegna();
-  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  ApriConsegna();
   stato.DbArchivio.Execute("delete * from TabInfo");
   Scegli("mnuFormatoASCIIIsis",
          {Riquadro("TorviEditor|Errore di run-time '3021': Nessun record corrente: TabInfo è vuota "
@@ -186,8 +172,7 @@ TEST_F(Finestra, ExportsFromTheMenu) {
     const char* voce;
     const char* file;
   };
-  stato = cartella.StatoConConsegna();
-  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  ApriConsegna();
   for (const Caso& caso : {Caso{"mnuFormatoASCIIIsis", "lexxdump isis.A01"},
                            Caso{"mnuFormatoASCIICassazione", "lexxdump cassazione.A01"},
                            Caso{"mnuFormatoASCIIStorico", "lexxdump storico.A01"}}) {
@@ -233,8 +218,7 @@ TEST_F(Finestra, PrintsFromTheMenuAndOffersTheFile) {
   for (const char* nome : {"/testata new.rtf", "/testata prospetto.rtf"}) {
     ScriviByte(cartella.Percorso() + nome, "{");
   }
-  stato = cartella.StatoConConsegna();
-  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  ApriConsegna();
   const auto& offerta = Trova<QWidget>(*finestra, "offertaFile");
   EXPECT_FALSE(offerta.isVisible());
   for (const Caso& caso : kCasi) {
@@ -277,8 +261,7 @@ TEST_F(Finestra, ShowsEachErrorFile) {
     const char* file;
     const char* testo;
   };
-  stato = cartella.StatoConConsegna();
-  finestra->ImpostaFase(FaseMenu::ArchivioAperto);
+  ApriConsegna();
   for (const Caso& caso :
        {Caso{"mnuFileErroriGenerici", "errori.A01", "Errori generici\n\nx\n\n"},
         Caso{"mnuFileErroriClasse", "errClasse.A01", "Errori di classificazione\n\nx\n\n"},
