@@ -30,7 +30,7 @@ class LottoDiConsegne : public ConsegnaFonti {
     ScriviByte(lista, sigle);
     stato.FileBatch = "di prima";
     dialoghi.AttendeFileUscita(lista, [this] { EXPECT_EQ(stato.FileBatch, ""); });
-    const EsitoLotto esito = EseguiLotto(stato, dialoghi, lotto, alGuasto);
+    EsitoLotto esito = EseguiLotto(stato, dialoghi, lotto, alGuasto);
     EXPECT_EQ(dialoghi.UltimaUscita().join('|'), cartella.Percorso() + "/mdb|sigle.*|");
     EXPECT_TRUE(stato.ModoBatch);
     return esito;
