@@ -85,6 +85,7 @@ class Connessione : public std::enable_shared_from_this<Connessione> {
 
   void IniziaUnita();
   void ConcludiUnita();
+  [[nodiscard]] bool InUnita() const { return unita_ > 0; }
   void Chiudi();
   [[nodiscard]] bool Chiusa() const { return motore_ == nullptr; }
   void RichiediAperta() const;  // error 3420

@@ -149,6 +149,8 @@ void Database::Close() { Connessa().Chiudi(); }
 
 bool Database::Aperto() const { return connessione_ != nullptr && !connessione_->Chiusa(); }
 
+bool Database::InUnita() const { return Connessa().InUnita(); }
+
 QString Database::Name() const {
   return connessione_ == nullptr ? QString() : connessione_->Percorso();
 }

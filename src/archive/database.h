@@ -45,6 +45,8 @@ class Database {
   void Close();
 
   [[nodiscard]] bool Aperto() const;
+  // Something is being written that other connections do not see yet.
+  [[nodiscard]] bool InUnita() const;
   // The path that OpenDatabase was given.
   [[nodiscard]] QString Name() const;
   // Names of the tables, in the order of their making; and a table's columns.

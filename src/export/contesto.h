@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "export/file_testo.h"
+#include "export/fonti_in_anticipo.h"
 #include "export/legami_in_ordine.h"
 #include "export/record.h"
 #include "export/tabelle_condivise.h"
@@ -21,6 +22,7 @@ struct ContestoEsportazione {
   FileTesto& fileErrFonte;
   CatalogoNorme& catalogo;
   TabelleCondivise& condivise;
+  FontiInAnticipo& fonti;
   QString CodiciClasse = {};  // classification of the current document
   LegamiDocumento legami{stato.DbArchivio};
 };

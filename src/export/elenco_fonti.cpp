@@ -62,7 +62,7 @@ QString Elemento(const Citazione& citazione) {
 
 }  // namespace
 
-void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<FonteLetta>& fonti,
+void ScriviElencoFonti(ContestoEsportazione& contesto, std::span<const FonteLetta> fonti,
                        const QString& idRecord) {
   if (fonti.empty()) {
     if (contesto.stato.ControlloFonti) {

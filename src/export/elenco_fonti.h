@@ -10,7 +10,7 @@ namespace torvi {
 // a check goes to the source error file and stays in the list; a document without sources, where
 // they are required, goes to the generic one. A later source without `numero` (Null): error 94; see
 // also VerificaCatalogo.
-void ScriviElencoFonti(ContestoEsportazione& contesto, const std::vector<FonteLetta>& fonti,
+void ScriviElencoFonti(ContestoEsportazione& contesto, std::span<const FonteLetta> fonti,
                        const QString& idRecord);
 
 }  // namespace torvi

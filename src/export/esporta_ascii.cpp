@@ -45,9 +45,9 @@ class FileEsportazione {
 
   [[nodiscard]] FileTesto& Uscita() { return uscita_; }
   [[nodiscard]] ContestoEsportazione Contesto(StatoGlobale& stato, Record& record,
-                                              CatalogoNorme& catalogo,
-                                              TabelleCondivise& condivise) {
-    return {stato, record, errori_, errClasse_, errFonte_, catalogo, condivise};
+                                              CatalogoNorme& catalogo, TabelleCondivise& condivise,
+                                              FontiInAnticipo& fonti) {
+    return {stato, record, errori_, errClasse_, errFonte_, catalogo, condivise, fonti};
   }
 
   // The empty lines stand for a run that came to its end, so all it found must be on disk first.
@@ -105,18 +105,19 @@ QStringList FileErroriAccodati(const StatoGlobale& stato) {
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag) {
   CatalogoNorme catalogo(stato.CartellaApplicazione);
   TabelleCondivise condivise(stato.DbArchivio);
-  EsportaAscii(stato, dialoghi, flag, catalogo, condivise);
+  FontiInAnticipo fonti(stato.DbArchivio);
+  EsportaAscii(stato, dialoghi, flag, catalogo, condivise, fonti);
 }
 
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag,
-                  CatalogoNorme& catalogo, TabelleCondivise& condivise) {
+                  CatalogoNorme& catalogo, TabelleCondivise& condivise, FontiInAnticipo& fonti) {
   Clessidra clessidra(dialoghi);
   LeggiInfoConsegna(stato);
   const Destinazione destinazione =
       stato.ModoBatch ? Accodata(stato) : ChiediDestinazione(stato, dialoghi, flag);
   FileEsportazione file(stato, destinazione);
   Record record;
-  ContestoEsportazione contesto = file.Contesto(stato, record, catalogo, condivise);
+  ContestoEsportazione contesto = file.Contesto(stato, record, catalogo, condivise, fonti);
   const int fatti = GiraDocumenti(
       stato, dialoghi, QStringLiteral("Esportazione"), QStringLiteral("from tabDocumento"),
       [&](const Recordset& riga) { EsportaDocumento(contesto, flag, riga, file.Uscita()); });

@@ -9,6 +9,7 @@
 namespace torvi {
 
 class CatalogoNorme;
+class FontiInAnticipo;
 struct TabelleCondivise;
 
 // What a flavour writes follows from these alone.
@@ -30,10 +31,10 @@ inline constexpr FlagEsportazione kEsportaStorico{false, true, false};
 // (3021), Null where text is needed (94), a row that a document refers to and that is not there
 // (3021), a counter past 32767 (6), 245 or 1000 characters without a blank (5).
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag);
-// The same with a catalogue that several runs share, and with tables of `DbArchivio` that may have
-// been read ahead.
+// The same with a catalogue that several runs share, and with what may have been read of
+// `DbArchivio` before.
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag,
-                  CatalogoNorme& catalogo, TabelleCondivise& condivise);
+                  CatalogoNorme& catalogo, TabelleCondivise& condivise, FontiInAnticipo& fonti);
 // The error files that a run which appends to `FileBatch` appends to as well.
 [[nodiscard]] QStringList FileErroriAccodati(const StatoGlobale& stato);
 

@@ -2,7 +2,7 @@
 
 #include "export/classi.h"
 #include "export/elenco_fonti.h"
-#include "export/fonti_documento.h"
+#include "export/fonti_in_anticipo.h"
 #include "export/fonti_etichettate.h"
 #include "export/riferimento.h"
 #include "export/testi.h"
@@ -122,7 +122,7 @@ void Documento::Testi() {
 }
 
 void Documento::Fonti() {
-  const std::vector<FonteLetta> fonti = FontiDocumento(contesto_.legami.fonti, idDoc_);
+  const std::span<const FonteLetta> fonti = contesto_.fonti.Leggi(idDoc_);
   ScriviElencoFonti(contesto_, fonti, idRecord_);
   if (flag_.flagIsis) ScriviFontiEtichettate(contesto_, fonti);
 }

@@ -196,7 +196,7 @@ void CampoEtichettato::AggiungiFonte(const FonteLetta& fonte) {
 
 }  // namespace
 
-void ScriviFontiEtichettate(ContestoEsportazione& contesto, const std::vector<FonteLetta>& fonti) {
+void ScriviFontiEtichettate(ContestoEsportazione& contesto, std::span<const FonteLetta> fonti) {
   if (fonti.empty()) return;
   CampoEtichettato campo(contesto);
   for (const FonteLetta& fonte : fonti) campo.AggiungiFonte(fonte);

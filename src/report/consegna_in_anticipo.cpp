@@ -13,12 +13,13 @@ std::unique_ptr<ConsegnaPronta> Leggi(const QString& percorso) {
   try {
     const QString trovato = TrovaPercorso(percorso);
     if (EFileJet(trovato)) return nullptr;
-    auto pronta = std::make_unique<ConsegnaPronta>(OpenDatabase(trovato));
-    RichiediArchivio(pronta->archivio);
     StatoGlobale suo;
-    suo.DbArchivio = pronta->archivio;
+    suo.DbArchivio = OpenDatabase(trovato);
+    RichiediArchivio(suo.DbArchivio);
     LeggiInfoConsegna(suo);
-    pronta->tabelle.LeggiTutte(suo.PrefissoDoc.left(4));
+    auto pronta = std::make_unique<ConsegnaPronta>(suo.DbArchivio);
+    pronta->fonti.Comincia();
+    pronta->condivise.LeggiTutte(suo.PrefissoDoc.left(4));
     return pronta;
   } catch (const ErroreEsecuzione&) {
     return nullptr;

@@ -7,15 +7,18 @@
 #include <future>
 #include <memory>
 
+#include "export/fonti_in_anticipo.h"
 #include "export/tabelle_condivise.h"
 
 namespace torvi {
 
 // An open archive that holds all tables of a delivery, and what was read from it.
 struct ConsegnaPronta {
-  explicit ConsegnaPronta(const Database& aperto) : archivio(aperto), tabelle(aperto) {}
+  explicit ConsegnaPronta(const Database& aperto)
+      : archivio(aperto), condivise(aperto), fonti(aperto) {}
   Database archivio;
-  TabelleCondivise tabelle;
+  TabelleCondivise condivise;
+  FontiInAnticipo fonti;
 };
 
 class ConsegnaInAnticipo {

@@ -144,9 +144,10 @@ class Giro {
   }
 
   void Esporta(ConsegnaPronta* pronta) {
-    std::optional<TabelleCondivise> sue;
-    TabelleCondivise& condivise = pronta ? pronta->tabelle : sue.emplace(stato_.DbArchivio);
-    EsportaAscii(stato_, dialoghi_, *voce_.esportazione, catalogo_, condivise);
+    std::optional<ConsegnaPronta> sua;
+    ConsegnaPronta& consegna = pronta ? *pronta : sua.emplace(stato_.DbArchivio);
+    EsportaAscii(stato_, dialoghi_, *voce_.esportazione, catalogo_, consegna.condivise,
+                 consegna.fonti);
   }
 
   void ChiudiConteggio(qsizetype consegne) {

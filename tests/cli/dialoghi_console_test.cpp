@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <array>
@@ -61,12 +62,19 @@ class Terminale {
     dup2(errori_, STDERR_FILENO);
     for (const int uno : {errori_, capo_, schermo_}) close(uno);
   }
-  [[nodiscard]] std::string Scritto() const {
-    std::array<char, 1000> byte = {};
-    return {byte.data(), static_cast<std::size_t>(read(capo_, byte.data(), byte.size()))};
+  // What is written reaches the other end a moment later, and perhaps not at once.
+  void Mostra(const std::string& atteso) const {
+    std::string scritto;
+    pollfd capo = {capo_, POLLIN, 0};
+    while (scritto.size() < atteso.size() && poll(&capo, 1, kAttesaMs) == 1) {
+      std::array<char, 1000> byte = {};
+      scritto.append(byte.data(), static_cast<std::size_t>(read(capo_, byte.data(), byte.size())));
+    }
+    EXPECT_EQ(scritto, atteso);
   }
 
  private:
+  static constexpr int kAttesaMs = 5000;
   int errori_;
   int capo_;
   int schermo_ = -1;
@@ -79,11 +87,11 @@ TEST(DialoghiConsole, ShowsHowFarARunHasComeOnATerminal) {
   const Terminale terminale;
   dialoghi.Ambito("B01 (2 di 3): ");
   dialoghi.Avanzamento("Note", 100, 250);
-  EXPECT_EQ(terminale.Scritto(), "\rB01 (2 di 3): Note: 100 di 250");
+  terminale.Mostra("\rB01 (2 di 3): Note: 100 di 250");
   dialoghi.Avanzamento("Note", 5, 0);  // over the longer line
-  EXPECT_EQ(terminale.Scritto(), "\rB01 (2 di 3): Note: 5         ");
+  terminale.Mostra("\rB01 (2 di 3): Note: 5         ");
   dialoghi.Messaggio("Fine");
-  EXPECT_EQ(terminale.Scritto(), "\r                     \rFine\r\n");
+  terminale.Mostra("\r                     \rFine\r\n");
 }
 
 }  // namespace

@@ -105,6 +105,11 @@ qint64 DocumentiDiProva::Esempio() const {
   return idDoc;
 }
 
+StatoGlobale& DocumentiDiProva::StatoScritto() {
+  unita_.reset();
+  return stato;
+}
+
 Scritto DocumentiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
   return torvi::Scrivi(cartella, stato, scrittore);
 }

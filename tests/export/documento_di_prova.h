@@ -29,13 +29,16 @@ class DocumentiDiProva {
   // every check. Once for each delivery.
   qint64 Esempio() const;
 
+  // The state for a whole run, which sees only what is written.
+  [[nodiscard]] StatoGlobale& StatoScritto();
   // Runs one field writer as the driver would.
   [[nodiscard]] Scritto Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
   // A file of dump/, or nothing where it is not there.
   [[nodiscard]] std::string Dump(const char* nome) const;
 
  private:
-  UnitaDiScrittura unita_{stato.DbArchivio};  // one write for all rows of a test
+  // One write for all rows of a test.
+  std::optional<UnitaDiScrittura> unita_{std::in_place, stato.DbArchivio};
 };
 
 }  // namespace torvi

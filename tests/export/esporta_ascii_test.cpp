@@ -69,7 +69,7 @@ TEST(EsportaAscii, TheExampleComesOutToTheByteInThreeFlavours) {
   prova.Esempio();
   for (const Caso& caso : kCasi) {
     SCOPED_TRACE(caso.file);
-    EsportaDaMenu(prova.stato, caso.flag);
+    EsportaDaMenu(prova.StatoScritto(), caso.flag);
     EXPECT_EQ(prova.Dump(caso.file), caso.atteso);
     for (const char* errori : {"errori.A01", "errClasse.A01", "errFonte.A01"}) {
       EXPECT_EQ(prova.Dump(errori), "\r\n") << errori;
@@ -95,10 +95,10 @@ TEST(EsportaAscii, ADocumentWithoutDateKeepsTheSchemeOfTheOneBefore) {
   for (const qint64 riferimento : {senza, nuovo, senza, vecchio, senza}) {
     prova.Documento({{"IDRifBibl", riferimento}});
   }
-  EsportaDaMenu(prova.stato, kEsportaStorico);
+  EsportaDaMenu(prova.StatoScritto(), kEsportaStorico);
   EXPECT_EQ(Campi(prova, "lexxdump storico.A01", "23"), "23\n23\n");
   prova.stato.Dopo2000 = true;
-  EsportaDaMenu(prova.stato, kEsportaStorico);
+  EsportaDaMenu(prova.StatoScritto(), kEsportaStorico);
   EXPECT_EQ(Campi(prova, "lexxdump storico.A01", "23"), "23\n23\n23\n");
 }
 
@@ -107,7 +107,7 @@ TEST(EsportaAscii, DocumentsAreNumberedInTheirOrderAtEveryRun) {
   prova.Riferimento();
   for (const int idDoc : {7, 30, 5}) prova.Documento({{"IDDocumento", idDoc}});
   for (int giro = 0; giro < 2; ++giro) {
-    EsportaDaMenu(prova.stato, kEsportaStorico);
+    EsportaDaMenu(prova.StatoScritto(), kEsportaStorico);
     EXPECT_EQ(Campi(prova, "lexxdump storico.A01", " 2"),
               " 2AP=2001 NP=A9998\n 2AP=2001 NP=A9999\n 2AP=2001 NP=A10000\n");
     EXPECT_EQ(Campi(prova, "errori.A01", "Manca classificazione"),
@@ -131,7 +131,7 @@ TEST(EsportaAscii, TheTypeOfTheDocumentChoosesTheTagOfTheNote) {
     prova.Testo(prova.Documento({{"td", caso.td}}), "4", "NOTA");
     if (*caso.campo != '\0') attesi += std::string(caso.campo) + "NOTA\r\n";
   }
-  EsportaDaMenu(prova.stato, kEsportaCassazione);
+  EsportaDaMenu(prova.StatoScritto(), kEsportaCassazione);
   std::istringstream testo(prova.Dump("lexxdump cassazione.A01"));
   std::string campi;
   for (std::string riga; std::getline(testo, riga);) {
@@ -159,7 +159,7 @@ TEST(EsportaAscii, FindingsOfADocumentStandInTheOrderOfTheRun) {
   prova.Testo(secondo, "3", "[Titolo]");
   prova.Testo(secondo, "4", "Nota");
   prova.Testo(secondo, "8", "Abstract");
-  EsportaDaMenu(prova.stato, kEsportaCassazione, Risposta::Si);
+  EsportaDaMenu(prova.StatoScritto(), kEsportaCassazione, Risposta::Si);
   EXPECT_EQ(prova.Dump("errori.A01"),
             "Errore anno nel sottocampo DATA: 2001A0012\r\n"
             "Errore fascicolo mancante: 2001A0012\r\n"
@@ -195,7 +195,7 @@ TEST(EsportaAscii, FieldsStandInTheirOrder) {
   for (const char* tipo : {"8", "7", "6", "5", "3", "1"}) {
     prova.Testo(idDoc, tipo, "testo");
   }
-  EsportaDaMenu(prova.stato, kEsportaIsis);
+  EsportaDaMenu(prova.StatoScritto(), kEsportaIsis);
   std::istringstream testo(prova.Dump("lexxdump isis.A01"));
   std::string tag;
   for (std::string riga; std::getline(testo, riga);) tag += riga.substr(0, 2) + ",";
@@ -219,7 +219,7 @@ TEST(EsportaAscii, ARunFromTheMenuAsksMarksAndTells) {
     EXPECT_TRUE(dialoghi.InAttesa());
   });
   prova.stato.FileBatch = "vecchio";
-  EsportaAscii(prova.stato, dialoghi, kEsportaCassazione);
+  EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaCassazione);
   EXPECT_EQ(dialoghi.UltimaUscita(),
             QStringList({prova.cartella.Percorso() + "/Dump", "lexxdump*.*", "nuovo"}));
   EXPECT_FALSE(prova.stato.ControlloFonti);
@@ -240,7 +240,7 @@ TEST(EsportaAscii, ABatchAsksNothingAndAppends) {
   prova.stato.FileBatch = prova.cartella.Dump("lexxdump isis.b12");
   for (int giro = 0; giro < 2; ++giro) {
     DialoghiScritti dialoghi;
-    EsportaAscii(prova.stato, dialoghi, kEsportaIsis);
+    EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaIsis);
     EXPECT_EQ(dialoghi.Messaggi(), QStringList("Fine esportazione della consegna A01"));
   }
   EXPECT_EQ(Campi(prova, "lexxdump isis.b12", "2001"), "2001A0012\n2001A0012\n");
@@ -281,7 +281,7 @@ TEST(EsportaAscii, ARunThatFailsLeavesWholeRecords) {
     SCOPED_TRACE(std::string(caso.colonna) + " " + caso.valore.TestoOVuoto().toStdString());
     DocumentiDiProva prova;
     prova.Esempio();
-    EsportaDaMenu(prova.stato, kEsportaIsis);
+    EsportaDaMenu(prova.StatoScritto(), kEsportaIsis);
     const std::string intero = prova.Dump("lexxdump isis.A01");
     prova.Documento({{caso.colonna, caso.valore}});
     prova.Documento();
@@ -311,7 +311,7 @@ TEST(EsportaAscii, ARunThatCannotStartLeavesTheMarkerAndNoClosingLine) {
     DialoghiScritti dialoghi;
     Domande(dialoghi, Risposta::No, Risposta::Si);
     dialoghi.AttendeFileUscita({});
-    EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.stato, dialoghi, kEsportaIsis); }), 75);
+    EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaIsis); }), 75);
   }
   prova.stato.DbArchivio.Execute("update TabInfo set Storico = null");
   ASSERT_TRUE(QDir(prova.cartella.Percorso() + "/dump").removeRecursively());
@@ -325,7 +325,7 @@ TEST(EsportaAscii, AFullDiskClosesNoErrorFile) {
   prova.stato.ModoBatch = true;
   prova.stato.FileBatch = "/dev/full";
   DialoghiScritti dialoghi;
-  EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.stato, dialoghi, kEsportaIsis); }), 61);
+  EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaIsis); }), 61);
   EXPECT_TRUE(prova.Dump("errori.ull").ends_with("Manca classificazione: 2001A0012, record=1\r\n"));
   EXPECT_EQ(prova.Dump("errClasse.ull"), "Consegna A01\r\n");
 }

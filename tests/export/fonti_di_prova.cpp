@@ -1,7 +1,7 @@
 #include "export/fonti_di_prova.h"
 
 #include "export/elenco_fonti.h"
-#include "export/fonti_documento.h"
+#include "export/fonti_in_anticipo.h"
 #include "export/fonti_etichettate.h"
 #include "shell/consegna.h"
 
@@ -32,12 +32,15 @@ void FontiDiProva::NuovoCatalogo(const char* abbreviazione) const {
   CatalogoConUnAtto(cartella, abbreviazione);
 }
 
-std::vector<FonteLetta> FontiDiProva::Fonti(ContestoEsportazione& contesto) {
-  return FontiDocumento(contesto.legami.fonti, kDocumento);
+std::span<const FonteLetta> FontiDiProva::Fonti(ContestoEsportazione& contesto) {
+  return contesto.fonti.Leggi(kDocumento);
 }
 
 Scritto FontiDiProva::Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore) {
-  return torvi::Scrivi(cartella, stato, scrittore);
+  unita_.reset();
+  Scritto scritto = torvi::Scrivi(cartella, stato, scrittore);
+  unita_.emplace(stato.DbArchivio);
+  return scritto;
 }
 
 Scritto FontiDiProva::Elenco() {

@@ -25,12 +25,13 @@ class FontiDiProva {
   // A fresh run with its own files; errors of `scrittore` are caught.
   Scritto Scrivi(const std::function<void(ContestoEsportazione&)>& scrittore);
   // The sources of the document, as a run reads them.
-  [[nodiscard]] static std::vector<FonteLetta> Fonti(ContestoEsportazione& contesto);
+  [[nodiscard]] static std::span<const FonteLetta> Fonti(ContestoEsportazione& contesto);
   [[nodiscard]] Scritto Elenco();
   [[nodiscard]] Scritto Etichettate();
 
  private:
-  UnitaDiScrittura unita_{stato.DbArchivio};  // one write for all rows of a test
+  // One write for the rows between two runs: a run sees what is written.
+  std::optional<UnitaDiScrittura> unita_{std::in_place, stato.DbArchivio};
 };
 
 }  // namespace torvi

@@ -20,8 +20,9 @@ Scritto Scrivi(const CartellaDiProva& cartella, StatoGlobale& stato,
     FileTesto fileErrClasse(errClasse, Apertura::Scrittura);
     FileTesto fileErrFonte(errFonte, Apertura::Scrittura);
     TabelleCondivise condivise(stato.DbArchivio);
+    FontiInAnticipo fonti(stato.DbArchivio);
     ContestoEsportazione contesto = {stato,        record,   fileErrori, fileErrClasse,
-                                     fileErrFonte, catalogo, condivise};
+                                     fileErrFonte, catalogo, condivise,  fonti};
     scritto.errore = NumeroErrore([&] { scrittore(contesto); });
   }
   for (const Record::Riga& riga : record.RigheRecord()) {
