@@ -285,7 +285,7 @@ TEST(EsportaAscii, ARunThatFailsLeavesWholeRecords) {
     const std::string intero = prova.Dump("lexxdump isis.A01");
     prova.Documento({{caso.colonna, caso.valore}});
     prova.Documento();
-    const QString errore = Esporta(prova.stato, kEsportaIsis);
+    const QString errore = Esporta(prova.StatoScritto(), kEsportaIsis);
     EXPECT_TRUE(errore.startsWith(QString::number(caso.errore) + ' ') &&
                 errore.endsWith(" (documento 2, 2001A0013)"))
         << errore.toStdString();
@@ -298,24 +298,25 @@ TEST(EsportaAscii, ARunThatFailsLeavesWholeRecords) {
 TEST(EsportaAscii, TheNumberOfADocumentFitsSixteenBits) {
   DocumentiDiProva prova({.inizio = "32767"});
   prova.Documento({{"IDRifBibl", prova.Riferimento()}});
-  EXPECT_TRUE(Esporta(prova.stato, kEsportaIsis).startsWith("6 "));
+  EXPECT_TRUE(Esporta(prova.StatoScritto(), kEsportaIsis).startsWith("6 "));
   EXPECT_EQ(Campi(prova, "lexxdump isis.A01", "2001"), "2001A32767\n");
 }
 
 TEST(EsportaAscii, ARunThatCannotStartLeavesTheMarkerAndNoClosingLine) {
   DocumentiDiProva prova;
-  EXPECT_TRUE(Esporta(prova.stato, kEsportaIsis).startsWith("3021 "));
+  EXPECT_TRUE(Esporta(prova.StatoScritto(), kEsportaIsis).startsWith("3021 "));
   EXPECT_EQ(prova.Dump("errori.A01"), "");
   prova.Documento({{"IDRifBibl", prova.Riferimento()}});
   {
     DialoghiScritti dialoghi;
     Domande(dialoghi, Risposta::No, Risposta::Si);
     dialoghi.AttendeFileUscita({});
-    EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaIsis); }), 75);
+    EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaIsis); }),
+              75);
   }
   prova.stato.DbArchivio.Execute("update TabInfo set Storico = null");
   ASSERT_TRUE(QDir(prova.cartella.Percorso() + "/dump").removeRecursively());
-  EXPECT_TRUE(Esporta(prova.stato, kEsportaIsis).startsWith("76 "));
+  EXPECT_TRUE(Esporta(prova.StatoScritto(), kEsportaIsis).startsWith("76 "));
   EXPECT_EQ(prova.stato.DbArchivio.OpenRecordset("TabInfo").Fields("Storico").TestoOVuoto(), "1");
 }
 
