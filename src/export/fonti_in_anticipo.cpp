@@ -9,7 +9,7 @@ namespace {
 
 // Sources are handed over many at a time, and so many times ahead at the most.
 constexpr std::size_t kMazzo = 128;
-constexpr std::size_t kMazzi = 8;
+constexpr std::size_t kMazzi = 6;
 
 qint64 Documento(const FonteLetta& fonte) { return fonte[ColonnaFonte::IDDoc].Intero(); }
 
