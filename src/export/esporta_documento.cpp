@@ -2,8 +2,8 @@
 
 #include "export/classi.h"
 #include "export/elenco_fonti.h"
-#include "export/fonti_in_anticipo.h"
 #include "export/fonti_etichettate.h"
+#include "export/fonti_in_anticipo.h"
 #include "export/riferimento.h"
 #include "export/testi.h"
 #include "shell/consegna.h"
