@@ -1,8 +1,8 @@
 #include "export/fonti_di_prova.h"
 
 #include "export/elenco_fonti.h"
-#include "export/fonti_in_anticipo.h"
 #include "export/fonti_etichettate.h"
+#include "export/fonti_in_anticipo.h"
 #include "shell/consegna.h"
 
 namespace torvi {
