@@ -32,7 +32,7 @@ enum class Errore : int {
   DatabaseNonTrovato = 3024,
   SolaLettura = 3027,
   DatabaseInUso = 3045,
-  OperazioneNonAmmessa = 3251,  // Index or Seek on the rows of a statement
+  OperazioneNonAmmessa = 3251,  // Index or Seek on a statement; reading ahead of a unit
   PermessoNegato = 3051,
   ParametriInsufficienti = 3061,  // a statement names a column that its tables lack
   SintassiErrata = 3075,

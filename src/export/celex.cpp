@@ -93,6 +93,7 @@ DatiCelex LeggiDatiCelex(const Recordset& fonte) {
 }
 
 QString CelexDaFonte(const StatoGlobale& stato, const FonteLetta& fonte, const RigaCodice& tipo) {
+  // Sources are named by numbers of 16 bits; one beyond them must not pass.
   (void)fonte[ColonnaFonte::IDFonte].Intero16();
   if (!tipo.Fields("Settore").Presente()) return {};
   const bool rinumerato = tipo.Fields("IDFonteCom").Intero() == kTrattatoRinumerato;

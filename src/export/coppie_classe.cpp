@@ -17,7 +17,7 @@ QString MessaggioCoppia(const QString& check, bool asterisco) {
 
 const RigheCondivise kCoppie = {
     .istruzione = QStringLiteral(
-        "select IDClasse2000, CodiceS, [IDClasse2000-D], [Classe2000-D], Check from tabClasse2000, "
+        "select * from tabClasse2000, "
         "[tabClasse2000-S] where [tabClasse2000-S].IDCLasseS = tabClasse2000.[IDCLasse2000-S]"),
     .condizione = QStringLiteral(" and tabClasse2000.IDClasse2000 = ?"),
     .chiave = "IDClasse2000"};

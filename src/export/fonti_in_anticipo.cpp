@@ -51,7 +51,7 @@ void FontiInAnticipo::LeggiTutte(const std::stop_token& fermo, const QString& pe
 
 // False where nobody wants it any more.
 bool FontiInAnticipo::Consegna(const std::stop_token& fermo, Mazzo mazzo) {
-  std::vector<Mazzo> usati;
+  std::vector<Mazzo> usati;  // given free here, when the lock is off
   std::unique_lock chiusa(serratura_);
   if (!cambiato_.wait(chiusa, fermo, [this] { return pronti_.size() < kMazzi; })) return false;
   pronti_.push_back(std::move(mazzo));

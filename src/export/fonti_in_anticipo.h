@@ -6,7 +6,6 @@
 #include <deque>
 #include <exception>
 #include <mutex>
-#include <optional>
 #include <span>
 #include <thread>
 

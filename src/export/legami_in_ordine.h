@@ -34,7 +34,8 @@ class LegamiInOrdine {
   std::optional<qint64> cercato_ = 0;
 };
 
-// Those of one export; each is opened when first asked.
+// Those of one run; each is opened when first asked. An export reads its sources otherwise
+// (FontiInAnticipo).
 struct LegamiDocumento {
   explicit LegamiDocumento(const Database& archivio);
   LegamiInOrdine responsabilita;

@@ -14,35 +14,32 @@ constexpr std::size_t kRicordate = 4096;
 struct NomiTavola {
   QLatin1StringView tabella;
   const char* chiave;
-  QLatin1StringView colonne;  // the others that are read
 };
 
 // In the order of TavolaCodici.
 constexpr std::array<NomiTavola, kTavoleCodici> kNomi = {{
-    {"TabFonteInterna"_L1, "IDFonteInterna", "FonteNorm, URN"_L1},
-    {"TabFonteCom"_L1, "IDFonteCom", "FonteCom, Settore, Codice, AnnoF"_L1},
-    {"TabFonteInt"_L1, "IDFonteInt", "FonteInt"_L1},
-    {"TabFonteCan"_L1, "IDFonteCan", "FonteCan"_L1},
-    {"TabStato"_L1, "IDStato", "stato"_L1},
-    {"TabMinistero"_L1, "IDMinistero", "MinisteroNorm"_L1},
-    {"TabAmministrazione"_L1, "IDAmministrazione", "AmministrazioneNorm"_L1},
-    {"TabAutorita"_L1, "IDAutorita", "AutoritaNorm"_L1},
-    {"TabRegione"_L1, "IDRegione", "regione, codRegioneURN"_L1},
-    {"TabProvincia"_L1, "IDProvincia", "provincia"_L1},
-    {"TabCitta"_L1, "IDCitta", "citta"_L1},
-    {"TabSezione"_L1, "IDSez", "sigla"_L1},
-    {"TabBIB"_L1, "IDBib", "TipoBibliografia"_L1},
-    {"tabClasse2000-S"_L1, "CodiceS", "sigla, descrizione"_L1},
-    {"tabClasse2000-D"_L1, "IDClasseD", "CodiceD"_L1},
-    {"tabClasse2000-D"_L1, "CodiceD", "descrizione"_L1},
+    {"TabFonteInterna"_L1, "IDFonteInterna"},
+    {"TabFonteCom"_L1, "IDFonteCom"},
+    {"TabFonteInt"_L1, "IDFonteInt"},
+    {"TabFonteCan"_L1, "IDFonteCan"},
+    {"TabStato"_L1, "IDStato"},
+    {"TabMinistero"_L1, "IDMinistero"},
+    {"TabAmministrazione"_L1, "IDAmministrazione"},
+    {"TabAutorita"_L1, "IDAutorita"},
+    {"TabRegione"_L1, "IDRegione"},
+    {"TabProvincia"_L1, "IDProvincia"},
+    {"TabCitta"_L1, "IDCitta"},
+    {"TabSezione"_L1, "IDSez"},
+    {"TabBIB"_L1, "IDBib"},
+    {"tabClasse2000-S"_L1, "CodiceS"},
+    {"tabClasse2000-D"_L1, "IDClasseD"},
+    {"tabClasse2000-D"_L1, "CodiceD"},
 }};
 
 const NomiTavola& NomiDi(TavolaCodici quale) { return kNomi.at(static_cast<std::size_t>(quale)); }
 
-// The key comes first.
 QString Istruzione(TavolaCodici quale) {
-  const NomiTavola& nomi = NomiDi(quale);
-  return "select "_L1 + nomi.chiave + ", "_L1 + nomi.colonne + " from ["_L1 + nomi.tabella + ']';
+  return "select * from ["_L1 + NomiDi(quale).tabella + ']';
 }
 
 template <typename Chiave>
@@ -73,10 +70,11 @@ TabelleDiCodici::Tavola& TabelleDiCodici::Letta(TavolaCodici quale) {
   if (tavola.letta) return tavola;
   Recordset righe =
       archivio_.OpenRecordset(Istruzione(quale) + " order by "_L1 + NomiDi(quale).chiave);
+  const int colonna = righe.Colonna(NomiDi(quale).chiave);
   Chiave precedente;
   for (; !righe.Eof() && tavola.righe.size() < kRicordate; righe.MoveNext()) {
     Riga riga = righe.Copia();
-    Chiave chiave = ChiaveDi(riga.Fields(0));
+    Chiave chiave = ChiaveDi(riga.Fields(colonna));
     if (TestiUguali(precedente, chiave)) continue;
     precedente = chiave;
     tavola.righe.emplace(std::move(chiave), std::move(riga));
