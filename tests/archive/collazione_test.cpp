@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "comune/cartella_di_prova.h"
 
 namespace torvi {
 namespace {
@@ -18,10 +19,8 @@ using namespace std::string_literals;
 int Segno(int valore) { return (valore > 0) - (valore < 0); }
 
 TEST(Collazione, HaLOrdineDegliArchiviAutentici) {
-  QFile file(TORVI_RADICE "/../shared/jet/chiavi testo.keys.json");
-  if (!file.open(QIODevice::ReadOnly)) GTEST_SKIP() << "manca " << file.fileName().toStdString();
   std::vector<std::pair<std::string, std::string>> testi;
-  const QJsonObject radice = QJsonDocument::fromJson(file.readAll()).object();
+  const QJsonObject radice = QJsonDocument::fromJson(Byte(FileGenuino("chiavi testo.keys.json"))).object();
   for (const auto& voce : radice["testo"].toArray()) {
     const QJsonObject riga = voce.toObject();
     if (riga["testo"].isNull()) continue;

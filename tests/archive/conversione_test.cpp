@@ -21,7 +21,7 @@ namespace {
 using namespace prova;
 
 // A folder of its own with a copy of a genuine file, "archivio.mdb".
-class Conversione : public FileGenuini {
+class Conversione : public testing::Test {
  protected:
   void Copia(const char* mdb) {
     originale_ = Byte(CartellaJet().filePath(mdb));

@@ -1,4 +1,4 @@
-// Genuine Jet files beside the project, and what an independent reader sees in them.
+// The genuine Jet files, and what an independent reader sees in them.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,17 +17,7 @@
 
 namespace torvi::prova {
 
-inline QDir CartellaJet() { return QDir(TORVI_RADICE "/../shared/jet"); }
-
-// What needs them is skipped where they are not.
-class FileGenuini : public testing::Test {
- protected:
-  void SetUp() override {
-    if (!CartellaJet().exists()) {
-      GTEST_SKIP() << "no genuine Jet files in " << qPrintable(CartellaJet().path());
-    }
-  }
-};
+inline QDir CartellaJet() { return QDir(FileGenuino({})); }
 
 inline QStringList FileJet() { return CartellaJet().entryList({"*.mdb"}, QDir::Files); }
 

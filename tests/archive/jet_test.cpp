@@ -81,7 +81,7 @@ void ConfrontaSchema(const Tabella& tabella, const QJsonObject& atteso) {
   EXPECT_EQ(indici, attesi);
 }
 
-using Jet = FileGenuini;
+class Jet : public testing::Test {};
 
 TEST_F(Jet, EveryTableAndRowIsAsTheIndependentReaderSeesIt) {
   ASSERT_GE(FileJet().size(), 7);

@@ -88,7 +88,6 @@ TEST(VerificaTest, UnFileDanneggiatoSiDichiara) {
 
 TEST(VerificaTest, NellaConsegnaGenuinaSiVedonoILegamiSospesi) {
   const QString genuina = FileGenuino("consegna.mdb");
-  if (genuina.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
   const CartellaDiProva cartella;
   const QString nuovo = cartella.Mdb("convertita.mdb");
   ConvertiJet(genuina, nuovo);

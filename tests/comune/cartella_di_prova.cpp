@@ -86,9 +86,4 @@ void ScriviByte(const QString& percorso, const QByteArray& byte) {
   ASSERT_EQ(file.write(byte), byte.size());
 }
 
-QString FileGenuino(const QString& nome) {
-  const QString percorso = QStringLiteral(TORVI_RADICE "/../shared/jet/") + nome;
-  return QFile::exists(percorso) ? percorso : QString();
-}
-
 }  // namespace torvi

@@ -8,6 +8,7 @@
 
 #include "archive/database.h"
 #include "archive/errore.h"
+#include "comune/progetto.h"
 #include "shell/stato_globale.h"
 
 namespace torvi {
@@ -48,9 +49,6 @@ qint64 Aggiungi(const Database& database, const QString& tabella, Valori valori)
 // All bytes of a file; a file that is not there fails the test.
 [[nodiscard]] QByteArray Byte(const QString& percorso);
 void ScriviByte(const QString& percorso, const QByteArray& byte);
-
-// "../shared/jet/<nome>" seen from the project, or empty where the genuine files are not at hand.
-[[nodiscard]] QString FileGenuino(const QString& nome);
 
 // The run-time error that `azione` ends with, as its number, a blank and its description; empty
 // where it ends well.

@@ -29,7 +29,7 @@ QList<Citazione> LeggiCitazioni(const QString& nome) {
   QList<Citazione> citazioni;
   int numero = 0;
   bool domanda = true;
-  for (const QByteArray& linea : Byte(TORVI_RADICE "/tests/dati/" + nome).split('\n')) {
+  for (const QByteArray& linea : Byte(FileProgetto("tests/dati/" + nome)).split('\n')) {
     ++numero;
     if (linea.isEmpty() || linea.startsWith('#')) continue;
     if (domanda) citazioni += {numero, Oggetto(linea), {}};

@@ -16,7 +16,7 @@ QList<QStringList> LeggiTavola(const char* nome) {
 }
 
 std::string Dati(const char* nome) {
-  return Byte(QStringLiteral(TORVI_RADICE "/tests/dati/") + nome).toStdString();
+  return Byte(FileProgetto(QStringLiteral("tests/dati/") + nome)).toStdString();
 }
 
 }  // namespace torvi

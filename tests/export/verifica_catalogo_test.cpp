@@ -128,7 +128,6 @@ TEST_F(VerificaCatalogoTest, AKindOfSourceThatIsGoneEndsTheRun) {
 TEST_F(VerificaCatalogoTest, GenuineCataloguesServeInBothForms) {
   for (const char* nome : {"catalogo norme.mdb", "catalogo norme data.mdb"}) {
     const QString genuino = FileGenuino(nome);
-    if (genuino.isEmpty()) GTEST_SKIP() << "no genuine files at ../shared/jet";
     const QString percorso = prova.cartella.Mdb("catalogo norme.mdb");
     QFile::remove(percorso);
     ASSERT_TRUE(QFile::copy(genuino, percorso));

@@ -105,7 +105,7 @@ void ConsegnaDaStampare::Futuro() const {
 }
 
 void ConfrontaConDati(const DocumentiDiProva& prova, const char* nome) {
-  QByteArray atteso = Byte(QStringLiteral(TORVI_RADICE "/tests/dati/") + QLatin1String(nome));
+  QByteArray atteso = Byte(FileProgetto(QStringLiteral("tests/dati/") + QLatin1String(nome)));
   atteso.replace("\n", "\r\n");
   EXPECT_EQ(prova.Dump(nome), atteso.toStdString()) << nome;
 }

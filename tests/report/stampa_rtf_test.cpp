@@ -47,7 +47,7 @@ TEST(StampaRTF, TheTextsComeOutToTheByte) {
 // What the templates of the program must be for the prints to be whole: one group left open.
 TEST(StampaRTF, TheTemplatesLeaveOneGroupOpen) {
   for (const char* nome : {"testata new.rtf", "testata prospetto.rtf"}) {
-    const QByteArray testata = Byte(QStringLiteral(TORVI_RADICE "/risorse/") + QLatin1String(nome));
+    const QByteArray testata = Byte(FileProgetto(QStringLiteral("risorse/") + QLatin1String(nome)));
     EXPECT_TRUE(testata.startsWith("{\\rtf1\\ansi\\ansicpg1252")) << nome;
     EXPECT_TRUE(testata.contains("Consegna xxx")) << nome;
     EXPECT_EQ(testata.count('{') - testata.count('}'), 1) << nome;

@@ -107,7 +107,6 @@ TEST_F(ArchivioComandi, NamesAFileThatIsNoArchiveAndLeavesItAlone) {
 
 TEST_F(ArchivioComandi, ConvertsAGenuineArchiveInPlace) {
   const QString genuino = FileGenuino("consegna.mdb");
-  if (genuino.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
   const QString percorso = cartella.Mdb("consegna.mdb");
   ASSERT_TRUE(QFile::copy(genuino, percorso));
   DialoghiScritti dialoghi;
@@ -121,7 +120,6 @@ TEST_F(ArchivioComandi, ConvertsAGenuineArchiveInPlace) {
 
 TEST_F(ArchivioComandi, LeavesAGenuineFileThatIsNoArchiveAsItIs) {
   const QString genuino = FileGenuino("catalogo norme.mdb");
-  if (genuino.isEmpty()) GTEST_SKIP() << "the genuine files are not at hand";
   const QString percorso = cartella.Mdb("catalogo.mdb");
   ASSERT_TRUE(QFile::copy(genuino, percorso));
   DialoghiScritti dialoghi;

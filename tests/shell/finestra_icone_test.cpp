@@ -25,7 +25,7 @@ int PuntiDiversi(const QImage& uno, const QImage& altro) {
 }
 
 TEST(Icone, EveryDrawingInTheFolderIsInTheProgramAndNotBlank) {
-  const auto disegni = QDir(TORVI_RADICE "/risorse/icone").entryInfoList({"*.svg"});
+  const auto disegni = QDir(FileProgetto("risorse/icone")).entryInfoList({"*.svg"});
   EXPECT_EQ(disegni.size(), 16);
   QImage vuota(24, 24, QImage::Format_ARGB32);
   vuota.fill(Qt::transparent);

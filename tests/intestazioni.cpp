@@ -1,0 +1,1 @@
+// Only there to compile the headers that the test programs share.
