@@ -34,6 +34,7 @@ class Recordset::Corpo {
   [[nodiscard]] Campo Fields(std::string_view nome) { return Fields(Colonna(nome)); }
   [[nodiscard]] Campo Fields(int colonna);
   [[nodiscard]] int Colonna(std::string_view nome) const;
+  [[nodiscard]] int QuanteColonne() const { return static_cast<int>(Colonne().Quante()); }
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
   [[nodiscard]] virtual Riga Copia();
   void Assegna(std::string_view nome, const Campo& valore);

@@ -25,6 +25,7 @@ void Recordset::MovePrevious() { Aperto().MovePrevious(); }
 Campo Recordset::Fields(std::string_view nome) const { return Aperto().Fields(nome); }
 Campo Recordset::Fields(int colonna) const { return Aperto().Fields(colonna); }
 int Recordset::Colonna(std::string_view nome) const { return Aperto().Colonna(nome); }
+int Recordset::QuanteColonne() const { return Aperto().QuanteColonne(); }
 bool Recordset::HaCampo(std::string_view nome) const { return Aperto().HaCampo(nome); }
 Riga Recordset::Copia() const { return Aperto().Copia(); }
 void Recordset::Assegna(std::string_view nome, const Campo& valore) {

@@ -40,6 +40,7 @@ class Recordset {
   [[nodiscard]] Campo Fields(std::string_view nome) const;
   // The same by the place of the column, for loops over many rows; Colonna tells it, error 3265.
   [[nodiscard]] Campo Fields(int colonna) const;
+  [[nodiscard]] int QuanteColonne() const;
   [[nodiscard]] int Colonna(std::string_view nome) const;
   [[nodiscard]] bool HaCampo(std::string_view nome) const;
   // All columns of the current row, for when it is no longer current.

@@ -4,7 +4,9 @@
 
 #include "archive/errore.h"
 #include "document/carica_parti.h"
+#include "document/impronta.h"
 #include "fonti/carica_fonti.h"
+#include "shell/guardia.h"
 #include "shell/valori.h"
 
 namespace torvi {
@@ -45,15 +47,50 @@ void AzzeraIndici(Documento& documento) {
   documento.IndiceFonte = -1;
 }
 
-// One statement of the form's load. Where there is no row to be on, the number is set and the load
-// goes on with the next.
+// One statement of the form's load. Where the archive has no document the number is set and the
+// load goes on with the next.
 void Passo(Documento& documento, const std::function<void()>& istruzione) {
   try {
     istruzione();
   } catch (const ErroreEsecuzione& errore) {
-    if (!errore.E(Errore::NessunRecordCorrente)) throw;
+    if (!errore.E(Errore::NessunRecordCorrente) ||
+        documento.stato.DbArchivio.Conta(QStringLiteral("from TabDocumento")) > 0) {
+      throw;
+    }
     documento.campi.txtID = QStringLiteral(" 1");
   }
+}
+
+void SvuotaCampi(Documento& documento) {
+  CampiDocumento& campi = documento.campi;
+  for (QString CampiDocumento::*campo : kDaSvuotare) (campi.*campo).clear();
+  SvuotaTesti(documento);
+  campi.lstResponsabilita.clear();
+  campi.lstClassificazione.clear();
+  campi.lstFonte.clear();
+  AzzeraIndici(documento);
+  documento.stato.RigheResponsabilita.clear();
+  documento.stato.RigheClasse.clear();
+  documento.stato.RigheFonte.clear();
+}
+
+void DimenticaArchiviato(Documento& documento) {
+  documento.guasto.clear();
+  documento.testiMancanti.clear();
+  documento.impronta.clear();
+  documento.numeroSuo = 0;
+}
+
+// Half a document under its number could be taken for the whole.
+void NonCaricato(Documento& documento, const ErroreEsecuzione& errore) {
+  DimenticaArchiviato(documento);
+  SvuotaCampi(documento);
+  documento.campi.icone.fill(false);
+  for (const TabellaCodici& codici : kTabelle) {
+    documento.campi.*codici.combo = codici.segnaposto();
+  }
+  documento.numeroMostrato = NumeroDocumento(documento);
+  documento.guasto = TestoErrore(errore);
 }
 
 void CaricaSenzaRete(Documento& documento) {
@@ -69,6 +106,7 @@ void CaricaSenzaRete(Documento& documento) {
     documento.campi.txtID = stato.IDDocumentoScelto;
     Passo(documento, [&] { CaricaDocumento(documento); });
   }
+  documento.numeroMostrato = NumeroDocumento(documento);
 }
 
 }  // namespace
@@ -81,8 +119,8 @@ QString SegnapostoBib() { return QStringLiteral("Tipo bibliografia"); }
 void CaricaForma(Documento& documento) {
   try {
     CaricaSenzaRete(documento);
-  } catch (const ErroreEsecuzione&) {
-    return;  // the form shows what was loaded before
+  } catch (const ErroreEsecuzione& errore) {
+    NonCaricato(documento, errore);
   }
 }
 
@@ -109,23 +147,31 @@ void SvuotaDocumento(Documento& documento) {
     campi.txtID = QString::number(ultimo + 1);
   }
   if (!documento.codici.ComboLIN.isEmpty()) campi.ComboLIN = documento.codici.ComboLIN.first();
-  for (QString CampiDocumento::*campo : kDaSvuotare) (campi.*campo).clear();
-  SvuotaTesti(documento);
-  campi.lstResponsabilita.clear();
-  campi.lstClassificazione.clear();
-  campi.lstFonte.clear();
-  AzzeraIndici(documento);
-  documento.stato.RigheResponsabilita.clear();
-  documento.stato.RigheClasse.clear();
-  documento.stato.RigheFonte.clear();
+  SvuotaCampi(documento);
+  DimenticaArchiviato(documento);
+  documento.numeroMostrato = NumeroDocumento(documento);
 }
 
 void CaricaDocumento(Documento& documento) {
+  DimenticaArchiviato(documento);
   CaricaResponsabilita(documento);
   CaricaRiferimenti(documento);
   CaricaClassi(documento);
   CaricaTesti(documento);
   documento.campi.lstFonte = CaricaFonti(documento.stato, NumeroDocumento(documento));
+  RiconosciArchiviato(documento);
+}
+
+void CaricaIntero(Documento& documento) {
+  try {
+    CaricaDocumento(documento);
+  } catch (const ErroreEsecuzione& errore) {
+    NonCaricato(documento, errore);
+    throw ErroreEsecuzione::ConDescrizione(
+        static_cast<Errore>(errore.Numero()),
+        QStringLiteral("il documento %1 non è stato caricato. %2")
+            .arg(documento.campi.txtID.trimmed(), errore.Descrizione()));
+  }
 }
 
 qint64 NumeroDocumento(const Documento& documento) {

@@ -14,7 +14,7 @@ void CaricaResponsabilita(Documento& documento);
 void CaricaRiferimenti(Documento& documento);
 // Classification, by the scheme that the year in txtAA selects.
 void CaricaClassi(Documento& documento);
-// Texts and icons. A link whose text is gone: error 3021.
+// Texts and icons. A link whose text is gone is left out, and its name kept.
 void CaricaTesti(Documento& documento);
 // Empties the seven texts that have no control.
 void SvuotaTesti(Documento& documento);

@@ -92,8 +92,8 @@ void ControllaPeriodico(Documento& documento) {
   const Recordset riga = documento.stato.DbArchivio.OpenRecordset(
       QStringLiteral("SELECT TabRivista.TitoloRivista, TabPeriodicita.Periodicita FROM TabRivista "
                      "INNER JOIN TabPeriodicita ON TabRivista.IDPeriodicita = "
-                     "TabPeriodicita.IDPeriodicita WHERE TabRivista.CPER = '") +
-      campi.txtCPer + QLatin1Char('\''));
+                     "TabPeriodicita.IDPeriodicita WHERE TabRivista.CPER = ?"),
+      {campi.txtCPer});
   if (riga.Eof()) {
     documento.dialoghi.Messaggio(QStringLiteral("Codice periodico errato!"),
                                  QStringLiteral("Attenzione!"));

@@ -20,11 +20,15 @@ void CaricaTesti(Documento& documento) {
   for (; !legami.Eof(); legami.MoveNext()) {
     testi.Seek(legami.Fields("IDTesto"));
     const QString tipo = legami.Fields("tipo").TestoOVuoto();
-    const QString contenuto = testi.Fields("testo").TestoOVuoto();
     for (std::size_t i = 0; i < GeneriDiTesto().size(); ++i) {
       const TestoDocumento& testo = GeneriDiTesto()[i];
       if (tipo != QLatin1Char(testo.tipo)) continue;
-      Valore(documento, testo) = contenuto;
+      // After a seek without a match there is no row to read.
+      if (testi.NoMatch()) {
+        documento.testiMancanti += QString::fromUtf16(testo.nome);
+        continue;
+      }
+      Valore(documento, testo) = testi.Fields("testo").TestoOVuoto();
       documento.campi.icone.at(i) = testo.pulsante != nullptr;
     }
   }

@@ -16,18 +16,43 @@ qint64 UltimoNumero(Documento& documento) {
   return documento.Documenti().Fields("IDDocumento").Intero();
 }
 
-// Saves under the number that a new document is expected to get. A failure before there is a new
-// row leaves the number as it was: the next save is not to look for a document that never came to
-// be.
+// The number that the program puts into txtID, given back where no document gets it.
+class NumeroProvvisorio {
+ public:
+  NumeroProvvisorio(Documento& documento, qint64 numero)
+      : documento_(documento),
+        txtID_(std::exchange(documento.campi.txtID, QString::number(numero))),
+        mostrato_(std::exchange(documento.numeroMostrato, numero)) {}
+  NumeroProvvisorio(const NumeroProvvisorio&) = delete;
+  NumeroProvvisorio& operator=(const NumeroProvvisorio&) = delete;
+  ~NumeroProvvisorio() {
+    if (tenuto_) return;
+    documento_.campi.txtID = txtID_;
+    documento_.numeroMostrato = mostrato_;
+  }
+  void Tieni() { tenuto_ = true; }
+
+ private:
+  Documento& documento_;
+  QString txtID_;
+  qint64 mostrato_;
+  bool tenuto_ = false;
+};
+
+// Saves under the number that a new document is expected to get. A refusal, and a failure before
+// there is a new row, leave the number as it was: the next save is not to look for a document that
+// never came to be.
 bool SalvaComeUltimo(Documento& documento) {
+  if (!documento.guasto.isEmpty()) return SalvaDocumento(documento);
   documento.SalvaComeNuovo = true;
   const qint64 ultimo = UltimoNumero(documento);
-  QString numero = std::exchange(documento.campi.txtID, QString::number(ultimo + 1));
+  NumeroProvvisorio numero(documento, ultimo + 1);
   try {
-    return SalvaDocumento(documento);
+    const bool salvato = SalvaDocumento(documento);
+    if (salvato) numero.Tieni();
+    return salvato;
   } catch (const ErroreEsecuzione&) {
-    documento.campi.txtID.swap(numero);
-    if (UltimoNumero(documento) != ultimo) documento.campi.txtID.swap(numero);
+    if (UltimoNumero(documento) != ultimo) numero.Tieni();
     throw;
   }
 }
@@ -81,13 +106,14 @@ void ComandoAbbandona(Documento& documento) { documento.stato.ListaRicerca.clear
 void ComandoNew(Documento& documento) {
   if (documento.stato.DocumentoNuovo) {
     documento.SalvaComeNuovo = true;
-  } else {
+  } else if (documento.guasto.isEmpty()) {
     OffreSalvataggio(documento);
   }
+  // Where there is no document this fails, before anything of the shown one is gone.
+  documento.Documenti().MoveLast();
   documento.stato.DocumentoNuovo = true;
   CaricaCodici(documento);
   AzzeraRighe(documento.stato);
-  documento.Documenti().MoveLast();
   documento.campi.txtID.clear();
   SvuotaDocumento(documento);
 }

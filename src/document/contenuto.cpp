@@ -18,10 +18,19 @@ ContenutoDocumento Contenuto(const Documento& documento) {
 }
 
 QString DescriviStato(const Documento& documento, bool modificato) {
-  return QStringLiteral("Documento %1: %2, %3")
-      .arg(documento.campi.txtID.trimmed(),
-           documento.stato.DocumentoNuovo ? QStringLiteral("nuovo") : QStringLiteral("esistente"),
-           modificato ? QStringLiteral("modificato") : QStringLiteral("non modificato"));
+  const QString numero = documento.campi.txtID.trimmed();
+  if (!documento.guasto.isEmpty()) {
+    return QStringLiteral("Documento %1: non caricato. %2").arg(numero, documento.guasto);
+  }
+  const QString stato =
+      QStringLiteral("Documento %1: %2, %3")
+          .arg(numero,
+               documento.stato.DocumentoNuovo ? QStringLiteral("nuovo")
+                                              : QStringLiteral("esistente"),
+               modificato ? QStringLiteral("modificato") : QStringLiteral("non modificato"));
+  if (documento.testiMancanti.isEmpty()) return stato;
+  return stato + QStringLiteral("; nell'archivio manca il testo: ") +
+         documento.testiMancanti.join(QStringLiteral(", "));
 }
 
 }  // namespace torvi

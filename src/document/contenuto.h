@@ -17,7 +17,8 @@ struct ContenutoDocumento {
 
 [[nodiscard]] ContenutoDocumento Contenuto(const Documento& documento);
 
-// "Documento 12: esistente, modificato".
+// "Documento 12: esistente, modificato", with the texts that the archive lacks; or that it could
+// not be loaded, and why.
 [[nodiscard]] QString DescriviStato(const Documento& documento, bool modificato);
 
 }  // namespace torvi

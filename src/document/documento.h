@@ -5,6 +5,7 @@
 
 #include <QStringList>
 #include <array>
+#include <map>
 #include <optional>
 
 #include "archive/errore.h"
@@ -70,6 +71,16 @@ struct Documento {
   qint16 IndiceFonte = -1;
   bool comandiVisibili = true;  // cmdSalva and cmdDuplica, set by the form's load alone
   QString fuoco;                // control that the last routine wants the focus on; empty: none
+
+  // Why the document of txtID could not be loaded; empty where it stands here whole. What is not
+  // whole is never saved.
+  QString guasto;
+  QStringList testiMancanti;  // texts that the archive links to and does not have, by their names
+  qint64 numeroMostrato = 0;  // what the program last put into txtID
+  qint64 numeroSuo = 0;       // the document's row in the archive, once loaded or saved; 0: none
+  // What the archive held of the document when it was loaded or saved, by the parts of which the
+  // operator is told.
+  std::map<QString, QString> impronta;
 
   // Opens RsDocumenti on the archive that is open.
   void ApriDocumenti();

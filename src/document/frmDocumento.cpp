@@ -70,10 +70,24 @@ void frmDocumento::Collega(QPushButton& pulsante, Gestore gestore, const char* i
 }
 
 void frmDocumento::Corri(Gestore gestore) {
+  if (!documento_.guasto.isEmpty() && !SenzaDocumento(gestore)) {
+    dialoghi_.Messaggio(DescriviStato(documento_, false));
+    return;
+  }
   for (ComboDiCodici* combo : combo_) combo->Conferma();
   LeggiCampi();
   Esegui(dialoghi_, [this, gestore] { (this->*gestore)(); });
   if (!uscendo_) MostraCampi();
+}
+
+// What a form whose document could not be loaded still does.
+bool frmDocumento::SenzaDocumento(Gestore gestore) {
+  for (const Gestore uno : {&frmDocumento::frmHelp_Show, &frmDocumento::cmdAbbandona_Click,
+                            &frmDocumento::cmdAvanti_Click, &frmDocumento::cmdIndietro_Click,
+                            &frmDocumento::cmdNew_Click}) {
+    if (uno == gestore) return true;
+  }
+  return false;
 }
 
 struct frmDocumento::Tasto {
@@ -81,7 +95,7 @@ struct frmDocumento::Tasto {
   Gestore gestore;
 };
 
-// Keys reach their command directly: also that of a hidden button, and without leaving the field.
+// Keys reach their command directly: also that of a hidden button.
 bool frmDocumento::TastoFunzione(int tasto) {
   static constexpr Tasto kTasti[] = {
       {Qt::Key_F1, &frmDocumento::frmHelp_Show},
@@ -99,15 +113,23 @@ bool frmDocumento::TastoFunzione(int tasto) {
   };
   for (const Tasto& voce : kTasti) {
     if (voce.tasto != tasto) continue;
-    Corri(voce.gestore);
+    if (LasciaPeriodico(tasto)) Corri(voce.gestore);
     return true;
   }
   return false;
 }
 
+// A wrong code is told before any command that could drop it; a save answers an empty one itself.
+bool frmDocumento::LasciaPeriodico(int tasto) {
+  return tasto == Qt::Key_F1 || tasto == Qt::Key_F3 || ui_->txtCPer->text().isEmpty() ||
+         uscita_->Conferma();
+}
+
 bool frmDocumento::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::KeyPress) {
-    if (TastoFunzione(static_cast<QKeyEvent*>(evento)->key())) return true;
+    const auto* tasto = static_cast<QKeyEvent*>(evento);
+    const bool nudo = (tasto->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (nudo && TastoFunzione(tasto->key())) return true;
   } else if (evento->type() == QEvent::FocusIn) {
     const Qt::FocusReason motivo = static_cast<QFocusEvent*>(evento)->reason();
     if (CambiaControllo(motivo)) Entra(oggetto, motivo);

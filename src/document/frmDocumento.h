@@ -50,7 +50,9 @@ class frmDocumento : public QWidget {
   void Collega(QPushButton& pulsante, Gestore gestore, const char* icona = nullptr);
   // A command, between what the controls show before it and after it.
   void Corri(Gestore gestore);
+  [[nodiscard]] static bool SenzaDocumento(Gestore gestore);
   bool TastoFunzione(int tasto);
+  [[nodiscard]] bool LasciaPeriodico(int tasto);
   void Entra(const QObject* controllo, Qt::FocusReason motivo);
   // Leaves without a question.
   void Scarica();
@@ -61,6 +63,7 @@ class frmDocumento : public QWidget {
   static void MostraVoci(QComboBox& combo, const QStringList& voci);
   static void MostraLista(QListWidget& lista, const QStringList& linee, qint16 scelta);
   void MostraIcone();
+  void MostraGuasto();
   void MostraFuoco();
   void AggiornaStato();
 

@@ -88,6 +88,7 @@ void frmDocumento::CollegaCampi() {
   for (const CampoTesto& campo : kTesti) {
     QPlainTextEdit* controllo = (*ui_).*campo.controllo;
     controllo->installEventFilter(this);
+    TieneInUnaRiga(*controllo);
     connect(controllo, &QPlainTextEdit::textChanged, this, &frmDocumento::AggiornaStato);
   }
   for (const CampoCombo& campo : kCombo) {
@@ -99,9 +100,12 @@ void frmDocumento::CollegaCampi() {
   for (const CampoLista& campo : kListe) {
     QListWidget* controllo = (*ui_).*campo.controllo;
     controllo->installEventFilter(this);
-    connect(controllo, &QListWidget::currentRowChanged, this, [this, campo](int riga) {
-      if (!mostra_) documento_.*campo.indice = static_cast<qint16>(riga);
-    });
+    const auto segue = [this, campo, controllo] {
+      if (!mostra_) documento_.*campo.indice = static_cast<qint16>(controllo->currentRow());
+    };
+    connect(controllo, &QListWidget::currentRowChanged, this, segue);
+    connect(controllo, &QListWidget::itemSelectionChanged, this, segue);
+    connect(controllo, &QListWidget::itemClicked, this, segue);
   }
   uscita_ = std::make_unique<UscitaCampo>(*ui_->txtCPer, *ui_->cmdAbbandona,
                                           [this] { return txtCPer_LostFocus(); });
@@ -154,6 +158,7 @@ void frmDocumento::MostraCampi() {
       MostraLista(*((*ui_).*campo.controllo), campi.*campo.linee, documento_.*campo.indice);
     }
     MostraIcone();
+    MostraGuasto();
   }
   MostraFuoco();
   // What is on screen now is what later changes are told from.
@@ -170,17 +175,34 @@ void frmDocumento::MostraVoci(QComboBox& combo, const QStringList& voci) {
   combo.addItems(voci);
 }
 
-// Lines that only changed their words keep the operator's selection.
+// Lines that only changed their words keep the operator's selection; where the commands have none,
+// none is shown.
 void frmDocumento::MostraLista(QListWidget& lista, const QStringList& linee, qint16 scelta) {
   if (lista.count() != linee.size()) {
     lista.clear();
     lista.addItems(linee);
     lista.setCurrentRow(scelta);
+  } else if (scelta < 0) {
+    lista.setCurrentRow(-1);
+    lista.clearSelection();
   }
   for (int i = 0; i < lista.count(); ++i) {
     lista.item(i)->setText(linee.at(i));
     lista.item(i)->setToolTip(Suggerimento(linee.at(i)));
   }
+}
+
+// A document that could not be loaded takes no text: there is nothing whole to save it with.
+void frmDocumento::MostraGuasto() {
+  const bool guasto = !documento_.guasto.isEmpty();
+  ui_->LabelGuasto->setVisible(guasto);
+  ui_->LabelGuasto->setText(guasto ? DescriviStato(documento_, false) : QString());
+  for (const CampoRiga& campo : kRighe) {
+    QLineEdit* controllo = (*ui_).*campo.controllo;
+    if (campo.seleziona) controllo->setReadOnly(guasto);
+  }
+  for (const CampoTesto& campo : kTesti) ((*ui_).*campo.controllo)->setReadOnly(guasto);
+  for (const CampoCombo& campo : kCombo) ((*ui_).*campo.controllo)->setEnabled(!guasto);
 }
 
 void frmDocumento::MostraIcone() {

@@ -6,7 +6,9 @@
 namespace torvi {
 
 // Writes the document on screen: a new row where SalvaComeNuovo is set (a completed save clears
-// it), otherwise the row of txtID. False when the journal code is missing, after its message.
+// it), otherwise the row of txtID. False when the journal code is missing or the document was not
+// loaded whole, after a message, and when the operator does not want it written over another one or
+// over what somebody else changed meanwhile.
 // Shared rows (reference, persons, classification pairs, sources) are found or made; links are
 // rewritten. A failure is thrown and leaves the steps before it written.
 bool SalvaDocumento(Documento& documento);

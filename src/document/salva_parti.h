@@ -1,5 +1,5 @@
 // The steps of a document's save, in their order. Each throws what fails and leaves what the steps
-// before it wrote. Values of reference fields and pages go into their statements as they stand.
+// before it wrote.
 #pragma once
 
 #include "document/documento.h"

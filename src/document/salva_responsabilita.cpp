@@ -4,16 +4,13 @@
 namespace torvi {
 namespace {
 
-QString Raddoppiato(QString nome) { return nome.replace(QLatin1Char('\''), QStringLiteral("''")); }
-
 // A collective author has no second name, and no second name equals the empty text: it is never
 // found.
 qint16 CercaPersona(const Database& archivio, const RigaResponsabilita& riga) {
   const Recordset persona = archivio.OpenRecordset(
-      QStringLiteral("select * from tabresponsabilita where tabresponsabilita!primoElemento='") +
-      Raddoppiato(riga.PrimoElemento) +
-      QStringLiteral("' and tabresponsabilita!secondoElemento = '") +
-      Raddoppiato(riga.SecondoElemento) + QLatin1Char('\''));
+      QStringLiteral("select * from tabresponsabilita where tabresponsabilita!primoElemento=? and "
+                     "tabresponsabilita!secondoElemento = ?"),
+      {riga.PrimoElemento, riga.SecondoElemento});
   return persona.Eof() ? qint16{0} : persona.Fields("IDResponsabilita").Intero16();
 }
 

@@ -21,14 +21,16 @@ QString DueCifre(const QString& testo) {
 
 // A column that is not set equals no text, not even the empty one: a reference with an empty field
 // never finds its twin.
-QString Ricerca(const CampiDocumento& campi, const QString& data, qint64 idRivista) {
-  QString istruzione =
-      QStringLiteral("select * from tabrifbibl where IDRivista = ") + QString::number(idRivista);
+Recordset Cerca(const Database& archivio, const CampiDocumento& campi, const QString& data,
+                qint64 idRivista) {
+  QString istruzione = QStringLiteral("select * from tabrifbibl where IDRivista = ?");
+  QList<Campo> valori = {idRivista};
   for (const CampoRiferimento& campo : kCampi) {
-    istruzione += QStringLiteral(" and ") + QLatin1String(campo.colonna) + QStringLiteral(" = \"") +
-                  campi.*campo.campo + QLatin1Char('"');
+    istruzione += QStringLiteral(" and ") + QLatin1String(campo.colonna) + QStringLiteral(" = ?");
+    valori += Campo(campi.*campo.campo);
   }
-  return istruzione + QStringLiteral(" and data = \"") + data + QLatin1Char('"');
+  return archivio.OpenRecordset(istruzione + QStringLiteral(" and data = ?"),
+                                valori << Campo(data));
 }
 
 qint16 Aggiungi(const Database& archivio, const CampiDocumento& campi, const QString& data,
@@ -63,7 +65,7 @@ qint16 SalvaRiferimento(const Documento& documento) {
   if (riviste.NoMatch()) return 0;
   const qint64 idRivista = riviste.Fields("IDRivista").Intero();
   const QString data = DataPubblicazione(campi);
-  const Recordset trovato = archivio.OpenRecordset(Ricerca(campi, data, idRivista));
+  const Recordset trovato = Cerca(archivio, campi, data, idRivista);
   if (!trovato.Eof()) return trovato.Fields("IDRifBibl").Intero16();
   return Aggiungi(archivio, campi, data, idRivista);
 }

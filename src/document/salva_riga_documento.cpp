@@ -1,4 +1,5 @@
 #include "document/carica.h"
+#include "document/carica_parti.h"
 #include "document/salva_parti.h"
 
 namespace torvi {
@@ -27,12 +28,14 @@ void Inserisci(Documento& documento, qint16 idRifBibl) {
   righe.Update();
 }
 
-QString Modifica(const CampiDocumento& campi, qint16 idRifBibl) {
-  QString istruzione =
-      QStringLiteral("UPDATE tabDocumento SET IDRifBibl = ") + QString::number(idRifBibl);
-  const auto imposta = [&istruzione](const char* colonna, const QString& valore) {
-    istruzione += QStringLiteral(", ") + QLatin1String(colonna) + QStringLiteral(" = '") + valore +
-                  QLatin1Char('\'');
+// What was cleared keeps its old value.
+void Modifica(const Documento& documento, qint16 idRifBibl) {
+  const CampiDocumento& campi = documento.campi;
+  QString istruzione = QStringLiteral("UPDATE tabDocumento SET IDRifBibl = ?");
+  QList<Campo> valori = {static_cast<qint64>(idRifBibl)};
+  const auto imposta = [&](const char* colonna, const QString& valore) {
+    istruzione += QStringLiteral(", ") + QLatin1String(colonna) + QStringLiteral(" = ?");
+    valori += Campo(valore);
   };
   if (!campi.txtPagine.isEmpty()) imposta("pagine", campi.txtPagine);
   imposta("LIN", Lingua(campi));
@@ -40,7 +43,10 @@ QString Modifica(const CampiDocumento& campi, qint16 idRifBibl) {
   if (campi.ComboBib != SegnapostoBib()) imposta("bib", campi.ComboBib.left(1));
   if (campi.ComboTD != SegnapostoTD()) imposta("TD", campi.ComboTD.left(2));
   if (campi.ComboTAbs != SegnapostoTAbs()) imposta("TAbs", campi.ComboTAbs.left(3));
-  return istruzione + QStringLiteral(" WHERE IDDocumento = ") + campi.txtID;
+  valori += Campo(NumeroDocumento(documento));
+  const qint64 scritte = documento.stato.DbArchivio.Execute(
+      istruzione + QStringLiteral(" WHERE IDDocumento = ?"), valori);
+  if (scritte == 0) throw ErroreEsecuzione(Errore::NessunRecordCorrente, campi.txtID);
 }
 
 }  // namespace
@@ -49,7 +55,7 @@ void SalvaRigaDocumento(Documento& documento, qint16 idRifBibl) {
   if (documento.SalvaComeNuovo) {
     Inserisci(documento, idRifBibl);
   } else {
-    documento.stato.DbArchivio.Execute(Modifica(documento.campi, idRifBibl));
+    Modifica(documento, idRifBibl);
   }
 }
 

@@ -39,7 +39,7 @@ void SalvaTesto(Documento& documento, Recordset& testi, Recordset& legami,
   testi.Bookmark(testi.LastModified());
   legami.AddNew();
   legami.Assegna("IDTesto", static_cast<qint64>(testi.Fields("IDTesto").Intero16()));
-  legami.Assegna("idDoc", documento.campi.txtID);
+  legami.Assegna("idDoc", NumeroDocumento(documento));
   legami.Assegna("tipo", tipo);
   legami.Update();
 }

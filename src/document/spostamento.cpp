@@ -47,7 +47,7 @@ void ComandoSposta(Documento& documento, Verso verso) {
   documento.stato.IDDocumentoScelto = numero;
   documento.campi.txtID = numero;
   SvuotaDocumento(documento);
-  CaricaDocumento(documento);
+  CaricaIntero(documento);
 }
 
 }  // namespace torvi

@@ -10,6 +10,7 @@ namespace torvi {
 
 struct TestoDocumento {
   char tipo;                           // '0' to '8', as stored
+  const char16_t* nome;                // as the operator is told of it
   QString CampiDocumento::*controllo;  // a control of the form, or else
   QString StatoGlobale::*buffer;       // a buffer
   bool senzaRitorni;                   // CR LF pairs are removed

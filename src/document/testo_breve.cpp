@@ -25,6 +25,7 @@ QString TestoInArchivio(const Database& archivio, char tipo, qint64 numeroDocume
   Recordset testi = archivio.OpenRecordset(QStringLiteral("TabTesto"));
   testi.Index("PrimaryKey");
   testi.Seek(legame.Fields("IDTesto"));
+  if (testi.NoMatch()) return {};
   return testi.Fields("testo").TestoOVuoto();
 }
 

@@ -16,7 +16,7 @@ struct TestoBreve {
 // By its name. Any other name is error 5.
 [[nodiscard]] const TestoBreve& TrovaTestoBreve(const QString& nome);
 // What the form shows: the buffer, or where that is empty the text that the archive still has for
-// the document. A link whose text is gone: error 3021.
+// the document; nothing where it is gone.
 [[nodiscard]] QString CaricaTestoBreve(const StatoGlobale& stato, const TestoBreve& breve,
                                        qint64 numeroDocumento);
 // "Esci e salva".

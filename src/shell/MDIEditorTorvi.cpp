@@ -130,6 +130,7 @@ void MDIEditorTorvi::mnuFileApri_Click() {
 void MDIEditorTorvi::mnuFileChiudi_Click() {
   // Also where there is nothing to close, as after a batch: the menus must let another be opened.
   const auto fase = qScopeGuard([this] { ImpostaFase(FaseMenu::NessunArchivio); });
+  frmSceltaDoc::ChiudiElenchi(*this);
   ComandoChiudi(stato_);
 }
 

@@ -8,11 +8,14 @@ namespace torvi {
 namespace {
 
 constexpr const char* kTestoDato = "testoDato";
+constexpr const char* kSiMostra = "siMostra";
 
 }  // namespace
 
 void MostraTesto(QPlainTextEdit& controllo, const QString& testo) {
+  controllo.setProperty(kSiMostra, true);
   controllo.setPlainText(testo);
+  controllo.setProperty(kSiMostra, false);
   controllo.setProperty(kTestoDato, testo);
   controllo.document()->setModified(false);
 }
@@ -30,6 +33,24 @@ bool LasciaTesto(const QPlainTextEdit& controllo, Dialoghi& dialoghi) {
   return !controllo.document()->isModified() ||
          dialoghi.Domanda(QStringLiteral("Confermi l'uscita ?"), {}, Pulsanti::OkAnnulla) ==
              Risposta::Ok;
+}
+
+void TieneInUnaRiga(QPlainTextEdit& controllo) {
+  QObject::connect(&controllo, &QPlainTextEdit::textChanged, &controllo, [&controllo] {
+    if (controllo.property(kSiMostra).toBool()) return;
+    const QTextDocument& documento = *controllo.document();
+    QTextCursor cursore = controllo.textCursor();
+    // The last sign ends the document and is nobody's text.
+    for (int posto = 0; posto + 1 < documento.characterCount(); ++posto) {
+      const QChar segno = documento.characterAt(posto);
+      if (segno != QChar::ParagraphSeparator && segno != QChar::LineSeparator) continue;
+      cursore.joinPreviousEditBlock();
+      cursore.setPosition(posto);
+      cursore.deleteChar();
+      cursore.insertText(QStringLiteral(" "));
+      cursore.endEditBlock();
+    }
+  });
 }
 
 void TieneInUnaRiga(QLineEdit& campo) {

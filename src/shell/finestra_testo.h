@@ -18,5 +18,8 @@ void MostraTesto(QPlainTextEdit& controllo, const QString& testo);
 // A text of several lines that is pasted into the field becomes one, with blanks: line ends that
 // nobody sees there would tear the record that is exported.
 void TieneInUnaRiga(QLineEdit& campo);
+// The same for a control of several lines whose text is stored as one. What it was given to show
+// stays as it is until somebody types.
+void TieneInUnaRiga(QPlainTextEdit& controllo);
 
 }  // namespace torvi

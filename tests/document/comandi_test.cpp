@@ -4,6 +4,7 @@
 
 #include "document/archivio_di_prova.h"
 #include "document/carica.h"
+#include "document/contenuto.h"
 
 namespace torvi {
 namespace {
@@ -43,27 +44,117 @@ TEST(Comandi, DuplicateLeavesTheSourceAndTurnsToTheCopy) {
   }
 }
 
-// What fails before there is a copy leaves the document what it was; later, the copy is what stands
-// on screen, to be mended and saved.
+// What is refused or fails before there is a copy leaves the document what it was; later, the copy
+// is what stands on screen, to be mended and saved.
 TEST(Comandi, AFailedDuplicateIsNoOtherDocument) {
-  struct Caso {
-    QString CampiDocumento::*campo;
-    const char* txtID;
-  };
-  for (const Caso& caso : {Caso{&CampiDocumento::txtSez, "1"}, {&CampiDocumento::txtAA, "3"}}) {
+  for (const char* numero : {"1", "3"}) {
     ArchivioDiProva prova;
     prova.Apri("1");
-    prova.stato.RigheClasse.resize(1);
-    prova.stato.RigheClasse[0].Sistematico = "X'X";
-    prova.documento.campi.*caso.campo = caso.txtID[0] == '1' ? "\"" : "2001";
-    EXPECT_THROW(ComandoDuplica(prova.documento), ErroreEsecuzione);
-    EXPECT_EQ(prova.documento.campi.txtID, caso.txtID);
-    prova.documento.campi.*caso.campo = "2001";
+    const QString periodico = prova.documento.campi.txtCPer;
+    if (*numero == '1') {
+      prova.documento.campi.txtCPer.clear();
+      EXPECT_FALSE(ComandoDuplica(prova.documento));
+    } else {
+      prova.stato.RigheClasse.resize(1);
+      prova.stato.RigheClasse[0].Sistematico = "X'X";
+      EXPECT_THROW(ComandoDuplica(prova.documento), ErroreEsecuzione);
+    }
+    EXPECT_EQ(prova.documento.campi.txtID, numero);
+    prova.documento.campi.txtCPer = periodico;
     prova.stato.RigheClasse.clear();
     ComandoSalva(prova.documento);
-    EXPECT_EQ(Quanti(prova.stato.DbArchivio, "TabDocumento"), caso.txtID[0] == '1' ? 2 : 3);
-    EXPECT_EQ(Titolo(prova.stato.DbArchivio, QString(caso.txtID).toInt()), "testo 0");
+    EXPECT_EQ(Quanti(prova.stato.DbArchivio, "TabDocumento"), *numero == '1' ? 2 : 3);
+    EXPECT_EQ(Titolo(prova.stato.DbArchivio, QString(numero).toInt()), "testo 0");
   }
+}
+
+TEST(Comandi, NewInAnArchiveWithoutDocumentsLeavesEverythingAsItWas) {
+  ArchivioDiProva prova;
+  prova.stato.DbArchivio.Execute("delete from TabDocumento");
+  prova.Apri({});
+  prova.documento.campi.ComboTD = "03|Nota";
+  prova.stato.RigheResponsabilita.resize(1);
+  const ContenutoDocumento prima = Contenuto(prova.documento);
+  EXPECT_EQ(NumeroErrore([&] { ComandoNew(prova.documento); }), 3021);
+  EXPECT_TRUE(Contenuto(prova.documento) == prima);
+}
+
+// The number in the field: what is none, or of no document, writes nothing; another document is
+// written over only where the operator says so.
+TEST(Comandi, TheNumberThatWasTypedIsNeverTakenUnasked) {
+  const QString altro = "Il numero è stato cambiato da 1 a 2. Salvare al posto del documento 2?";
+  struct Caso {
+    const char* numero;
+    int errore;
+    bool scrive;
+  };
+  for (const Caso& caso : {Caso{"1 or 1", 13, false},
+                           {"2-1", 13, false},
+                           {"", 13, false},
+                           {"9", 3021, false},
+                           {"2", 0, false},
+                           {"2", 0, true}}) {
+    ArchivioDiProva prova;
+    prova.Apri("1");
+    const QStringList riferimenti = RigheTesto(prova.stato.DbArchivio, "TabRifBibl");
+    prova.documento.campi.txtID = caso.numero;
+    prova.documento.campi.txtPagine = "99' or '1'='1";
+    if (caso.errore == 0) {
+      prova.dialoghi.AttendeDomanda(altro, "Salvataggio", Pulsanti::SiNo,
+                                    caso.scrive ? Risposta::Si : Risposta::No);
+    }
+    EXPECT_EQ(NumeroErrore([&] { ComandoSalva(prova.documento); }), caso.errore) << caso.numero;
+    EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "TabRifBibl") == riferimenti, !caso.scrive);
+    EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "select * from TabDocumento order by IDDocumento",
+                         {"pagine"})
+                  .join('|'),
+              caso.scrive ? "12-34|99' or '1'='1" : "12-34|-");
+  }
+}
+
+// Two windows on one archive.
+TEST(Comandi, WhatAnotherWindowWroteIsNotLostUnasked) {
+  ArchivioDiProva prova;
+  prova.Apri("1");
+  StatoGlobale altroStato = prova.stato;
+  Documento altro(altroStato, prova.dialoghi);
+  CaricaForma(altro);
+  altro.campi.txtTitolo = "dell'altra";
+  altroStato.RigheResponsabilita.pop_back();
+  EXPECT_TRUE(ComandoSalva(altro) && ComandoSalva(altro)) << "its own saves are no surprise";
+  const auto domanda = [&](Risposta risposta) {
+    prova.dialoghi.AttendeDomanda(
+        "Il documento 1 è stato modificato nell'archivio da quando è stato caricato "
+        "(riferimenti bibliografici, responsabilità, testi). Salvare lo stesso quello che sta "
+        "nella scheda?",
+        "Salvataggio", Pulsanti::SiNo, risposta);
+  };
+  domanda(Risposta::No);
+  EXPECT_FALSE(ComandoSalva(prova.documento));
+  EXPECT_EQ(Titolo(prova.stato.DbArchivio, 1), "dell'altra");
+  domanda(Risposta::Si);
+  EXPECT_TRUE(ComandoSalva(prova.documento));
+  EXPECT_EQ(Titolo(prova.stato.DbArchivio, 1), "testo 0");
+}
+
+TEST(Comandi, ANewDocumentNeverGetsANumberThatIsAnothers) {
+  ArchivioDiProva prova;
+  prova.Apri({});
+  prova.documento.campi.txtCPer = "ZZZZ";
+  prova.documento.campi.txtTitolo = "secondo";
+  prova.Metti("TabDocumento", {{"IDRifBibl", 1}});
+  const auto domanda = [&](Risposta risposta) {
+    prova.dialoghi.AttendeDomanda(
+        "Il numero 3 è già di un altro documento. Salvare con il numero 4?", "Salvataggio",
+        Pulsanti::SiNo, risposta);
+  };
+  domanda(Risposta::No);
+  EXPECT_FALSE(ComandoSalva(prova.documento));
+  EXPECT_EQ(Quanti(prova.stato.DbArchivio, "TabDocumento"), 3);
+  domanda(Risposta::Si);
+  EXPECT_TRUE(ComandoSalva(prova.documento));
+  EXPECT_EQ(Titolo(prova.stato.DbArchivio, 3), "");
+  EXPECT_EQ(Titolo(prova.stato.DbArchivio, 4), "secondo");
 }
 
 TEST(Comandi, NewSavesAsTheAnswerTellsAndClearsInAnyCase) {

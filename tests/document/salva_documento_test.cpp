@@ -79,6 +79,7 @@ TEST_F(Salvataggio, WritesEveryPartAndSaysSo) {
 
 TEST_F(Salvataggio, TwiceInTheNewStateGivesTwoRowsAndTwiceTheLinks) {
   documento.campi.txtID = "3";
+  documento.numeroMostrato = 3;
   for (const char* legami : {"1", "2"}) {
     documento.SalvaComeNuovo = true;
     EXPECT_TRUE(SalvaDocumento(documento));
@@ -103,10 +104,10 @@ struct Guasto {
   void (*prepara)(ArchivioDiProva& prova);
 };
 const Guasto kGuasti[] = {
-    {"riferimento", 3075, "",
-     [](ArchivioDiProva& prova) { prova.documento.campi.txtAnnata = "a\"b"; }},
-    {"riga", 3075, "riferimento ",
-     [](ArchivioDiProva& prova) { prova.documento.campi.txtPagine = "1'2"; }},
+    {"riferimento", 6, "",
+     [](ArchivioDiProva& prova) {
+       prova.Metti("TabRifBibl", {{"IDRifBibl", 32767}});
+     }},
     {"persone", 6, "riferimento riga ",
      [](ArchivioDiProva& prova) {
        prova.Metti("TabResponsabilita", {{"IDResponsabilita", 32767}});

@@ -16,6 +16,7 @@
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
 #include "document/carica.h"
+#include "document/carica_parti.h"
 #include "document/salva.h"
 
 namespace torvi {
@@ -117,6 +118,7 @@ QString Consegna(const CartellaDiProva& cartella) {
   dialoghi.Di(dialoghi.versione);
   for (;;) {
     if (nuovi) documento.campi.txtID = UltimoDocumento(stato.DbArchivio, 1);
+    documento.numeroMostrato = NumeroDocumento(documento);
     documento.SalvaComeNuovo = nuovi;
     Numera(documento, dialoghi.versione + 1);
     SalvaDocumento(documento);
