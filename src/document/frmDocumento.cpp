@@ -7,6 +7,7 @@
 #include "document/frmHelpTastiFunzione.h"
 #include "shell/finestra_fuoco.h"
 #include "shell/finestra_icone.h"
+#include "shell/finestra_scorrevole.h"
 #include "shell/guardia.h"
 #include "ui_frmDocumento.h"
 
@@ -21,6 +22,7 @@ frmDocumento::frmDocumento(StatoGlobale& stato, Dialoghi& dialoghi, Dizionari& d
       dizionari_(dizionari),
       documento_(stato, dialoghi) {
   ui_->setupUi(this);
+  RendiScorrevole(*this);
   CollegaCampi();
   CollegaPulsanti();
   CaricaForma(documento_);
@@ -58,11 +60,13 @@ void frmDocumento::CollegaPulsanti() {
   Collega(*ui_->cmdNotaDoc, &frmDocumento::cmdNotaDoc_Click);
   Collega(*ui_->cmdCancellaNotaCompilatore, &frmDocumento::cmdCancellaNotaCompilatore_Click);
   // What is abandoned needs no check of the field that is left.
+  ui_->cmdAbbandona->installEventFilter(this);
   connect(ui_->cmdAbbandona, &QPushButton::clicked, this,
           [this] { Corri(&frmDocumento::cmdAbbandona_Click); });
 }
 
 void frmDocumento::Collega(QPushButton& pulsante, Gestore gestore, const char* icona) {
+  pulsante.installEventFilter(this);
   if (icona != nullptr) pulsante.setIcon(IconaDi(QLatin1String(icona)));
   connect(&pulsante, &QPushButton::clicked, this, [this, gestore] {
     if (uscita_->Conferma()) Corri(gestore);
@@ -93,14 +97,16 @@ bool frmDocumento::SenzaDocumento(Gestore gestore) {
 struct frmDocumento::Tasto {
   int tasto;
   Gestore gestore;
+  bool controlla = true;  // the field that is left, before the command
 };
 
-// Keys reach their command directly: also that of a hidden button.
-bool frmDocumento::TastoFunzione(int tasto) {
+// Bare keys reach their command directly: also that of a hidden button, and without leaving the
+// field, whose check runs first all the same.
+bool frmDocumento::TastoFunzione(const QKeyEvent& tasto) {
   static constexpr Tasto kTasti[] = {
-      {Qt::Key_F1, &frmDocumento::frmHelp_Show},
+      {Qt::Key_F1, &frmDocumento::frmHelp_Show, false},
       {Qt::Key_F2, &frmDocumento::cmdDuplica_Click},
-      {Qt::Key_F3, &frmDocumento::cmdAbbandona_Click},
+      {Qt::Key_F3, &frmDocumento::cmdAbbandona_Click, false},
       {Qt::Key_F4, &frmDocumento::cmdSalva_Click},
       {Qt::Key_F5, &frmDocumento::cmdIndietro_Click},
       {Qt::Key_F6, &frmDocumento::cmdAvanti_Click},
@@ -111,25 +117,18 @@ bool frmDocumento::TastoFunzione(int tasto) {
       {Qt::Key_F11, &frmDocumento::cmdSommario_Click},
       {Qt::Key_F12, &frmDocumento::cmdEsci_Click},
   };
+  if ((tasto.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
   for (const Tasto& voce : kTasti) {
-    if (voce.tasto != tasto) continue;
-    if (LasciaPeriodico(tasto)) Corri(voce.gestore);
+    if (voce.tasto != tasto.key()) continue;
+    if (!voce.controlla || uscita_->ConfermaTasto()) Corri(voce.gestore);
     return true;
   }
   return false;
 }
 
-// A wrong code is told before any command that could drop it; a save answers an empty one itself.
-bool frmDocumento::LasciaPeriodico(int tasto) {
-  return tasto == Qt::Key_F1 || tasto == Qt::Key_F3 || ui_->txtCPer->text().isEmpty() ||
-         uscita_->Conferma();
-}
-
 bool frmDocumento::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::KeyPress) {
-    const auto* tasto = static_cast<QKeyEvent*>(evento);
-    const bool nudo = (tasto->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (nudo && TastoFunzione(tasto->key())) return true;
+    if (TastoFunzione(*static_cast<QKeyEvent*>(evento))) return true;
   } else if (evento->type() == QEvent::FocusIn) {
     const Qt::FocusReason motivo = static_cast<QFocusEvent*>(evento)->reason();
     if (CambiaControllo(motivo)) Entra(oggetto, motivo);

@@ -2,6 +2,7 @@
 // forms, and the function keys. Nothing reaches the archive before a save.
 #pragma once
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -51,9 +52,9 @@ class frmDocumento : public QWidget {
   // A command, between what the controls show before it and after it.
   void Corri(Gestore gestore);
   [[nodiscard]] static bool SenzaDocumento(Gestore gestore);
-  bool TastoFunzione(int tasto);
-  [[nodiscard]] bool LasciaPeriodico(int tasto);
+  bool TastoFunzione(const QKeyEvent& tasto);
   void Entra(const QObject* controllo, Qt::FocusReason motivo);
+  void EntraInLista(const QObject* controllo, Qt::FocusReason motivo);
   // Leaves without a question.
   void Scarica();
 

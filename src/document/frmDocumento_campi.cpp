@@ -20,24 +20,23 @@ struct CampoRiga {
   QLineEdit* Ui_frmDocumento::*controllo;
   QString C::*valore;
   bool seleziona;  // whole, when it gets the focus
-  bool tasti;      // passes function keys on
 };
 constexpr CampoRiga kRighe[] = {
-    {&F::txtID, &C::txtID, false, true},
-    {&F::txtAnnoPr, &C::txtAnnoPr, false, true},
-    {&F::txtCPer, &C::txtCPer, true, true},
-    {&F::txtRivista, &C::txtRivista, false, false},
-    {&F::txtFascicolo, &C::txtFascicolo, true, true},
-    {&F::txtAnnata, &C::txtAnnata, true, true},
-    {&F::txtVolume, &C::txtVolume, true, true},
-    {&F::txtParte, &C::txtParte, true, true},
-    {&F::txtSerie, &C::txtSerie, true, true},
-    {&F::txtSuppl, &C::txtSuppl, true, true},
-    {&F::txtSez, &C::txtSez, true, true},
-    {&F::txtGG, &C::txtGG, true, true},
-    {&F::txtMM, &C::txtMM, true, true},
-    {&F::txtAA, &C::txtAA, true, true},
-    {&F::txtPagine, &C::txtPagine, true, true},
+    {&F::txtID, &C::txtID, false},
+    {&F::txtAnnoPr, &C::txtAnnoPr, false},
+    {&F::txtCPer, &C::txtCPer, true},
+    {&F::txtRivista, &C::txtRivista, false},
+    {&F::txtFascicolo, &C::txtFascicolo, true},
+    {&F::txtAnnata, &C::txtAnnata, true},
+    {&F::txtVolume, &C::txtVolume, true},
+    {&F::txtParte, &C::txtParte, true},
+    {&F::txtSerie, &C::txtSerie, true},
+    {&F::txtSuppl, &C::txtSuppl, true},
+    {&F::txtSez, &C::txtSez, true},
+    {&F::txtGG, &C::txtGG, true},
+    {&F::txtMM, &C::txtMM, true},
+    {&F::txtAA, &C::txtAA, true},
+    {&F::txtPagine, &C::txtPagine, true},
 };
 
 struct CampoTesto {
@@ -70,6 +69,15 @@ constexpr CampoLista kListe[] = {
     {&F::lstFonte, &C::lstFonte, &Documento::IndiceFonte},
 };
 
+// The line that the commands of a list work on: -1 where none is selected.
+qint16 RigaScelta(const QListWidget& lista) {
+  const QListWidgetItem* corrente = lista.currentItem();
+  if (corrente != nullptr && corrente->isSelected())
+    return static_cast<qint16>(lista.row(corrente));
+  const QList<QListWidgetItem*> scelte = lista.selectedItems();
+  return scelte.isEmpty() ? qint16{-1} : static_cast<qint16>(lista.row(scelte.constFirst()));
+}
+
 // A tooltip breaks a long line only where it is rich text.
 QString Suggerimento(const QString& linea) {
   return QStringLiteral("<p>") + linea.toHtmlEscaped() + QStringLiteral("</p>");
@@ -80,7 +88,7 @@ QString Suggerimento(const QString& linea) {
 void frmDocumento::CollegaCampi() {
   for (const CampoRiga& campo : kRighe) {
     QLineEdit* controllo = (*ui_).*campo.controllo;
-    if (campo.tasti) controllo->installEventFilter(this);
+    controllo->installEventFilter(this);
     TieneInUnaRiga(*controllo);
     connect(controllo, &QLineEdit::textChanged, this, &frmDocumento::AggiornaStato);
     connect(controllo, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
@@ -100,12 +108,15 @@ void frmDocumento::CollegaCampi() {
   for (const CampoLista& campo : kListe) {
     QListWidget* controllo = (*ui_).*campo.controllo;
     controllo->installEventFilter(this);
-    const auto segue = [this, campo, controllo] {
-      if (!mostra_) documento_.*campo.indice = static_cast<qint16>(controllo->currentRow());
-    };
-    connect(controllo, &QListWidget::currentRowChanged, this, segue);
-    connect(controllo, &QListWidget::itemSelectionChanged, this, segue);
-    connect(controllo, &QListWidget::itemClicked, this, segue);
+    connect(controllo, &QListWidget::itemPressed, this, [this, campo, controllo] {
+      documento_.*campo.indice = static_cast<qint16>(controllo->currentRow());
+    });
+    connect(controllo, &QListWidget::itemSelectionChanged, this, [this, campo, controllo] {
+      if (!mostra_) documento_.*campo.indice = RigaScelta(*controllo);
+    });
+    connect(controllo, &QListWidget::currentRowChanged, this, [this, campo, controllo] {
+      if (!mostra_) documento_.*campo.indice = RigaScelta(*controllo);
+    });
   }
   uscita_ = std::make_unique<UscitaCampo>(*ui_->txtCPer, *ui_->cmdAbbandona,
                                           [this] { return txtCPer_LostFocus(); });
@@ -120,8 +131,18 @@ void frmDocumento::Entra(const QObject* controllo, Qt::FocusReason motivo) {
     QPlainTextEdit* testo = (*ui_).*campo.controllo;
     if (testo == controllo) SelezionaTutto(*testo, motivo);
   }
-  if (controllo == ui_->lstResponsabilita && ui_->lstResponsabilita->count() > 0) {
-    ui_->lstResponsabilita->setCurrentRow(0);
+  EntraInLista(controllo, motivo);
+}
+
+// The first person is selected on entering; the other lists keep what is selected, and where
+// nothing is, the keys take the first line, as the mouse takes what it points at.
+void frmDocumento::EntraInLista(const QObject* controllo, Qt::FocusReason motivo) {
+  for (const CampoLista& campo : kListe) {
+    QListWidget* lista = (*ui_).*campo.controllo;
+    if (lista != controllo || lista->count() == 0) continue;
+    const bool vuota = lista->selectedItems().isEmpty() && motivo != Qt::MouseFocusReason;
+    if (lista == ui_->lstResponsabilita || vuota) lista->setCurrentRow(0);
+    documento_.*campo.indice = RigaScelta(*lista);
   }
 }
 
@@ -175,8 +196,8 @@ void frmDocumento::MostraVoci(QComboBox& combo, const QStringList& voci) {
   combo.addItems(voci);
 }
 
-// Lines that only changed their words keep the operator's selection; where the commands have none,
-// none is shown.
+// Lines that only changed their words keep the operator's selection, as long as the commands work
+// on it too.
 void frmDocumento::MostraLista(QListWidget& lista, const QStringList& linee, qint16 scelta) {
   if (lista.count() != linee.size()) {
     lista.clear();

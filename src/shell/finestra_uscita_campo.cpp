@@ -17,12 +17,19 @@ bool DaTastiera(Qt::FocusReason motivo) {
 UscitaCampo::UscitaCampo(QLineEdit& campo, QWidget& abbandona, std::function<bool()> controllo)
     : campo_(campo), abbandona_(abbandona), controllo_(std::move(controllo)) {
   campo_.installEventFilter(this);
+  connect(&campo_, &QLineEdit::textChanged, this, [this] { rifiutato_ = false; });
 }
 
 bool UscitaCampo::Conferma() {
   // A mnemonic presses its button without moving the focus.
   if (campo_.hasFocus()) dovuto_ = true;
   return Controlla();
+}
+
+bool UscitaCampo::ConfermaTasto() {
+  if (inCorso_) return false;
+  if (campo_.hasFocus() && Libero()) return true;
+  return Conferma();
 }
 
 bool UscitaCampo::Controlla() {
@@ -32,6 +39,7 @@ bool UscitaCampo::Controlla() {
   inCorso_ = true;
   const bool valido = controllo_();
   inCorso_ = false;
+  rifiutato_ = !valido;
   if (!valido) campo_.setFocus();
   return valido;
 }
@@ -42,7 +50,9 @@ bool UscitaCampo::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::FocusOut && entrato_ && !inCorso_ && !finito_) {
     const Qt::FocusReason motivo = static_cast<QFocusEvent*>(evento)->reason();
     const bool chiude = QApplication::focusWidget() == &abbandona_ && !DaTastiera(motivo);
-    if (CambiaControllo(motivo) && !chiude) {
+    // The program moves the focus at the end of a command, which came after the check.
+    const bool controllato = motivo == Qt::OtherFocusReason && rifiutato_;
+    if (CambiaControllo(motivo) && !chiude && !controllato) {
       dovuto_ = true;
       // Once the focus has settled: a box in the midst of its move would leave a button pressed.
       QMetaObject::invokeMethod(
