@@ -37,7 +37,7 @@ bool ComeRecord(const QByteArray& inizio) {
   return kRecord.match(QString::fromLatin1(inizio)).hasMatch();
 }
 
-[[noreturn]] void Rifiuta(const QString& percorso, QLatin1StringView cosa) {
+[[noreturn]] void Rifiuta(const QString& percorso, const QString& cosa) {
   throw ErroreEsecuzione::ConDescrizione(
       Errore::ErroreAccessoFile,
       percorso + cosa + ": non vi si aggiunge nulla. Scegliere un file lexxdump"_L1);
@@ -47,9 +47,9 @@ bool ComeRecord(const QByteArray& inizio) {
 
 void RichiediUscita(const QString& percorso) {
   const QString trovato = PostoVero(TrovaPercorso(percorso));
-  if (EArchivio(Inizio(trovato))) Rifiuta(percorso, " è un archivio"_L1);
+  if (EArchivio(Inizio(trovato))) Rifiuta(percorso, u" è un archivio"_s);
   if (EListaConsegne(percorso) || EListaConsegne(trovato))
-    Rifiuta(percorso, " è una lista di consegne"_L1);
+    Rifiuta(percorso, u" è una lista di consegne"_s);
 }
 
 void RichiediLexxdump(const QString& percorso) {
@@ -58,7 +58,7 @@ void RichiediLexxdump(const QString& percorso) {
   const QFileInfo file(trovato);
   if (!file.isFile() || file.size() == 0) return;
   if (file.fileName().startsWith("lexxdump"_L1, Qt::CaseInsensitive)) return;
-  if (!ComeRecord(Inizio(trovato))) Rifiuta(percorso, " non è un lexxdump"_L1);
+  if (!ComeRecord(Inizio(trovato))) Rifiuta(percorso, u" non è un lexxdump"_s);
 }
 
 }  // namespace torvi
