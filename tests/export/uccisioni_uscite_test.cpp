@@ -158,5 +158,38 @@ TEST(UccisioneFileTesto, LeavesWhatWasThere) {
   EXPECT_EQ(Byte(cartella.Dump("note.A01")).size(), 200);
 }
 
+// Killed at each step of putting two files in place: both are of before until both are complete.
+TEST(UccisioneRegistro, FinishesOnlyASetThatWasComplete) {
+  for (int passi = 0; passi <= 4; ++passi) {
+    const CartellaDiProva cartella;
+    const QStringList posti = {cartella.Dump("errori.A01"), cartella.Dump("errFonte.A01")};
+    for (const QString& posto : posti) ScriviByte(posto, "prima");
+    EXPECT_TRUE(Ucciso(Figlio([&] {
+      int passo = 0;
+      const auto forse = [&] {
+        if (passo++ == passi) (void)raise(SIGKILL);
+      };
+      RegistroUscite registro(cartella.Percorso() + "/dump");
+      FileTesto primo(posti[0], Apertura::Scrittura, &registro);
+      FileTesto secondo(posti[1], Apertura::Scrittura, &registro);
+      for (FileTesto* file : {&primo, &secondo}) {
+        file->ScriviBlocco("dopo");
+        file->Close();
+        forse();
+      }
+      registro.Completo();
+      forse();
+      for (FileTesto* file : {&primo, &secondo}) {
+        file->VaAlPosto();
+        forse();
+      }
+    })));
+    RipristinaUscite(cartella.Percorso() + "/dump");
+    for (const QString& posto : posti)
+      EXPECT_EQ(Byte(posto), passi < 2 ? "prima" : "dopo") << passi;
+    EXPECT_EQ(InDump(cartella).size(), 2);
+  }
+}
+
 }  // namespace
 }  // namespace torvi
