@@ -13,7 +13,7 @@ bool Campo::Presente() const {
 }
 
 QString Campo::Testo() const {
-  if (Nullo()) throw ErroreEsecuzione(Errore::NullNonValido);
+  RichiediValore();
   if (const auto* testo = std::get_if<QString>(&valore_)) return *testo;
   if (const auto* reale = std::get_if<double>(&valore_)) return QString::number(*reale, 'g', 15);
   return QString::number(std::get<qint64>(valore_));
@@ -21,8 +21,13 @@ QString Campo::Testo() const {
 
 QString Campo::TestoOVuoto() const { return Nullo() ? QString() : Testo(); }
 
+void Campo::RichiediValore() const {
+  const auto* assente = std::get_if<Assente>(&valore_);
+  if (assente != nullptr) throw ErroreEsecuzione(Errore::NullNonValido, assente->colonna);
+}
+
 qint64 Campo::Intero() const {
-  if (Nullo()) throw ErroreEsecuzione(Errore::NullNonValido);
+  RichiediValore();
   if (const auto* intero = std::get_if<qint64>(&valore_)) return *intero;
   double reale = 0;
   if (const auto* valore = std::get_if<double>(&valore_)) {

@@ -9,6 +9,12 @@ namespace torvi {
 class Campo {
  public:
   Campo() = default;  // Null
+  // Null, read from a column that errors name.
+  [[nodiscard]] static Campo NullDi(const QString& colonna) {
+    Campo campo;
+    campo.valore_ = Assente{colonna};
+    return campo;
+  }
   Campo(int valore) : valore_(static_cast<qint64>(valore)) {}
   Campo(qint64 valore) : valore_(valore) {}
   Campo(double valore) : valore_(valore) {}
@@ -17,7 +23,7 @@ class Campo {
   Campo(QString&& valore) : valore_(std::move(valore)) {}
   Campo(const char* valore) : valore_(QString::fromUtf8(valore)) {}
 
-  [[nodiscard]] bool Nullo() const { return std::holds_alternative<std::monostate>(valore_); }
+  [[nodiscard]] bool Nullo() const { return std::holds_alternative<Assente>(valore_); }
   // Neither Null nor the empty string.
   [[nodiscard]] bool Presente() const;
   // Text as it stands, a number in decimals. Null: error 94.
@@ -31,11 +37,17 @@ class Campo {
   // Any number but 0 is true. Null: error 94.
   [[nodiscard]] bool Logico() const;
 
-  using Valore = std::variant<std::monostate, qint64, double, QString>;
+  struct Assente {
+    QString colonna;
+    friend bool operator==(const Assente&, const Assente&) { return true; }
+  };
+  using Valore = std::variant<Assente, qint64, double, QString>;
   [[nodiscard]] const Valore& Grezzo() const { return valore_; }
   friend bool operator==(const Campo&, const Campo&) = default;
 
  private:
+  void RichiediValore() const;
+
   Valore valore_;
 };
 

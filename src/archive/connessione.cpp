@@ -46,8 +46,6 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
   const std::string_view testo = guasto.what();
   if (testo.find("no such column") != std::string_view::npos) return Errore::ParametriInsufficienti;
   if (testo.find("no such table") != std::string_view::npos) return Errore::TabellaNonTrovata;
-  // The file was moved or deleted while it was open.
-  if (guasto.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) return Errore::DatabaseNonTrovato;
   for (const VoceGuasto& voce : kGuasti) {
     if (voce.codice == (guasto.getErrorCode() & 0xff)) return voce.numero;
   }
@@ -57,6 +55,21 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
 }  // namespace
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
+  if (guasto.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) {
+    return ErroreEsecuzione::ConDescrizione(
+        Errore::DatabaseNonTrovato,
+        QStringLiteral("Il file %1 è stato tolto o sostituito mentre era aperto: non vi è stato "
+                       "scritto niente. Chiudere l'archivio e riaprirlo.")
+            .arg(dettaglio));
+  }
+  // The engine names the column, with its table where the statement does.
+  const QString detto = QString::fromUtf8(guasto.what());
+  const QString senza = QStringLiteral("no such column: ");
+  if (detto.startsWith(senza)) {
+    return ErroreEsecuzione(
+        Errore::ParametriInsufficienti,
+        QStringLiteral("%1 (%2)").arg(detto.mid(senza.size()), dettaglio));
+  }
   // Only of a statement does the engine know more than the number says, in words of its own.
   if ((guasto.getErrorCode() & 0xff) != SQLITE_ERROR) {
     return ErroreEsecuzione(NumeroDi(guasto), dettaglio);

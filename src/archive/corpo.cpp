@@ -17,6 +17,13 @@ void RichiediTipo(const InfoTabella& tabella, int colonna, const Campo& valore) 
   }
 }
 
+// Somebody else has deleted the row meanwhile.
+void RichiediScritta(qint64 righe, const InfoTabella& tabella) {
+  if (righe > 0) return;
+  throw ErroreEsecuzione(Errore::NessunRecordCorrente,
+                         QStringLiteral("la riga di %1 è stata cancellata").arg(tabella.nome));
+}
+
 QList<Campo> Valori(const std::vector<std::pair<std::string, Campo>>& preparati) {
   QList<Campo> valori;
   for (const auto& [nome, valore] : preparati) valori += valore;
@@ -34,7 +41,10 @@ Campo Recordset::Corpo::Fields(int colonna) {
   for (const auto& [assegnato, valore] : preparati_) {
     if (assegnato == Colonne()[colonna]) return valore;
   }
-  return preparazione_ == Preparazione::Nuova ? Campo() : Valore(colonna);
+  if (preparazione_ == Preparazione::Nuova) return {};
+  Campo valore = Valore(colonna);
+  if (!valore.Nullo()) return valore;
+  return Campo::NullDi(Colonne().Testo(static_cast<std::size_t>(colonna)));
 }
 
 Riga Recordset::Corpo::Copia() {
@@ -119,18 +129,22 @@ void Recordset::Corpo::Aggiorna(const InfoTabella& tabella) {
   }
   QList<Campo> valori = Valori(preparati_);
   valori += Campo(ultimaModificata_);
-  Motore().Esegui(Motore().PreparaMotore("UPDATE [" + tabella.nome.toStdString() + "] SET " +
-                                         assegnazioni + " WHERE rowid=?"),
-                  valori);
+  RichiediScritta(Motore().Esegui(
+                      Motore().PreparaMotore("UPDATE [" + tabella.nome.toStdString() + "] SET " +
+                                             assegnazioni + " WHERE rowid=?"),
+                      valori),
+                  tabella);
 }
 
 void Recordset::Corpo::Delete() {
   const InfoTabella& tabella = TabellaDaScrivere();
   PrimaDiScrivere();
   const qint64 riga = Bookmark();
-  Motore().Esegui(
-      Motore().PreparaMotore("DELETE FROM [" + tabella.nome.toStdString() + "] WHERE rowid=?"),
-      {Campo(riga)});
+  RichiediScritta(Motore().Esegui(Motore().PreparaMotore("DELETE FROM [" +
+                                                         tabella.nome.toStdString() +
+                                                         "] WHERE rowid=?"),
+                                  {Campo(riga)}),
+                  tabella);
   RigaCancellata();
 }
 

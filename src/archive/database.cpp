@@ -74,6 +74,23 @@ Errore NumeroApertura(const SQLite::Exception& guasto) {
   }
 }
 
+// A write that a kill cut short is taken back before anybody reads: also by who may only read, as
+// long as the file itself lets him.
+void RiprendiInterrotta(const QString& percorso) {
+  if (QFileInfo(percorso + QLatin1String("-journal")).size() == 0) return;
+  try {
+    (void)ApriMotore(percorso, Accesso::LetturaScrittura);
+  } catch (const SQLite::Exception& guasto) {
+    const int codice = guasto.getErrorCode() & 0xff;
+    if (codice == SQLITE_BUSY || codice == SQLITE_NOTADB || codice == SQLITE_CORRUPT) throw;
+    throw ErroreEsecuzione::ConDescrizione(
+        Errore::PermessoNegato,
+        QStringLiteral("Nell'archivio %1 una scrittura è rimasta a metà e va tolta prima di "
+                       "leggerlo: aprirlo una volta con il permesso di scrivere nella sua cartella.")
+            .arg(percorso));
+  }
+}
+
 }  // namespace
 
 Database OpenDatabase(const QString& percorso, Accesso accesso) {
@@ -87,6 +104,7 @@ Database OpenDatabase(const QString& percorso, Accesso accesso) {
     throw ErroreEsecuzione(Errore::FormatoNonRiconosciuto, percorso);
   }
   try {
+    RiprendiInterrotta(percorso);
     return Database(std::make_shared<Connessione>(percorso, ApriMotore(percorso, accesso)));
   } catch (const SQLite::Exception& guasto) {
     throw ErroreEsecuzione(NumeroApertura(guasto), percorso);
@@ -128,6 +146,7 @@ std::vector<Riga> Database::LeggiRighe(const QString& istruzione,
     valori.reserve(righe->colonne->Quante());
     for (std::size_t i = 0; i < righe->colonne->Quante(); ++i) {
       valori.push_back(righe->motore->Leggi(righe->Spostamento() + static_cast<int>(i)));
+      if (valori.back().Nullo()) valori.back() = Campo::NullDi(righe->colonne->Testo(i));
     }
     lette.emplace_back(righe->colonne, std::move(valori));
   }

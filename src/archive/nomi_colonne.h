@@ -1,7 +1,7 @@
 // The names of a table's or a statement's columns.
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 #include <array>
 #include <string>
 #include <string_view>
@@ -13,12 +13,17 @@ namespace torvi {
 // to the column where it was found the time before.
 class NomiColonne {
  public:
-  void Aggiungi(std::string_view nome) { nomi_.emplace_back(nome); }
+  void Aggiungi(std::string_view nome) {
+    nomi_.emplace_back(nome);
+    testi_.push_back(QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
+  }
   // Without regard to case, the first of equal ones; -1 where there is none.
   [[nodiscard]] int Posizione(std::string_view nome) const;
   // The same; error 3265 where there is none.
   [[nodiscard]] int Richiedi(std::string_view nome) const;
   [[nodiscard]] std::size_t Quante() const { return nomi_.size(); }
+  // The same name for words that are shown, made once.
+  [[nodiscard]] const QString& Testo(std::size_t posto) const { return testi_[posto]; }
   [[nodiscard]] const std::string& operator[](std::size_t posto) const { return nomi_[posto]; }
 
  private:
@@ -30,6 +35,7 @@ class NomiColonne {
   [[nodiscard]] int Cerca(std::string_view nome) const;
 
   std::vector<std::string> nomi_;
+  std::vector<QString> testi_;
   mutable std::vector<Grafia> grafie_;
   mutable std::array<quint16, 256> ricordate_{};  // in grafie_
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/finestra_frecce.h"
 #include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
@@ -17,6 +18,7 @@ frmRicerca::frmRicerca(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre)
   }
   ui_->ComboCampo->setCurrentIndex(-1);
   AzzeraRicerca(stato_);
+  new PrimaFreccia(*ui_->lstRisultato);
   AdattaAlloSchermo(*this);
   // Also the item that is chosen already counts as clicked.
   connect(ui_->ComboCampo, &QComboBox::currentIndexChanged, this, &frmRicerca::ComboCampo_Click);

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include "archive/errore.h"
+
 namespace torvi {
 namespace {
 
@@ -22,12 +24,31 @@ static_assert(kColonne.size() == static_cast<std::size_t>(ColonnaFonte::IDStato)
 
 }  // namespace
 
-QString IstruzioneFonti() {
-  QStringList colonne = {QStringLiteral("legameDocFonte.IDDoc")};
-  for (const QLatin1StringView colonna : kColonne) colonne += "tabFonte."_L1 + colonna;
+ColonneAssenti FontiSenza(const Database& archivio) {
+  const QStringList presenti = archivio.Colonne(QStringLiteral("tabFonte"));
+  ColonneAssenti assenti = 0;
+  for (std::size_t i = 0; i < kColonne.size(); ++i) {
+    if (!presenti.contains(kColonne.at(i), Qt::CaseInsensitive)) assenti |= 1U << (i + 1);
+  }
+  return assenti;
+}
+
+QString IstruzioneFonti(ColonneAssenti assenti) {
+  const QString documento = QStringLiteral("legameDocFonte.IDDoc");
+  QStringList colonne = {documento};
+  for (std::size_t i = 0; i < kColonne.size(); ++i) {
+    const bool manca = (assenti >> (i + 1) & 1U) != 0;
+    colonne += manca ? documento : "tabFonte."_L1 + kColonne.at(i);
+  }
   return "select "_L1 + colonne.join(", "_L1) +
          " from legameDocFonte, tabFonte where legameDocFonte.IDFnt = tabFonte.IDFonte "
          "order by legameDocFonte.IDDoc"_L1;
+}
+
+void FonteLetta::Manca(ColonnaFonte colonna) {
+  throw ErroreEsecuzione(
+      Errore::ParametriInsufficienti,
+      "TabFonte."_L1 + kColonne.at(static_cast<std::size_t>(colonna) - 1));
 }
 
 }  // namespace torvi

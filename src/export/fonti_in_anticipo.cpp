@@ -29,8 +29,10 @@ void FontiInAnticipo::LeggiTutte(const std::stop_token& fermo, const QString& pe
   std::exception_ptr guasto;
   try {
     const Database suo = OpenDatabase(percorso, Accesso::SolaLettura);
-    for (Recordset righe = suo.OpenRecordset(IstruzioneFonti()); !righe.Eof(); righe.MoveNext()) {
-      FonteLetta fonte(righe.Copia());
+    const ColonneAssenti assenti = FontiSenza(suo);
+    Recordset righe = suo.OpenRecordset(IstruzioneFonti(assenti));
+    for (; !righe.Eof(); righe.MoveNext()) {
+      FonteLetta fonte(righe.Copia(), assenti);
       // A link without a document belongs to none.
       if (fonte[ColonnaFonte::IDDoc].Nullo()) continue;
       if (mazzo.size() >= kMazzo && Documento(fonte) != Documento(mazzo.back())) {

@@ -40,7 +40,7 @@ LegamiDocumento::LegamiDocumento(const Database& archivio)
             QStringLiteral("select legameDocTesto.IDDoc, legameDocTesto.Tipo, tabTesto.testo from "
                            "legameDocTesto, tabTesto where legameDocTesto.IDTesto = "
                            "tabTesto.IDTesto order by legameDocTesto.IDDoc")),
-      fonti(archivio, IstruzioneFonti()),
+      fonti(archivio, IstruzioneFonti(FontiSenza(archivio))),
       classi(archivio,
              QStringLiteral("select * from legameDocClass order by legameDocClass.IDDoc")),
       classi1999(archivio,

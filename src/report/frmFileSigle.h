@@ -19,6 +19,7 @@ class frmFileSigle : public QDialog {
  public:
   frmFileSigle(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre = nullptr);
   ~frmFileSigle() override;
+  void done(int esito) override;
 
  private:
   void cmdApriFileSigle_Click();
@@ -30,6 +31,7 @@ class frmFileSigle : public QDialog {
   std::unique_ptr<Ui::frmFileSigle> ui_;
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
+  QString fileBatchPrima_;
   QString fileSigle_;  // the file on screen
 };
 
