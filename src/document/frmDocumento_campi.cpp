@@ -40,7 +40,7 @@ constexpr CampoRiga kRighe[] = {
 };
 
 struct CampoTesto {
-  QPlainTextEdit* Ui_frmDocumento::*controllo;
+  TestoDiUnaRiga* Ui_frmDocumento::*controllo;
   QString C::*valore;
 };
 constexpr CampoTesto kTesti[] = {{&F::txtTitolo, &C::txtTitolo}, {&F::txtNota, &C::txtNota}};

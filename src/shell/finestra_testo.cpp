@@ -1,5 +1,7 @@
 #include "shell/finestra_testo.h"
 
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QVariant>
@@ -8,6 +10,11 @@ namespace torvi {
 namespace {
 
 constexpr const char* kTestoDato = "testoDato";
+
+QString InUnaRiga(QString testo) {
+  static const QRegularExpression fineRiga(QStringLiteral("\\r\\n|[\\r\\n\u2028\u2029]"));
+  return testo.replace(fineRiga, QStringLiteral(" "));
+}
 
 }  // namespace
 
@@ -34,10 +41,23 @@ bool LasciaTesto(const QPlainTextEdit& controllo, Dialoghi& dialoghi) {
 
 void TieneInUnaRiga(QLineEdit& campo) {
   QObject::connect(&campo, &QLineEdit::textEdited, &campo, [&campo](const QString& testo) {
-    static const QRegularExpression fineRiga(QStringLiteral("\\r\\n|[\\r\\n\u2028\u2029]"));
-    if (!testo.contains(fineRiga)) return;
-    campo.setText(QString(testo).replace(fineRiga, QStringLiteral(" ")));
+    const QString una = InUnaRiga(testo);
+    if (una != testo) campo.setText(una);
   });
+}
+
+void TestoDiUnaRiga::insertFromMimeData(const QMimeData* dati) {
+  if (dati->hasText()) insertPlainText(InUnaRiga(dati->text()));
+  ensureCursorVisible();
+}
+
+void TestoDiUnaRiga::keyPressEvent(QKeyEvent* evento) {
+  if (evento->matches(QKeySequence::InsertParagraphSeparator) ||
+      evento->matches(QKeySequence::InsertLineSeparator)) {
+    insertPlainText(QStringLiteral(" "));
+  } else {
+    QPlainTextEdit::keyPressEvent(evento);
+  }
 }
 
 }  // namespace torvi

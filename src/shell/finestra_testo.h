@@ -19,4 +19,16 @@ void MostraTesto(QPlainTextEdit& controllo, const QString& testo);
 // nobody sees there would tear the record that is exported.
 void TieneInUnaRiga(QLineEdit& campo);
 
+// A text that is one line, however many the screen breaks it into: a line end that is typed, pasted
+// or dropped becomes a blank, so that the save does not join the words around it. One that comes
+// from the archive stays.
+class TestoDiUnaRiga : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+ protected:
+  void insertFromMimeData(const QMimeData* dati) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+};
+
 }  // namespace torvi
