@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "archive/errore.h"
 #include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
@@ -40,7 +39,6 @@ frmSceltaDoc::frmSceltaDoc(StatoGlobale& stato, Dialoghi& dialoghi, ModoScelta m
     : QDialog(padre),
       ui_(std::make_unique<Ui::frmSceltaDoc>()),
       stato_(stato),
-      archivio_(stato.DbArchivio),
       dialoghi_(dialoghi) {
   ui_->setupUi(this);
   ui_->cmdEdita->setEnabled(modo == ModoScelta::Edita);
@@ -84,18 +82,7 @@ void frmSceltaDoc::cmdEdita_Click() {
   if (EditaScelta(stato_, dialoghi_, scelta_)) accept();
 }
 
-void frmSceltaDoc::ControllaArchivio() const {
-  if (archivio_.Aperto() && stato_.DbArchivio.Aperto() &&
-      archivio_.Name() == stato_.DbArchivio.Name()) {
-    return;
-  }
-  throw ErroreEsecuzione::ConDescrizione(
-      Errore::OggettoChiuso,
-      QStringLiteral("L'elenco è di un archivio che non è più quello aperto: va chiuso e rifatto"));
-}
-
 void frmSceltaDoc::cmdCancella_Click() {
-  ControllaArchivio();
   QListWidget& lista = *ui_->lstDocumento;
   QStringList linee;
   for (int riga = 0; riga < lista.count(); ++riga) {

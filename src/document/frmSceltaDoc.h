@@ -35,8 +35,6 @@ class frmSceltaDoc : public QDialog {
 
  private:
   void Mostra();
-  // Error 3420 where the archive in hand is no longer that of the list.
-  void ControllaArchivio() const;
   void SegueCorrente();
   void lstDocumento_Click();
   void cmdEdita_Click();
@@ -44,7 +42,6 @@ class frmSceltaDoc : public QDialog {
 
   std::unique_ptr<Ui::frmSceltaDoc> ui_;
   StatoGlobale& stato_;
-  const Database archivio_;  // the one whose documents are listed
   Dialoghi& dialoghi_;
   SceltaDoc scelta_;
   bool caricata_ = true;
