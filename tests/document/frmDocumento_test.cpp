@@ -197,7 +197,7 @@ TEST_F(FormaDocumento, CombosTakeAnyPartOfAnItem) {
   }
   // A command does not wait until the combo is left.
   Vai("ComboLIN");
-  Batti("francese{Esc}{F4}");
+  Batti("rancese{Esc}{F4}");
   EXPECT_TRUE(Voce("ComboLIN").contains("franc"));
   EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "TabDocumento", {"LIN"}).constFirst(),
             Voce("ComboLIN").left(2));
