@@ -56,9 +56,9 @@ FuocoAlRitorno::FuocoAlRitorno(QWidget& principale)
 bool FuocoAlRitorno::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() != QEvent::Hide) return false;
   const auto* dialogo = qobject_cast<QDialog*>(oggetto);
-  if (dialogo == nullptr || !dialogo->isActiveWindow() || dialogo->parentWidget() == nullptr) {
-    return false;
-  }
+  // The one that was active is so no more when it is told that it is hidden.
+  const bool attivo = dialogo != nullptr && QApplication::activeWindow() == nullptr;
+  if (!attivo || dialogo->parentWidget() == nullptr) return false;
   // Once all is gone that goes with it.
   const QPointer<QWidget> sotto = dialogo->parentWidget()->window();
   QMetaObject::invokeMethod(
