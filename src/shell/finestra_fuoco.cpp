@@ -64,9 +64,11 @@ bool FuocoAlRitorno::eventFilter(QObject* oggetto, QEvent* evento) {
   QMetaObject::invokeMethod(
       this,
       [this, sotto] {
+        if (QApplication::activeWindow() != nullptr) return;
         QWidget* finestra = QApplication::activeModalWidget();
-        if (finestra == nullptr)
+        if (finestra == nullptr) {
           finestra = sotto != nullptr && sotto->isVisible() ? sotto.data() : &principale_;
+        }
         if (finestra->isVisible()) finestra->activateWindow();
       },
       Qt::QueuedConnection);
