@@ -64,11 +64,11 @@ bool FuocoAlRitorno::eventFilter(QObject* oggetto, QEvent* evento) {
   QMetaObject::invokeMethod(
       this,
       [this, sotto] {
-        if (QApplication::activeWindow() != nullptr) return;
-        QWidget* finestra = QApplication::activeModalWidget();
-        if (finestra == nullptr) {
-          finestra = sotto != nullptr && sotto->isVisible() ? sotto.data() : &principale_;
-        }
+        // A window that is still there has its focus from the window manager.
+        if (QApplication::activeWindow() != nullptr || (sotto != nullptr && sotto->isVisible()))
+          return;
+        QWidget* modale = QApplication::activeModalWidget();
+        QWidget* finestra = modale != nullptr ? modale : &principale_;
         if (finestra->isVisible()) finestra->activateWindow();
       },
       Qt::QueuedConnection);
