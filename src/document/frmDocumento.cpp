@@ -129,6 +129,12 @@ bool frmDocumento::TastoFunzione(const QKeyEvent& tasto) {
 bool frmDocumento::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::KeyPress) {
     if (TastoFunzione(*static_cast<QKeyEvent*>(evento))) return true;
+  } else if (evento->type() == QEvent::Shortcut) {
+    // A disabled menu with the same letter would make it only take the focus.
+    if (auto* pulsante = qobject_cast<QPushButton*>(oggetto)) {
+      pulsante->click();
+      return true;
+    }
   } else if (evento->type() == QEvent::FocusIn) {
     const Qt::FocusReason motivo = static_cast<QFocusEvent*>(evento)->reason();
     if (CambiaControllo(motivo)) Entra(oggetto, motivo);

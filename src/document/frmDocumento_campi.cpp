@@ -40,7 +40,7 @@ constexpr CampoRiga kRighe[] = {
 };
 
 struct CampoTesto {
-  QPlainTextEdit* Ui_frmDocumento::*controllo;
+  TestoDiUnaRiga* Ui_frmDocumento::*controllo;
   QString C::*valore;
 };
 constexpr CampoTesto kTesti[] = {{&F::txtTitolo, &C::txtTitolo}, {&F::txtNota, &C::txtNota}};
@@ -96,7 +96,6 @@ void frmDocumento::CollegaCampi() {
   for (const CampoTesto& campo : kTesti) {
     QPlainTextEdit* controllo = (*ui_).*campo.controllo;
     controllo->installEventFilter(this);
-    TieneInUnaRiga(*controllo);
     connect(controllo, &QPlainTextEdit::textChanged, this, &frmDocumento::AggiornaStato);
   }
   for (const CampoCombo& campo : kCombo) {

@@ -39,8 +39,7 @@ frmSceltaDoc::frmSceltaDoc(StatoGlobale& stato, Dialoghi& dialoghi, ModoScelta m
     : QDialog(padre),
       ui_(std::make_unique<Ui::frmSceltaDoc>()),
       stato_(stato),
-      dialoghi_(dialoghi),
-      archivio_(stato.DbArchivio) {
+      dialoghi_(dialoghi) {
   ui_->setupUi(this);
   ui_->cmdEdita->setEnabled(modo == ModoScelta::Edita);
   ui_->cmdCancella->setEnabled(modo == ModoScelta::Cancella);
@@ -83,17 +82,7 @@ void frmSceltaDoc::cmdEdita_Click() {
   if (EditaScelta(stato_, dialoghi_, scelta_)) accept();
 }
 
-void frmSceltaDoc::ChiudiElenchi(const QWidget& padre) {
-  for (auto* aperta : padre.findChildren<frmSceltaDoc*>()) aperta->close();
-}
-
 void frmSceltaDoc::cmdCancella_Click() {
-  // Another archive has other documents under the same numbers.
-  if (!archivio_.Aperto() && stato_.DbArchivio.Aperto()) {
-    close();
-    throw ErroreEsecuzione::ConDescrizione(
-        Errore::OggettoChiuso, QStringLiteral("L'elenco è di un archivio che è stato chiuso."));
-  }
   QListWidget& lista = *ui_->lstDocumento;
   QStringList linee;
   for (int riga = 0; riga < lista.count(); ++riga) {

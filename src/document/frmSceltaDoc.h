@@ -27,8 +27,6 @@ class frmSceltaDoc : public QDialog {
   // Fills its list and chooses the first line.
   frmSceltaDoc(StatoGlobale& stato, Dialoghi& dialoghi, ModoScelta modo, QWidget* padre = nullptr);
   ~frmSceltaDoc() override;
-  // The archive is closed: lists of its documents go.
-  static void ChiudiElenchi(const QWidget& padre);
   // False: there is no document, and the form is not to be shown.
   [[nodiscard]] bool Caricata() const { return caricata_; }
 
@@ -45,7 +43,6 @@ class frmSceltaDoc : public QDialog {
   std::unique_ptr<Ui::frmSceltaDoc> ui_;
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
-  Database archivio_;  // whose documents the list shows
   SceltaDoc scelta_;
   bool caricata_ = true;
 };

@@ -11,6 +11,16 @@ const QString kAttenzione = QStringLiteral("Attenzione!");
 
 QString NumeroInterno(const QString& linea) { return linea.section(QLatin1Char(' '), 0, 0); }
 
+// Numbers of one archive are not to delete documents of another.
+void ControllaArchivio(const StatoGlobale& stato, const SceltaDoc& scelta) {
+  const Database& suo = scelta.archivio;
+  if (suo.Aperto() && stato.DbArchivio.Aperto() && suo.Name() == stato.DbArchivio.Name()) return;
+  throw ErroreEsecuzione::ConDescrizione(
+      Errore::OggettoChiuso,
+      QStringLiteral("L'elenco è di un archivio che non è più quello aperto: va chiuso e "
+                     "riaperto."));
+}
+
 void Cancella(const Database& archivio, const QStringList& linee) {
   UnitaDiScrittura unita(archivio);
   for (const QString& linea : linee) {
@@ -42,6 +52,7 @@ void RiempiScelta(StatoGlobale& stato, Dialoghi& dialoghi, SceltaDoc& scelta) {
   Recordset documenti = stato.DbArchivio.OpenRecordset(
       QStringLiteral("select * from TabDocumento order by IDDocumento"));
   SceltaDoc nuova;
+  nuova.archivio = stato.DbArchivio;
   if (documenti.Eof()) dialoghi.Messaggio(QStringLiteral("Nessun documento presente!"));
   const int colonna = documenti.Colonna("IDDocumento");
   for (qint64 contatore = stato.ContatoreDoc; !documenti.Eof(); documenti.MoveNext()) {
@@ -78,6 +89,7 @@ bool CancellaScelte(StatoGlobale& stato, Dialoghi& dialoghi, SceltaDoc& scelta,
     return false;
   }
   try {
+    ControllaArchivio(stato, scelta);
     Cancella(stato.DbArchivio, linee);
     RiempiScelta(stato, dialoghi, scelta);
     return true;

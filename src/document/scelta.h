@@ -16,6 +16,7 @@ enum class ModoScelta { Edita, Cancella };
 struct SceltaDoc {
   QStringList lstDocumento;  // "IDDocumento --> delivery number"
   int indice = -1;           // of the last click, -1 when none
+  Database archivio;         // the one whose documents are listed
 };
 
 // The start of the two menu commands. `carica` makes the form and tells whether it stayed; if it

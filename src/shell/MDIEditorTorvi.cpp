@@ -19,7 +19,9 @@
 #include "report/stampa_html.h"
 #include "report/stampa_rtf.h"
 #include "shell/archivio_comandi.h"
+#include "shell/finestra_fuoco.h"
 #include "shell/finestra_misure.h"
+#include "shell/finestra_mnemonici.h"
 #include "shell/guardia.h"
 #include "ui_MDIEditorTorvi.h"
 
@@ -88,6 +90,10 @@ MDIEditorTorvi::MDIEditorTorvi(StatoGlobale& stato, QWidget* padre)
     separatore->setSeparator(true);
   }
   for (const VoceMenu& voce : kVociMenu) Collega(voce);
+  // "Catalogo norme", which does nothing, has the same letter.
+  new MnemonicoDiVoce(*ui_->mnuAggiornamento, *ui_->mnuAggiornamentoCancella);
+  new MnemoniciDellaBarra(*ui_->menubar);
+  new FuocoAlRitorno(*this);
   statoDocumento_->setObjectName(QStringLiteral("statoDocumento"));
   statoDocumento_->setContentsMargins(0, 0, 8, 0);
   statusBar()->addPermanentWidget(statoDocumento_);
@@ -130,7 +136,7 @@ void MDIEditorTorvi::mnuFileApri_Click() {
 void MDIEditorTorvi::mnuFileChiudi_Click() {
   // Also where there is nothing to close, as after a batch: the menus must let another be opened.
   const auto fase = qScopeGuard([this] { ImpostaFase(FaseMenu::NessunArchivio); });
-  frmSceltaDoc::ChiudiElenchi(*this);
+  for (auto* elenco : findChildren<frmSceltaDoc*>()) elenco->close();
   ComandoChiudi(stato_);
 }
 

@@ -1,6 +1,9 @@
 #include "shell/finestra_fuoco.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QFocusEvent>
+#include <QPointer>
 
 namespace torvi {
 namespace {
@@ -43,6 +46,33 @@ void SelezionaTutto(QPlainTextEdit& campo, Qt::FocusReason motivo) { Seleziona(c
 
 void SelezionaConIlFuoco(QLineEdit& campo) {
   new SelezioneConIlFuoco(campo);  // goes with the field
+}
+
+FuocoAlRitorno::FuocoAlRitorno(QWidget& principale)
+    : QObject(&principale), principale_(principale) {
+  qApp->installEventFilter(this);
+}
+
+bool FuocoAlRitorno::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() != QEvent::Hide) return false;
+  const auto* dialogo = qobject_cast<QDialog*>(oggetto);
+  // The one that was active is so no more when it is told that it is hidden.
+  const bool attivo = dialogo != nullptr && QApplication::activeWindow() == nullptr;
+  if (!attivo || dialogo->parentWidget() == nullptr) return false;
+  // Once all is gone that goes with it.
+  const QPointer<QWidget> sotto = dialogo->parentWidget()->window();
+  QMetaObject::invokeMethod(
+      this,
+      [this, sotto] {
+        // A window that is still there has its focus from the window manager.
+        if (QApplication::activeWindow() != nullptr || (sotto != nullptr && sotto->isVisible()))
+          return;
+        QWidget* modale = QApplication::activeModalWidget();
+        QWidget* finestra = modale != nullptr ? modale : &principale_;
+        if (finestra->isVisible()) finestra->activateWindow();
+      },
+      Qt::QueuedConnection);
+  return false;
 }
 
 }  // namespace torvi

@@ -17,4 +17,16 @@ void SelezionaTutto(QPlainTextEdit& campo, Qt::FocusReason motivo);
 // Does so each time that the operator comes to the field.
 void SelezionaConIlFuoco(QLineEdit& campo);
 
+// When a dialog goes, the window that it stood over has the focus back, also where no window
+// manager sees to it, and where a box goes together with its form.
+class FuocoAlRitorno : public QObject {
+ public:
+  // Watches all dialogs as long as the main window lives.
+  explicit FuocoAlRitorno(QWidget& principale);
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  QWidget& principale_;
+};
+
 }  // namespace torvi

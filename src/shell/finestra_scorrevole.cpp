@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace torvi {
@@ -16,7 +17,6 @@ class Scorrimento : public QScrollArea {
   explicit Scorrimento(QWidget& forma) : QScrollArea(&forma) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*prima*/, QWidget* ora) {
       if (ora != nullptr && widget() != nullptr && widget()->isAncestorOf(ora)) {
         ensureWidgetVisible(ora, kMargine, kMargine);
@@ -24,8 +24,30 @@ class Scorrimento : public QScrollArea {
     });
   }
   [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+  bool eventFilter(QObject* oggetto, QEvent* evento) override {
+    if (oggetto == widget() && evento->type() == QEvent::LayoutRequest) Adatta();
+    return QScrollArea::eventFilter(oggetto, evento);
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* evento) override {
+    Adatta();
+    QScrollArea::resizeEvent(evento);
+  }
 
  private:
+  // As large as there is room, never smaller than its controls can be. The area's own way would
+  // scroll a form with lines that wrap as soon as it has not the size that it would like.
+  void Adatta() {
+    const QSize minimo = widget()->minimumSizeHint();
+    QSize posto = maximumViewportSize();
+    if (minimo.height() > posto.height()) posto.rwidth() -= verticalScrollBar()->sizeHint().width();
+    if (minimo.width() > posto.width()) {
+      posto.rheight() -= horizontalScrollBar()->sizeHint().height();
+    }
+    widget()->resize(posto.expandedTo(minimo));
+  }
+
   static constexpr int kMargine = 24;  // the label of a field comes into sight with it
 };
 

@@ -1,5 +1,7 @@
 #include "shell/finestra_testo.h"
 
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QVariant>
@@ -8,14 +10,16 @@ namespace torvi {
 namespace {
 
 constexpr const char* kTestoDato = "testoDato";
-constexpr const char* kSiMostra = "siMostra";
+
+QString InUnaRiga(QString testo) {
+  static const QRegularExpression fineRiga(QStringLiteral("\\r\\n|[\\r\\n\u2028\u2029]"));
+  return testo.replace(fineRiga, QStringLiteral(" "));
+}
 
 }  // namespace
 
 void MostraTesto(QPlainTextEdit& controllo, const QString& testo) {
-  controllo.setProperty(kSiMostra, true);
   controllo.setPlainText(testo);
-  controllo.setProperty(kSiMostra, false);
   controllo.setProperty(kTestoDato, testo);
   controllo.document()->setModified(false);
 }
@@ -35,30 +39,25 @@ bool LasciaTesto(const QPlainTextEdit& controllo, Dialoghi& dialoghi) {
              Risposta::Ok;
 }
 
-void TieneInUnaRiga(QPlainTextEdit& controllo) {
-  QObject::connect(&controllo, &QPlainTextEdit::textChanged, &controllo, [&controllo] {
-    if (controllo.property(kSiMostra).toBool()) return;
-    const QTextDocument& documento = *controllo.document();
-    QTextCursor cursore = controllo.textCursor();
-    // The last sign ends the document and is nobody's text.
-    for (int posto = 0; posto + 1 < documento.characterCount(); ++posto) {
-      const QChar segno = documento.characterAt(posto);
-      if (segno != QChar::ParagraphSeparator && segno != QChar::LineSeparator) continue;
-      cursore.joinPreviousEditBlock();
-      cursore.setPosition(posto);
-      cursore.deleteChar();
-      cursore.insertText(QStringLiteral(" "));
-      cursore.endEditBlock();
-    }
+void TieneInUnaRiga(QLineEdit& campo) {
+  QObject::connect(&campo, &QLineEdit::textEdited, &campo, [&campo](const QString& testo) {
+    const QString una = InUnaRiga(testo);
+    if (una != testo) campo.setText(una);
   });
 }
 
-void TieneInUnaRiga(QLineEdit& campo) {
-  QObject::connect(&campo, &QLineEdit::textEdited, &campo, [&campo](const QString& testo) {
-    static const QRegularExpression fineRiga(QStringLiteral("\\r\\n|[\\r\\n\u2028\u2029]"));
-    if (!testo.contains(fineRiga)) return;
-    campo.setText(QString(testo).replace(fineRiga, QStringLiteral(" ")));
-  });
+void TestoDiUnaRiga::insertFromMimeData(const QMimeData* dati) {
+  if (dati->hasText()) insertPlainText(InUnaRiga(dati->text()));
+  ensureCursorVisible();
+}
+
+void TestoDiUnaRiga::keyPressEvent(QKeyEvent* evento) {
+  if (evento->matches(QKeySequence::InsertParagraphSeparator) ||
+      evento->matches(QKeySequence::InsertLineSeparator)) {
+    insertPlainText(QStringLiteral(" "));
+  } else {
+    QPlainTextEdit::keyPressEvent(evento);
+  }
 }
 
 }  // namespace torvi

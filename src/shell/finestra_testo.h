@@ -18,8 +18,17 @@ void MostraTesto(QPlainTextEdit& controllo, const QString& testo);
 // A text of several lines that is pasted into the field becomes one, with blanks: line ends that
 // nobody sees there would tear the record that is exported.
 void TieneInUnaRiga(QLineEdit& campo);
-// The same for a control of several lines whose text is stored as one. What it was given to show
-// stays as it is until somebody types.
-void TieneInUnaRiga(QPlainTextEdit& controllo);
+
+// A text that is one line, however many the screen breaks it into: a line end that is typed, pasted
+// or dropped becomes a blank, so that the save does not join the words around it. One that comes
+// from the archive stays.
+class TestoDiUnaRiga : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+ protected:
+  void insertFromMimeData(const QMimeData* dati) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+};
 
 }  // namespace torvi

@@ -78,12 +78,18 @@ TEST_F(FormeRicerca, DeletesTheSelectedDocumentsAndStaysOpen) {
   EXPECT_EQ(Linee(Trova<QListWidget>(*forma, "lstDocumento")).join('|'), "5 --> 2001A0012");
   // The rows that belonged to the documents stay.
   EXPECT_FALSE(stato.DbArchivio.OpenRecordset("LegameDocTesto").Eof());
+  const QString altra = prova.cartella.Mdb("B01.MDB");
+  ASSERT_TRUE(QFile::copy(stato.DbArchivio.Name(), altra));
   stato.DbArchivio.Close();
+  stato.DbArchivio = OpenDatabase(altra);
   Trova<QListWidget>(*forma, "lstDocumento").selectAll();
   prova.dialoghi.AttendeDomanda("Confermi cancellazione?", "Attenzione!", Pulsanti::SiNo,
                                 Risposta::Si);
   Clic(*forma, "cmdCancella");
-  EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith("Error number: 3420\r"));
+  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(),
+            "Error number: 3420\rL'elenco è di un archivio che non è più quello aperto: va chiuso "
+            "e riaperto.");
+  EXPECT_EQ(RigheTesto(stato.DbArchivio, "TabDocumento", {"IDDocumento"}), QStringList("5"));
   EXPECT_EQ(Linee(Trova<QListWidget>(*forma, "lstDocumento")).join('|'), "5 --> 2001A0012");
   Clic(*forma, "cmdAnnulla");
   EXPECT_TRUE(QTest::qWaitFor([&] { return forma.isNull(); }));

@@ -104,8 +104,9 @@ TEST_F(FormaDocumento, PastedLinesBecomeOneInAFieldOfOneLine) {
   Incolla("txtSez", "uno\r\ndue\ntre");
   EXPECT_EQ(Riga("txtSez"), "uno due tre");
   for (const char* campo : {"txtTitolo", "txtNota"}) {
-    Incolla(campo, "uno\ndue\r\ntre");
-    EXPECT_EQ(Testo(campo), "uno due tre");
+    Incolla(campo, "uno\r\ndue\ntre");
+    Batti("{Return}quattro");
+    EXPECT_EQ(Testo(campo), "uno due tre quattro");
   }
 }
 
@@ -128,10 +129,15 @@ TEST_F(FormaDocumento, FunctionKeysReachTheirCommands) {
   BattiConForme("{F11}", {Forma("Testo sommario", "{Esc}")});
   EXPECT_EQ(prova.stato.TestoRiassunto, "Un testo");
   EXPECT_EQ(forma->Stato(), "Documento 3: nuovo, modificato");
-  // From a button no key reaches a command.
-  Vai("cmdNew");
-  Batti("{F4}");
-  EXPECT_EQ(prova.dialoghi.Messaggi().count("periodico non ancora immesso"), 1);
+  for (const char* controllo : {"cmdNew", "cmdAbbandona", "txtRivista", "lstFonte"}) {
+    prova.dialoghi.Messaggio("prima", {}, Icona::Nessuna);
+    Vai(controllo);
+    Batti("{Ctrl+F4}{Ctrl+F6}{Shift+F3}{Alt+F12}");
+    EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "prima") << controllo;
+    Vai(controllo);
+    Batti("{F4}");
+    EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "periodico non ancora immesso") << controllo;
+  }
   Vai("txtAA");
   const QSignalSpy scaricata(forma.get(), &frmDocumento::Scaricata);
   Batti("{F3}");
@@ -146,14 +152,29 @@ TEST_F(FormaDocumento, ChecksTheJournalOnLeavingIt) {
   EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Codice periodico errato!");
   EXPECT_EQ(prova.dialoghi.Parole().last().titolo, "Attenzione!");
   EXPECT_TRUE(Trova<QLineEdit>(*forma, "txtCPer").hasFocus());
+  // Keys leave the field too; who insists has been warned.
+  for (const char* tasto :
+       {"{F2}", "{F4}", "{F5}", "{F6}", "{F7}", "{F8}", "{F9}", "{F10}", "{F11}", "{F12}"}) {
+    prova.dialoghi.Messaggio("prima", {}, Icona::Nessuna);
+    Batti(QLatin1String("{Ctrl+A}zz") + QLatin1String(tasto));
+    EXPECT_EQ(prova.dialoghi.Messaggi().mid(prova.dialoghi.Messaggi().size() - 2),
+              QStringList({"prima", "Codice periodico errato!"}))
+        << tasto;
+  }
+  EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "TabDocumento", {"IDDocumento"}).size(), 2);
+  Batti("{F4}");
+  EXPECT_EQ(prova.dialoghi.UltimoMessaggio(), "Documento salvato!");
+  EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "TabDocumento", {"IDRifBibl"}).last(), "0");
+  const qsizetype prima = prova.dialoghi.Messaggi().size();
+  Vai("txtCPer");
   // A command that the field is left for does not run; abandoning needs no check.
   prova.stato.DocumentoNuovo = false;
   Clic(*forma, "cmdEsci");
   EXPECT_TRUE(forma->isVisible());
-  EXPECT_EQ(prova.dialoghi.Messaggi().count("Codice periodico errato!"), 2);
+  EXPECT_EQ(prova.dialoghi.Messaggi().mid(prima), QStringList("Codice periodico errato!"));
   Clic(*forma, "cmdAbbandona");
   EXPECT_FALSE(forma->isVisible());
-  EXPECT_EQ(prova.dialoghi.Messaggi().size(), 2);
+  EXPECT_EQ(prova.dialoghi.Messaggi().size(), prima + 1);
 }
 
 TEST_F(FormaDocumento, CombosTakeAnyPartOfAnItem) {
@@ -166,6 +187,12 @@ TEST_F(FormaDocumento, CombosTakeAnyPartOfAnItem) {
     EXPECT_TRUE(Voce("ComboLIN").contains(atteso))
         << battuto << " " << Voce("ComboLIN").toStdString();
   }
+  // A command does not wait until the combo is left.
+  Vai("ComboLIN");
+  Batti("rancese{Esc}{F4}");
+  EXPECT_TRUE(Voce("ComboLIN").contains("franc"));
+  EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "TabDocumento", {"LIN"}).constFirst(),
+            Voce("ComboLIN").left(2));
 }
 
 TEST_F(FormaDocumento, ListsSelectMarkAndEdit) {
@@ -180,6 +207,96 @@ TEST_F(FormaDocumento, ListsSelectMarkAndEdit) {
   Vai("cmdResponsabilitaD");
   Batti(" ");
   EXPECT_EQ(Linee("lstResponsabilita"), "C - Gruppo di studio\nDEL--A - De Amicis, Lucia");
+}
+
+// The commands of a list work on the line that the operator sees selected.
+TEST_F(FormaDocumento, AListTellsWhatItsCommandsWorkOn) {
+  for (const int chi : {1, 2}) {
+    Aggiungi(prova.stato.DbArchivio, "LegameDocResp",
+             {{"IDDoc", 2}, {"IDResponsabilita", chi}, {"flagAutore", true}});
+  }
+  Apri("1");
+  auto& lista = Trova<QListWidget>(*forma, "lstResponsabilita");
+  const auto clicca = [&lista](int riga) {
+    QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
+                      lista.visualItemRect(lista.item(riga)).center());
+  };
+  const auto matita = [this](const QString& nome) {
+    Vai("cmdResponsabilitaM");
+    BattiConForme(" ", {[nome](QWidget& modale) {
+                    EXPECT_EQ(Trova<QLineEdit>(modale, "txtElementoPr").text(), nome);
+                    Batti("{Esc}");
+                  }});
+  };
+  clicca(1);
+  matita("D'Amico");
+  // As many lines, and none of them selected; then the same place again.
+  Batti("{F6}");
+  EXPECT_TRUE(lista.selectedItems().isEmpty());
+  matita("");
+  clicca(1);
+  matita("Gruppo di studio");
+  BattiConForme("{F7}", {Forma("Responsabilità", "Nuovo{Tab}{Tab}{Tab}{Return}")});
+  EXPECT_EQ(lista.count(), 3);
+  clicca(2);
+  BattiConForme("{F7}", {Forma("Responsabilità", "{Esc}")});
+  matita("");
+  Vai("txtNota");
+  Batti("{Tab}");
+  EXPECT_TRUE(lista.hasFocus());
+  matita("D'Amico");
+  Vai("lstResponsabilita");
+  Batti("{Down}");
+  matita("Gruppo di studio");
+}
+
+TEST_F(FormaDocumento, KeysGoOnAndBack) {
+  Aggiungi(prova.stato.DbArchivio, "TabDocumento", {{"LIN", "00"}});
+  Apri("1");
+  for (const auto& [tasto, numero] : {std::pair{"{F6}", "2"}, {"{F5}", "1"}, {"{F5}", "3"}}) {
+    Batti(tasto);
+    EXPECT_EQ(Riga("txtID"), numero) << tasto;
+    EXPECT_TRUE(forma->Stato().endsWith(", non modificato")) << tasto;
+  }
+}
+
+// A text of its own turns the icon of its own button.
+TEST_F(FormaDocumento, EachButtonShowsThatItsTextExists) {
+  constexpr std::array kPulsanti = {"cmdRiassunto",       "cmdSommario",   "cmdInTemaDi",
+                                    "cmdEnglishAbstract", "cmdTraduzione", "cmdNota",
+                                    "cmdNotaDoc"};
+  const auto icone = [this, &kPulsanti] {
+    QList<QImage> immagini;
+    for (const char* nome : kPulsanti) {
+      immagini += Trova<QPushButton>(*forma, nome).icon().pixmap(20, 20).toImage();
+    }
+    return immagini;
+  };
+  Apri("1");
+  const QList<QImage> piene = icone();
+  Apri("2");
+  QList<QImage> attese = icone();
+  for (std::size_t i = 0; i < kPulsanti.size(); ++i) {
+    const auto posto = static_cast<qsizetype>(i);
+    EXPECT_NE(attese.at(posto), piene.at(posto)) << kPulsanti.at(i);
+    Vai(kPulsanti.at(i));
+    BattiConForme(" ", {[](QWidget& modale) {
+                    Batti("x");
+                    Clic(modale, "cmdEsci");
+                  }});
+    attese[posto] = piene.at(posto);
+    EXPECT_TRUE(icone() == attese) << kPulsanti.at(i);
+  }
+}
+
+TEST_F(FormaDocumento, ScrollsToTheFieldWhereThereIsNoRoom) {
+  Apri("1");
+  forma->resize(500, 300);
+  for (const char* nome : {"cmdEsci", "txtID"}) {
+    Vai(nome);
+    EXPECT_EQ(Trova<QPushButton>(*forma, "cmdEsci").visibleRegion().isEmpty(), nome[0] == 't');
+    EXPECT_EQ(Trova<QLineEdit>(*forma, "txtID").visibleRegion().isEmpty(), nome[0] == 'c');
+  }
 }
 
 TEST_F(FormaDocumento, EnteringAFieldSelectsItWhole) {

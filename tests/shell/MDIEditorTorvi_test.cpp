@@ -127,8 +127,39 @@ TEST_F(Finestra, CancelledOpeningIsToldAndChangesNothing) {
   EXPECT_EQ(Abilitati(*finestra), "AN-----U");
 }
 
+// A letter that the menus share goes to who can use it.
 TEST_F(Finestra, CanBeDrivenByKeysAlone) {
-  Operatore::Esegue([] { Batti("{Alt+F}e"); }, {Riquadro(kEsci, Qt::Key_Escape)});
+  const auto batti = [this](const QString& tasti, std::deque<Passo> passi) {
+    Operatore::Esegue([&tasti] { Batti(tasti); }, std::move(passi));
+    finestra->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(finestra.get()));
+  };
+  batti("{Alt+F}e", {Riquadro(kEsci, Qt::Key_Escape)});
+  ApriConsegna();
+  batti("{Alt+A}c", {Riquadro("TorviEditor|Nessun documento presente!|OK"),
+                     Riquadro("TorviEditor|Archivio nuovo: non è possibile cancellare nessun "
+                              "documento!|OK")});
+  batti("{Alt+A}n", {});
+  auto* documento = finestra->findChild<frmDocumento*>();
+  auto& titolo = Trova<QPlainTextEdit>(*documento, "txtTitolo");
+  titolo.setFocus();
+  Batti("{Alt+S}");  // the button is hidden, and the menu locked
+  EXPECT_TRUE(titolo.hasFocus());
+  const auto rifiutato = Riquadro("TorviEditor|periodico non ancora immesso|OK");
+  for (int volta = 0; volta < 2; ++volta) batti("{Alt+E}", {rifiutato});
+  batti("{F4}", {rifiutato});
+  Batti("{Alt+A}");
+  EXPECT_EQ(Abilitati(*finestra), "--CGFSEU");
+}
+
+TEST_F(Finestra, AListOfDocumentsGoesWithItsArchive) {
+  ApriConsegna();
+  Aggiungi(stato.DbArchivio, "TabDocumento", {{"LIN", "00"}});
+  Scegli("mnuAggiornamentoCancella");
+  const QPointer<QDialog> elenco = finestra->findChild<QDialog*>("frmSceltaDoc");
+  ASSERT_TRUE(elenco != nullptr && elenco->isVisible());
+  Scegli("mnuFileChiudi");
+  EXPECT_TRUE(elenco == nullptr || !elenco->isVisible());
 }
 
 TEST_F(Finestra, MakesADeliveryAndLeavesItClosed) {

@@ -59,6 +59,8 @@ TEST_F(FinestraDialoghi, ABoxFitsTheScreenWhateverItSays) {
                                QStringLiteral("riga\n").repeated(4000)}) {
     Operatore::Esegue([&] { dialoghi.Messaggio(testo, {}, Icona::Nessuna); },
                       {[](QWidget& riquadro) {
+                        // What an operator typed may look like a tag.
+                        EXPECT_EQ(dynamic_cast<QMessageBox&>(riquadro).textFormat(), Qt::PlainText);
                         const QSize schermo = riquadro.screen()->availableSize();
                         EXPECT_LE(riquadro.height(), schermo.height());
                         EXPECT_LE(riquadro.width(), schermo.width());
