@@ -126,7 +126,8 @@ void Percorri(const QString& cartella, const QString& proprio, const QString& po
       if (morto) {
         if (Termina(voce, registro.completo)) continue;
         throw ErroreEsecuzione(Errore::ErroreDispositivo, voce.posto);
-      } else if (voce.posto == posto) {
+      }
+      if (voce.posto == posto) {
         throw ErroreEsecuzione::ConDescrizione(
             Errore::FileAperto,
             QStringLiteral("Un altro programma sta scrivendo %1: attendere che finisca e ripetere")
