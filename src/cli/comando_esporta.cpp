@@ -12,6 +12,8 @@ namespace torvi {
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 constexpr std::array kOpzioniEsporta = {Opzione{"controllo-fonti", nullptr},
                                         Opzione{"accoda", "FILE"}};
 
@@ -59,14 +61,14 @@ Esito Errori(Contesto& contesto, const QCommandLineParser& opzioni) {
   contesto.stato.DbArchivio =
       ApriArchivio(opzioni.positionalArguments().constLast(), contesto.dialoghi);
   LeggiInfoConsegna(contesto.stato);
-  VisualizzaErrori(contesto.stato, contesto.dialoghi, voce);
+  const QString motivo = VisualizzaErrori(contesto.stato, contesto.dialoghi, voce);
   const bool visti =
       contesto.dialoghi.ErroriMostrati() || contesto.dialoghi.UltimoMessaggio() == voce.nessuno;
   if (visti) return Esito::Fatto;
-  contesto.dialoghi.Messaggio(
-      QStringLiteral("Non si legge %1")
-          .arg(FileUscita(contesto.stato.CartellaApplicazione,
-                          QString(voce.file + contesto.stato.SiglaConsegna))));
+  contesto.dialoghi.Messaggio("Non si legge "_L1 +
+                              FileUscita(contesto.stato.CartellaApplicazione,
+                                         QString(voce.file + contesto.stato.SiglaConsegna)) +
+                              (motivo.isEmpty() ? QString() : " - "_L1 + motivo));
   return Esito::Fallito;
 }
 

@@ -1,5 +1,7 @@
 #include "export/classi.h"
 
+#include "export/una_riga.h"
+
 namespace torvi {
 namespace {
 
@@ -22,7 +24,7 @@ QStringList LeggiCoppie(ContestoEsportazione& contesto, qint64 idDoc, const QStr
     coppie += coppia->codici;
     if (coppia->messaggio.isEmpty()) continue;
     contesto.fileErrClasse.Print(coppia->messaggio + idRecord + ", record="_L1 +
-                                 QString::number(idDoc) + "): "_L1 + coppia->codici);
+                                 QString::number(idDoc) + "): "_L1 + UnaRiga(coppia->codici));
   }
   return coppie;
 }

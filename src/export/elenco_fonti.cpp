@@ -1,5 +1,6 @@
 #include "export/elenco_fonti.h"
 
+#include "export/una_riga.h"
 #include "export/verifica_catalogo.h"
 #include "fonti/righe_fonte.h"
 #include "shell/valori.h"
@@ -80,8 +81,8 @@ void ScriviElencoFonti(ContestoEsportazione& contesto, std::span<const FonteLett
     for (const Controllo& controllo : kControlli) {
       if (prima && !controllo.ancheSullaPrima) continue;
       if (!controllo.fallito(contesto, citazione)) continue;
-      contesto.fileErrFonte.Print(controllo.messaggio + citazione.testo + " ("_L1 + idRecord +
-                                  QLatin1Char(')'));
+      contesto.fileErrFonte.Print(controllo.messaggio + UnaRiga(citazione.testo) + " ("_L1 +
+                                  idRecord + QLatin1Char(')'));
     }
   }
   contesto.record.AggiungiTesto(tag::kFonti, elenco);

@@ -2,6 +2,7 @@
 
 #include "archive/errore.h"
 #include "export/file_testo.h"
+#include "export/registro_uscite.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 
@@ -21,6 +22,7 @@ void Mostra(StatoGlobale& stato, Dialoghi& dialoghi, const VoceErrori& voce) {
   LeggiInfoConsegna(stato);
   // The marker stands for the use of the function, whether there is a file or not.
   RegistraUsoFunzione(stato, voce.codice);
+  RipristinaUscite(CartellaUscite(stato.CartellaApplicazione));
   const QString testo =
       LeggiTutto(FileUscita(stato.CartellaApplicazione, voce.file + stato.SiglaConsegna));
   if (testo == kFineRiga) {
@@ -33,15 +35,16 @@ void Mostra(StatoGlobale& stato, Dialoghi& dialoghi, const VoceErrori& voce) {
 
 }  // namespace
 
-void VisualizzaErrori(StatoGlobale& stato, Dialoghi& dialoghi, const VoceErrori& voce) {
+QString VisualizzaErrori(StatoGlobale& stato, Dialoghi& dialoghi, const VoceErrori& voce) {
   try {
     Mostra(stato, dialoghi, voce);
   } catch (const ErroreEsecuzione& errore) {
-    if (!errore.E(Errore::FileNonTrovato)) return;
+    if (!errore.E(Errore::FileNonTrovato)) return errore.Descrizione();
     dialoghi.Messaggio(QStringLiteral(
         "Prima di usare questa funzione occorre utilizzare una delle tre sottovoci del "
         "sottomenù Formato ASCII di Esporta"));
   }
+  return {};
 }
 
 }  // namespace torvi

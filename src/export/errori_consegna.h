@@ -28,7 +28,7 @@ inline constexpr VoceErrori kErroriFonti = {QLatin1StringView("9"), QLatin1Strin
 
 // Sets the marker, then reads the file: a window with its lines (TestoErrori), or a message where
 // it holds one empty line only. A file that is not there gets a message; any other failure ends the
-// routine in silence.
-void VisualizzaErrori(StatoGlobale& stato, Dialoghi& dialoghi, const VoceErrori& voce);
+// routine in silence. Result: why nothing was shown; empty where something was, or was said.
+QString VisualizzaErrori(StatoGlobale& stato, Dialoghi& dialoghi, const VoceErrori& voce);
 
 }  // namespace torvi

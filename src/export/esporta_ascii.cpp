@@ -1,10 +1,14 @@
 #include "export/esporta_ascii.h"
 
+#include <exception>
+
 #include "archive/errore.h"
 #include "export/catalogo_norme.h"
 #include "export/contesto.h"
 #include "export/esporta_documento.h"
 #include "export/giro_documenti.h"
+#include "export/registro_uscite.h"
+#include "export/uscita_accodata.h"
 #include "shell/consegna.h"
 #include "shell/percorsi.h"
 
@@ -30,16 +34,31 @@ constexpr QLatin1StringView kErrori = "errori."_L1;
 constexpr QLatin1StringView kErrClasse = "errClasse."_L1;
 constexpr QLatin1StringView kErrFonte = "errFonte."_L1;
 
+// The four files of a run, which take their places together, also where the run fails. Where one
+// of them cannot be opened all stay as they were.
 class FileEsportazione {
  public:
   FileEsportazione(const StatoGlobale& stato, const Destinazione& destinazione)
-      : uscita_(destinazione.uscita, destinazione.apertura),
-        errori_(FileErrori(stato, kErrori, destinazione.estensione), destinazione.apertura),
-        errClasse_(FileErrori(stato, kErrClasse, destinazione.estensione), destinazione.apertura),
-        errFonte_(FileErrori(stato, kErrFonte, destinazione.estensione), destinazione.apertura) {
+      : registro_(CartellaUscite(stato.CartellaApplicazione)),
+        uscita_(destinazione.uscita, destinazione.apertura, &registro_),
+        errori_(FileErrori(stato, kErrori, destinazione.estensione), destinazione.apertura,
+                &registro_),
+        errClasse_(FileErrori(stato, kErrClasse, destinazione.estensione), destinazione.apertura,
+                   &registro_),
+        errFonte_(FileErrori(stato, kErrFonte, destinazione.estensione), destinazione.apertura,
+                  &registro_) {
     if (destinazione.apertura != Apertura::Aggiunta) return;
     for (FileTesto* file : {&errori_, &errClasse_, &errFonte_}) {
       file->Print("Consegna "_L1 + stato.SiglaConsegna);
+    }
+  }
+  FileEsportazione(const FileEsportazione&) = delete;
+  FileEsportazione& operator=(const FileEsportazione&) = delete;
+  ~FileEsportazione() {
+    try {
+      Consegna();
+    } catch (const ErroreEsecuzione&) {
+      // The run has already failed, and told why.
     }
   }
 
@@ -54,14 +73,32 @@ class FileEsportazione {
   void Chiudi() {
     for (FileTesto* file : {&uscita_, &errori_, &errClasse_, &errFonte_}) file->Svuota();
     for (FileTesto* file : {&errori_, &errClasse_, &errFonte_}) file->Print({});
-    for (FileTesto* file : {&errori_, &uscita_, &errClasse_, &errFonte_}) file->Close();
+    Consegna();
   }
 
  private:
+  void Consegna() {
+    if (consegnati_) return;
+    consegnati_ = true;
+    std::exception_ptr guasto;
+    for (FileTesto* file : {&errori_, &uscita_, &errClasse_, &errFonte_}) {
+      try {
+        file->Close();
+      } catch (const ErroreEsecuzione&) {
+        if (!guasto) guasto = std::current_exception();
+      }
+    }
+    registro_.Completo();
+    for (FileTesto* file : {&uscita_, &errori_, &errClasse_, &errFonte_}) file->VaAlPosto();
+    if (guasto) std::rethrow_exception(guasto);
+  }
+
+  RegistroUscite registro_;
   FileTesto uscita_;
   FileTesto errori_;
   FileTesto errClasse_;
   FileTesto errFonte_;
+  bool consegnati_ = false;
 };
 
 QString NomeUscita(const FlagEsportazione& flag) {
@@ -71,6 +108,7 @@ QString NomeUscita(const FlagEsportazione& flag) {
 }
 
 Destinazione Accodata(const StatoGlobale& stato) {
+  RichiediUscita(stato.FileBatch);
   return {stato.FileBatch, EstensioneAccodata(stato), Apertura::Aggiunta};
 }
 
@@ -86,6 +124,7 @@ Destinazione ChiediDestinazione(StatoGlobale& stato, Dialoghi& dialoghi,
     stato.FileBatch.clear();
     stato.FileBatch = dialoghi.ScegliFileUscita(stato.CartellaApplicazione + "/Dump"_L1,
                                                 QStringLiteral("lexxdump*.*"), true);
+    RichiediLexxdump(stato.FileBatch);
     return Accodata(stato);
   }
   return {FileUscita(stato.CartellaApplicazione, NomeUscita(flag) + stato.SiglaConsegna),

@@ -26,8 +26,12 @@ inline constexpr FlagEsportazione kEsportaStorico{false, true, false};
 // `FileBatch`; otherwise it asks whether sources are required and whether to append, marks the
 // delivery as exported, and the chooser sets `FileBatch`.
 //
+// The four files take their places together at the end of the run; a program that is killed leaves
+// what was there before. Nothing is appended to a file that is no lexxdump (75).
+//
 // The checks never end a run. What does, with whole records left in the output and no closing
-// lines: a file that cannot be opened (75, 76) or written (57, 61), an archive without documents
+// lines: a file that cannot be opened (75, 76), that another program is writing (55) or that cannot
+// be written (57, 61), an archive without documents
 // (3021), Null where text is needed (94), a row that a document refers to and that is not there
 // (3021), a counter past 32767 (6), 245 or 1000 characters without a blank (5).
 void EsportaAscii(StatoGlobale& stato, Dialoghi& dialoghi, const FlagEsportazione& flag);

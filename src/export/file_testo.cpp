@@ -1,8 +1,12 @@
 #include "export/file_testo.h"
 
+#include <unistd.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+#include <cerrno>
+#include <exception>
 
 #include "archive/errore.h"
 #include "export/codepagina.h"
@@ -33,6 +37,15 @@ Errore ErroreApertura(const QString& percorso, Apertura apertura) {
   return apertura == Apertura::Lettura ? Errore::FileNonTrovato : Errore::ErroreAccessoFile;
 }
 
+// Whether a file can be written beside that place: the folder takes it, and its longer name.
+bool PrendeFileNuovi(const QString& posto) {
+  constexpr qsizetype kMassimoNome = 255;
+  constexpr qsizetype kCoda = 24;  // of the passing name
+  const QFileInfo voce(posto);
+  return QFileInfo(voce.path()).isWritable() &&
+         QFile::encodeName(voce.fileName()).size() + kCoda <= kMassimoNome;
+}
+
 // Where the first line in `byte` ends and where the next begins; nothing if its end is not there.
 struct FineRiga {
   qsizetype fine;
@@ -52,12 +65,46 @@ std::optional<FineRiga> TrovaFine(QByteArrayView byte, bool completo) {
 
 }  // namespace
 
-FileTesto::FileTesto(const QString& percorso, Apertura apertura) : file_(TrovaPercorso(percorso)) {
-  // Unbuffered: what a write could not take must be known here, block by block.
-  if (percorso.isEmpty() || !file_.open(Modo(apertura) | QIODevice::Unbuffered)) {
-    throw ErroreEsecuzione(ErroreApertura(file_.fileName(), apertura), percorso);
+FileTesto::FileTesto(const QString& percorso, Apertura apertura, RegistroUscite* insieme)
+    : percorso_(TrovaPercorso(percorso)), insieme_(insieme != nullptr) {
+  if (percorso.isEmpty()) throw ErroreEsecuzione(Errore::ErroreAccessoFile);
+  const QFileInfo voce(percorso_);
+  const bool comune = voce.isFile() || !voce.exists();
+  if (apertura == Apertura::Scrittura && comune && PrendeFileNuovi(PostoVero(percorso_))) {
+    ApriNuovo(PostoVero(percorso_), insieme);
+  } else if (apertura == Apertura::Aggiunta && comune) {
+    ApriInCoda(PostoVero(percorso_), insieme);
+  } else {
+    ApriFile(percorso_, apertura);
   }
-  if (apertura == Apertura::Aggiunta) inizio_ = file_.size();
+}
+
+void FileTesto::ApriNuovo(const QString& posto, RegistroUscite* insieme) {
+  const QFileInfo vecchio(posto);
+  if (vecchio.exists() && !vecchio.isWritable()) {
+    throw ErroreEsecuzione(Errore::ErroreAccessoFile, percorso_);
+  }
+  nuovo_.emplace(posto);
+  if (insieme != nullptr) insieme->SiRinnova(posto, nuovo_->Percorso());
+  ApriFile(nuovo_->Percorso(), Apertura::Scrittura);
+  if (vecchio.exists()) file_.setPermissions(vecchio.permissions());
+}
+
+void FileTesto::ApriInCoda(const QString& posto, RegistroUscite* insieme) {
+  const bool cera = QFileInfo::exists(posto);
+  ApriFile(posto, Apertura::Aggiunta);
+  if (insieme == nullptr) registro_.emplace(QFileInfo(posto).path());
+  (insieme != nullptr ? insieme : &*registro_)->SiAccoda(posto, cera);
+  inizio_ = file_.size();
+}
+
+void FileTesto::ApriFile(const QString& nome, Apertura apertura) {
+  file_.setFileName(nome);
+  // Unbuffered: what a write could not take must be known here, block by block.
+  if (file_.open(Modo(apertura) | QIODevice::Unbuffered)) return;
+  const bool pieno = errno == ENOSPC || errno == EDQUOT;
+  throw ErroreEsecuzione(pieno ? Errore::DiscoPieno : ErroreApertura(percorso_, apertura),
+                         percorso_);
 }
 
 FileTesto::~FileTesto() {
@@ -109,11 +156,20 @@ void FileTesto::RiduciAiBlocchiInteri(qsizetype scritti) {
   blocchi_.clear();
 }
 
-std::optional<QString> FileTesto::LineInput() {
+std::optional<QString> FileTesto::LineInput(qsizetype massimo) {
   while (true) {
     const bool completo = file_.atEnd();
     const QByteArrayView resto = QByteArrayView(pendenti_).sliced(letti_);
-    if (const auto fine = TrovaFine(resto, completo)) {
+    const auto fine = TrovaFine(resto, completo);
+    if ((fine ? fine->fine : resto.size()) > massimo) {
+      throw ErroreEsecuzione::ConDescrizione(
+          Errore::ChiamataNonValida, QStringLiteral("La riga %1 di %2 ha più di %3 caratteri")
+                                         .arg(righe_ + 1)
+                                         .arg(Percorso())
+                                         .arg(massimo));
+    }
+    if (fine) {
+      ++righe_;
       letti_ += fine->seguente;
       return DaAnsi(resto.first(fine->fine));
     }
@@ -133,13 +189,36 @@ bool FileTesto::Leggi() {
   return true;
 }
 
+void FileTesto::SuDisco() {
+  if (fdatasync(file_.handle()) == 0) return;
+  const bool pieno = errno == ENOSPC || errno == EDQUOT;
+  // Any other cause: it is no file on a disk.
+  if (pieno || errno == EIO) {
+    throw ErroreEsecuzione(pieno ? Errore::DiscoPieno : Errore::ErroreDispositivo, Percorso());
+  }
+}
+
 void FileTesto::Close() {
   if (!file_.isOpen()) return;
-  struct Chiusura {
-    QFile& file;
-    ~Chiusura() { file.close(); }
-  } const chiusura{file_};
-  if (file_.openMode().testFlag(QIODevice::WriteOnly)) Svuota();
+  std::exception_ptr guasto;
+  if (file_.openMode().testFlag(QIODevice::WriteOnly)) {
+    try {
+      Svuota();
+      SuDisco();
+    } catch (const ErroreEsecuzione&) {
+      guasto = std::current_exception();
+    }
+  }
+  file_.close();
+  if (!insieme_) VaAlPosto();
+  registro_.reset();
+  if (guasto) std::rethrow_exception(guasto);
+}
+
+void FileTesto::VaAlPosto() {
+  if (!nuovo_) return;
+  nuovo_->Sostituisci();
+  nuovo_.reset();
 }
 
 }  // namespace torvi

@@ -1,5 +1,6 @@
 #include "export/record.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "archive/errore.h"
@@ -21,10 +22,38 @@ QStringView TogliPezzo(QStringView& resto, qsizetype massimo) {
   return pezzo;
 }
 
+constexpr unsigned Segno(unsigned prima, unsigned seconda) { return prima * 256 + seconda; }
+
+// Texts and tagged sources go in as stored; in any other field a line break, which would begin a
+// line without a tag, and a zero byte become blanks.
+bool ComeRegistrato(QStringView tag) {
+  switch (Segno(tag[0].unicode(), tag[1].unicode())) {
+    case Segno(' ', '3'):
+    case Segno(' ', '4'):
+    case Segno(' ', '5'):
+    case Segno('1', '0'):
+    case Segno('1', '2'):
+    case Segno('1', '4'):
+    case Segno('2', '1'):
+    case Segno('2', '3'):
+    case Segno('2', '4'):
+    case Segno('2', '5'):
+      return false;
+    default:
+      return true;
+  }
+}
+
 void AggiungiRigaFile(std::string& byte, QStringView tag, QStringView contenuto,
                       std::string_view fine) {
   for (const QChar c : tag) byte += c.toLatin1();
+  const auto inizio = static_cast<std::ptrdiff_t>(byte.size());
   AccodaOem(byte, contenuto);
+  if (!ComeRegistrato(tag)) {
+    std::replace_if(
+        byte.begin() + inizio, byte.end(),
+        [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+  }
   byte += fine;
 }
 

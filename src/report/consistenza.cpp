@@ -1,5 +1,6 @@
 #include "report/consistenza.h"
 
+#include "export/una_riga.h"
 #include "report/testo_citato.h"
 #include "report/uscita_consegna.h"
 #include "shell/consegna.h"
@@ -45,9 +46,10 @@ qint64 StampaFascicoli(const Database& archivio, Dialoghi& dialoghi, FileTesto& 
         ContaDocumentiFascicolo(archivio, fascicolo.Nullo() ? kFascicoloNullo : fascicolo.Testo(),
                                 data, riga.Fields("IDRivista"));
     totale += n;
-    uscita.Print(QString::number(n).rightJustified(7) + "###"_L1 + riga.Fields("CPER").Testo() +
-                 QLatin1Char(' ') + data.right(4) + QLatin1Char(' ') +
-                 riga.Fields("IDPeriodicita").Testo() + QLatin1Char(' ') + fascicolo.TestoOVuoto());
+    uscita.Print(UnaRiga(QString::number(n).rightJustified(7) + "###"_L1 +
+                         riga.Fields("CPER").Testo() + QLatin1Char(' ') + data.right(4) +
+                         QLatin1Char(' ') + riga.Fields("IDPeriodicita").Testo() +
+                         QLatin1Char(' ') + fascicolo.TestoOVuoto()));
     if (fatto % 100 != 0) continue;
     dialoghi.Avanzamento(QStringLiteral("Consistenza"), static_cast<int>(totale),
                          static_cast<int>(documenti));

@@ -1,6 +1,7 @@
 #include <array>
 
 #include "archive/errore.h"
+#include "export/una_riga.h"
 #include "report/estrazione.h"
 #include "report/estrazioni.h"
 
@@ -62,7 +63,7 @@ void ElencaNuovi(const Database& archivio, const QString& tabella, const QString
   }
   if (righe.empty()) file.Print(u"Nessuna novità in "_s + tabella);
   for (const Riga& riga : righe) {
-    file.Print("Nuovo: "_L1 + riga.Fields("Nuovo").TestoOVuoto() + " ("_L1 +
+    file.Print("Nuovo: "_L1 + UnaRiga(riga.Fields("Nuovo").TestoOVuoto()) + " ("_L1 +
                riga.Fields("IDDoc").Testo() + QLatin1Char(')'));
   }
 }

@@ -10,6 +10,7 @@
 #include "archive/errore.h"
 #include "export/catalogo_norme.h"
 #include "export/esporta_ascii.h"
+#include "export/registro_uscite.h"
 #include "report/consegna_in_anticipo.h"
 #include "report/estrazioni.h"
 #include "report/sigle.h"
@@ -87,6 +88,7 @@ class Giro {
     const QStringList sigle = LeggiSigle(stato_.FileBatch);
     esito.consegne = sigle.size();
     stato_.FileBatch = FileUscita(stato_.CartellaApplicazione, NomeUscita(voce_, stato_.FileBatch));
+    RipristinaUscite(CartellaUscite(stato_.CartellaApplicazione));
     const bool esporta = voce_.esportazione != nullptr;
     if (!esporta && voce_.operazione == nullptr) conteggio_.emplace(stato_.FileBatch);
     const auto finito = qScopeGuard([this] { dialoghi_.Ambito({}); });

@@ -9,6 +9,8 @@
 #include <QUrl>
 
 #include "archive/errore.h"
+#include "archive/file_nuovo.h"
+#include "shell/percorsi.h"
 
 namespace torvi {
 namespace {
@@ -58,11 +60,14 @@ QString ConvertiInPdf(const QString& programma, const QString& stampa) {
   processo.waitForFinished(-1);
   QString pdf = origine.absoluteDir().filePath(NomePdf(origine));
   const QString scritto = cartella.filePath(origine.completeBaseName() + ".pdf"_L1);
-  QFile::remove(pdf);
-  if (!QFile::copy(scritto, pdf)) {
+  if (!QFile::exists(scritto)) {
+    QFile::remove(pdf);  // of another print
     throw ErroreEsecuzione::ConDescrizione(Errore::ErroreInterno,
                                            QStringLiteral("LibreOffice non ha scritto ") + pdf);
   }
+  FileNuovo nuovo(PostoVero(pdf));
+  nuovo.Copia(scritto);
+  nuovo.Sostituisci();
   return pdf;
 }
 

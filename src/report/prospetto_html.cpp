@@ -1,4 +1,5 @@
 #include "report/conta_tabs.h"
+#include "report/html.h"
 #include "report/prospetto.h"
 #include "report/uscita_consegna.h"
 #include "shell/consegna.h"
@@ -100,7 +101,7 @@ void ProspettoHTML(StatoGlobale& stato, Dialoghi& dialoghi) {
   FileTesto uscita(
       FileUscita(stato.CartellaApplicazione, "prospetto "_L1 + stato.SiglaConsegna + ".html"_L1),
       Apertura::Scrittura);
-  StampaInizio(uscita, stato.SiglaConsegna);
+  StampaInizio(uscita, html::Testo(stato.SiglaConsegna));
   StampaIntestazione(uscita);
   StampaTotali(uscita, StampaRighe(archivio, dialoghi, uscita));
   StampaElenco(uscita,

@@ -40,9 +40,10 @@ QString Intestazione() {
 
 QString Celle(const Recordset& riga, const ConteggiTAbs& conteggi) {
   const QLatin1StringView cella = "\\cell "_L1;
-  QString celle = riga.Fields("TitoloRivista").Testo() + cella + riga.Fields("CPER").Testo() +
-                  cella + riga.Fields("Fascicolo").TestoOVuoto() + cella +
-                  riga.Fields("Data").TestoOVuoto().right(4) + cella +
+  QString celle = riga.Fields("TitoloRivista").Testo() + cella +
+                  rtf::Valore(riga.Fields("CPER").Testo()) + cella +
+                  rtf::Valore(riga.Fields("Fascicolo").TestoOVuoto()) + cella +
+                  rtf::Valore(riga.Fields("Data").TestoOVuoto().right(4)) + cella +
                   QString::number(Somma(conteggi)) + cella;
   for (const qint16 conteggio : conteggi) celle += QString::number(conteggio) + cella;
   return celle;
@@ -79,7 +80,7 @@ void ProspettoRTF(StatoGlobale& stato, Dialoghi& dialoghi) {
       Apertura::Scrittura);
   uscita.Print(rtf::LeggiTestata(stato, QStringLiteral("testata prospetto.rtf")));
   uscita.Print(rtf::Corpo(36) + rtf::kRientro + "{\\b\\scaps Prospetto consegna "_L1 +
-               stato.SiglaConsegna + "}{\\fs24\\par \\par }"_L1);
+               rtf::Valore(stato.SiglaConsegna) + "}{\\fs24\\par \\par }"_L1);
   uscita.Print(Intestazione());
   StampaRighe(stato.DbArchivio, dialoghi, uscita);
   uscita.Print(kInTabella + "{\\row }"_L1 + rtf::kRientro + "{\\par }}"_L1);

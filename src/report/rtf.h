@@ -13,6 +13,9 @@ inline const QString kFineParagrafo = QStringLiteral("\\par }");
 // Where text of this size, in half points, begins.
 [[nodiscard]] QString Corpo(int mezziPunti);
 
+// A value that is no text of a document: its braces and backslashes are no RTF.
+[[nodiscard]] QString Valore(QString valore);
+
 // A template of the application folder as one line, its "Consegna xxx" under the delivery's name.
 // Not there: error 53.
 [[nodiscard]] QString LeggiTestata(const StatoGlobale& stato, const QString& nome);

@@ -9,7 +9,8 @@
 
 namespace torvi {
 
-// The lines as they stand, blank ones too. Not there: error 53.
+// The lines as they stand, blank ones too, up to a Ctrl-Z; behind a byte-order mark they are UTF-8.
+// Not there: error 53; a line of more than 255 characters: 5.
 [[nodiscard]] QStringList LeggiSigle(const QString& percorso);
 // Takes the place of a file of that name. No name, no permission: error 75; a full disk: 61.
 void ScriviSigle(const QString& percorso, const QStringList& sigle);

@@ -30,10 +30,12 @@ QStringList Codici1999(ContestoStampa& contesto, qint64 idDoc) {
 
 QString TestoClasse(ContestoStampa& contesto, const QString& pezzo) {
   if (!contesto.stato.Dopo2000) {
-    return CodicePuntato(pezzo) + QLatin1Char(' ') + contesto.descrizioni1999.Cerca(pezzo);
+    return rtf::Valore(CodicePuntato(pezzo) + QLatin1Char(' ') +
+                       contesto.descrizioni1999.Cerca(pezzo));
   }
   const CoppiaDecodificata& coppia = contesto.coppie.Cerca(contesto.codici, pezzo);
-  return coppia.sigla + QLatin1Char('|') + coppia.descrizione + coppia.descrittore;
+  // The descriptor may be free text, which goes in as it stands.
+  return rtf::Valore(coppia.sigla + QLatin1Char('|') + coppia.descrizione) + coppia.descrittore;
 }
 
 }  // namespace
@@ -43,7 +45,9 @@ QString RigaClassi(ContestoStampa& contesto, qint64 idDoc) {
   const QStringList classi = dopo2000 ? Coppie(contesto, idDoc) : Codici1999(contesto, idDoc);
   contesto.CodiciClasse = classi.join(kSeparatore);
   if (!dopo2000 || classi.isEmpty()) return {};
-  return QLatin1Char('{') + rtf::kParagrafo + "Classificazione: }"_L1 + classi.join("\\\\"_L1) +
+  QStringList valori;
+  for (const QString& classe : classi) valori += rtf::Valore(classe);
+  return QLatin1Char('{') + rtf::kParagrafo + "Classificazione: }"_L1 + valori.join("\\\\"_L1) +
          rtf::kFineParagrafo;
 }
 

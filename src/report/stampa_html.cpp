@@ -1,6 +1,7 @@
 #include "report/stampa_html.h"
 
 #include "export/celex.h"
+#include "report/html.h"
 #include "report/uscita_consegna.h"
 #include "shell/consegna.h"
 #include "shell/impostazioni.h"
@@ -25,13 +26,19 @@ QString CollegamentoCelex(const Recordset& fonte, const QString& indirizzo) {
   if (!fonte.Fields("Settore").Presente()) return {};
   const QString celex = NumeroCelex(LeggiDatiCelex(fonte));
   if (celex.isEmpty()) return {};
-  return "<A HREF=\""_L1 + indirizzo + "/LexUriServ/LexUriServ.do?uri=CELEX:"_L1 + celex +
+  return "<A HREF=\""_L1 + indirizzo + "/LexUriServ/LexUriServ.do?uri=CELEX:"_L1 +
+         html::Attributo(celex) +
          ":IT:NOT\"><U><FONT SIZE=\"2\" COLOR=\"#0000ff\">[recupera via CELEX]"_L1;
+}
+
+// As a string between double quotes has it; the quotes that close it stand in the address itself.
+QString TraVirgolette(QString valore) {
+  return valore.replace("\\"_L1, "\\\\"_L1).replace("\""_L1, "\\\""_L1);
 }
 
 QString CollegamentoHudoc(const Recordset& fonte, const QString& indirizzo) {
   return "<A target=\"new\" HREF='"_L1 + indirizzo + "/eng#{\"docname\":[\""_L1 +
-         Parti(fonte.Fields("altro").Testo()) +
+         html::Attributo(TraVirgolette(Parti(fonte.Fields("altro").Testo()))) +
          "\"]}'><U><FONT SIZE=\"2\" COLOR=\"#0000ff\">[recupera via HUDOC]"_L1;
 }
 
@@ -58,7 +65,7 @@ constexpr FormaStampa kHudoc = {
     Impostazione::IndirizzoHudoc};
 
 void StampaIntestazione(FileTesto& file, const QString& sigla) {
-  const QString titolo = "Consegna "_L1 + sigla;
+  const QString titolo = "Consegna "_L1 + html::Testo(sigla);
   for (const QString& riga : {u"<HTML>"_s, u"<HEAD>"_s, u"<TITLE>%1</TITLE>"_s, u"</HEAD>"_s,
                               u"<BODY>"_s, u"<h1>%1</h1>"_s}) {
     file.Print(QString(riga).replace("%1"_L1, titolo));
@@ -75,7 +82,8 @@ void StampaDocumento(FileTesto& file, const Database& archivio, const Campo& doc
       "LegameDocTesto.IDTesto "
       "WHERE (((LegameDocTesto.Tipo)=\"0\")) and TabDocumento.IDDocumento = ?"_s,
       {documento});
-  if (!titolo.Eof()) file.Print("<h3>"_L1 + titolo.Fields("testo").Testo() + "</h3>"_L1);
+  if (!titolo.Eof())
+    file.Print("<h3>"_L1 + html::Testo(titolo.Fields("testo").Testo()) + "</h3>"_L1);
 }
 
 void StampaFonti(StatoGlobale& stato, Dialoghi& dialoghi, const FormaStampa& forma,
@@ -95,7 +103,7 @@ void StampaFonti(StatoGlobale& stato, Dialoghi& dialoghi, const FormaStampa& for
     precedente = documento;
     const QString collegamento = forma.collegamento(fonti, indirizzo);
     if (collegamento.isEmpty()) continue;
-    file.Print(fonti.Fields("testo").Testo() + " ---> "_L1 + collegamento +
+    file.Print(html::Testo(fonti.Fields("testo").Testo()) + " ---> "_L1 + collegamento +
                "</U></FONT></A><br>"_L1);
   }
   file.Print(u"</BODY>"_s);

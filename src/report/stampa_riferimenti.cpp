@@ -50,7 +50,7 @@ void AggiungiLingue(QString& codificato, const DatiDocumento& documento) {
 }
 
 QString Paragrafo(QLatin1StringView etichetta, const QString& testo) {
-  return rtf::kParagrafo + etichetta + "}{"_L1 + testo + rtf::kFineParagrafo;
+  return rtf::kParagrafo + etichetta + "}{"_L1 + rtf::Valore(testo) + rtf::kFineParagrafo;
 }
 
 }  // namespace

@@ -66,13 +66,14 @@ void Documento::Stampa() {
 }
 
 void Documento::Testata() {
-  const QString& prefisso = contesto_.stato.PrefissoDoc;
+  const QString& intero = contesto_.stato.PrefissoDoc;
+  const QString prefisso = rtf::Valore(intero);
   const QString rec = "(\\i REC="_L1 + QString::number(idDoc_) + ")\\par }"_L1;
   Scrivi(rtf::Corpo(20) + rtf::kParagrafo + "Documento: }{"_L1 +
          (filtro_ ? QString() : QString(prefisso + numeroDoc_ + QLatin1Char(' '))) + rec);
   if (!contesto_.completa) return;
-  Scrivi(rtf::kParagrafo + "DocID: }{AP="_L1 + prefisso.left(4) + " NP="_L1 + prefisso.mid(4, 1) +
-         numeroDoc_ + rtf::kFineParagrafo);
+  Scrivi(rtf::kParagrafo + "DocID: }{AP="_L1 + rtf::Valore(intero.left(4)) + " NP="_L1 +
+         rtf::Valore(intero.mid(4, 1)) + numeroDoc_ + rtf::kFineParagrafo);
 }
 
 void Documento::Riferimenti() {
@@ -114,8 +115,9 @@ QString Origine(bool filtro) {
 }
 
 QString Titolo(const StatoGlobale& stato, bool completa) {
-  return rtf::Corpo(36) + rtf::kRientro + "{\\b\\scaps Stampa consegna "_L1 + stato.SiglaConsegna +
-         (completa ? " (completa)"_L1 : " (solo testi)"_L1) + "}{\\fs32\\par \\par }"_L1;
+  return rtf::Corpo(36) + rtf::kRientro + "{\\b\\scaps Stampa consegna "_L1 +
+         rtf::Valore(stato.SiglaConsegna) + (completa ? " (completa)"_L1 : " (solo testi)"_L1) +
+         "}{\\fs32\\par \\par }"_L1;
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ QString RigaResponsabili(ContestoStampa& contesto, qint64 idDoc) {
     const QString* nome = contesto.nomi.Cerca(legami.Riga().Fields("IDResponsabilita"));
     if (nome == nullptr) continue;
     if (nomi.isEmpty()) autore = legami.Riga().Fields("flagAutore").Logico();
-    nomi += *nome;
+    nomi += rtf::Valore(*nome);
   }
   if (nomi.isEmpty()) return {};
   return rtf::kParagrafo + (autore ? "Autore: }{"_L1 : "Curatore: }{"_L1) + nomi.join("; "_L1) +

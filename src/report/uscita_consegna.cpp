@@ -1,11 +1,15 @@
 #include "report/uscita_consegna.h"
 
+#include "export/uscita_accodata.h"
 #include "shell/percorsi.h"
 
 namespace torvi {
 
 FileTesto ApriUscita(const StatoGlobale& stato, const QString& nome) {
-  if (stato.ModoBatch) return FileTesto(stato.FileBatch, Apertura::Aggiunta);
+  if (stato.ModoBatch) {
+    RichiediUscita(stato.FileBatch);
+    return FileTesto(stato.FileBatch, Apertura::Aggiunta);
+  }
   return FileTesto(FileUscita(stato.CartellaApplicazione, nome), Apertura::Scrittura);
 }
 

@@ -10,7 +10,7 @@
 namespace torvi {
 
 // dump/<nome>, written afresh; in ModoBatch the common `FileBatch`, behind what is there. Errors
-// are those of FileTesto.
+// are those of FileTesto and of RichiediUscita.
 [[nodiscard]] FileTesto ApriUscita(const StatoGlobale& stato, const QString& nome);
 // In ModoBatch an empty line parts this delivery from the next.
 void PartiConsegna(const StatoGlobale& stato, FileTesto& file);

@@ -29,12 +29,27 @@ QString TrovaPercorso(const QString& percorso) {
   return QDir(cartella).filePath(nome);
 }
 
+QString PostoVero(const QString& percorso) {
+  constexpr int kMassimoLegami = 8;
+  QFileInfo voce(percorso);
+  for (int i = 0; i < kMassimoLegami && !voce.exists() && voce.isSymLink(); ++i) {
+    voce.setFile(voce.symLinkTarget());
+  }
+  if (voce.exists()) return voce.canonicalFilePath();
+  const QString cartella = QFileInfo(voce.path()).canonicalFilePath();
+  return cartella.isEmpty() ? percorso : QDir(cartella).filePath(voce.fileName());
+}
+
 QString FileArchivio(const QString& cartellaApplicazione, const QString& nome) {
   return TrovaPercorso(cartellaApplicazione + QLatin1String("/mdb/") + nome);
 }
 
 QString FileUscita(const QString& cartellaApplicazione, const QString& nome) {
   return TrovaPercorso(cartellaApplicazione + QLatin1String("/dump/") + nome);
+}
+
+QString CartellaUscite(const QString& cartellaApplicazione) {
+  return TrovaPercorso(cartellaApplicazione + QLatin1String("/dump"));
 }
 
 void PreparaCartelle(const QString& cartellaApplicazione) {

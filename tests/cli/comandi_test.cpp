@@ -91,6 +91,11 @@ TEST_F(Comandi, ErroriShowsWhatTheExportFound) {
   esito = Esegui(errori);
   EXPECT_EQ(esito.codice, 0);
   EXPECT_EQ(esito.uscita, "Errori generici\r\n\r\nManca titolo: 2001A0012\r\n\r\n");
+  QFile::remove(cartella_.Dump("errori.A01"));
+  ASSERT_TRUE(QDir().mkpath(cartella_.Dump("errori.A01")));
+  EXPECT_EQ(Esegui(errori).errori, "Non si legge " + cartella_.Dump("errori.A01") +
+                                       " - Errore di accesso al percorso o al file: " +
+                                       cartella_.Dump("errori.A01") + "\n");
   Riesce({"errori", "classe", Archivio()}, "Non ci sono errori di classificazione!\n");
   Riesce({"errori", "fonti", Archivio()}, "Non ci sono errori nelle fonti!\n");
   EXPECT_EQ(Informazioni(Archivio()), "A01|12|A|2001|1|-|-|-|-|-|1|1|1");

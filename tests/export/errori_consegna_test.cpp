@@ -32,7 +32,7 @@ class ErroriConsegnaTest : public testing::Test {
   // What the operator saw: each word as its kind and text, and the marker's value behind.
   std::string Vedi(const Vista& vista) {
     DialoghiScritti dialoghi;
-    VisualizzaErrori(stato, dialoghi, vista.voce);
+    motivo = VisualizzaErrori(stato, dialoghi, vista.voce);
     QString visto;
     for (const Parola& parola : dialoghi.Parole()) {
       const bool finestra = parola.genere == Parola::Genere::Errori;
@@ -49,6 +49,7 @@ class ErroriConsegnaTest : public testing::Test {
     ScriviByte(cartella.Dump(vista.file), testo);
   }
 
+  QString motivo;
   CartellaDiProva cartella;
   StatoGlobale stato = cartella.StatoConConsegna();
 };
@@ -73,6 +74,7 @@ TEST_F(ErroriConsegnaTest, EachFileIsShownUnderItsHeading) {
 TEST_F(ErroriConsegnaTest, OtherFailuresEndInSilence) {
   ASSERT_TRUE(QDir(cartella.Percorso()).mkpath("dump/errori.A01"));
   EXPECT_EQ(Vedi(kViste[0]), "1");
+  EXPECT_EQ(motivo, "Errore di accesso al percorso o al file: " + cartella.Dump("errori.A01"));
   stato.DbArchivio.Execute("delete * from TabInfo");
   DialoghiScritti dialoghi;
   VisualizzaErrori(stato, dialoghi, kErroriGenerici);

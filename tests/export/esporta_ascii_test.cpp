@@ -189,6 +189,19 @@ TEST(EsportaAscii, FindingsOfADocumentStandInTheOrderOfTheRun) {
             "\r\n");
 }
 
+TEST(EsportaAscii, AnyOfFourDataThatIsMissingIsTold) {
+  DocumentiDiProva prova;
+  const qint64 riferimento = prova.Riferimento();
+  prova.Documento({{"IDRifBibl", riferimento}});
+  std::string attesi;
+  for (const char* colonna : {"pagine", "td", "TAbs", "Bib"}) {
+    const qint64 id = prova.Documento({{"IDRifBibl", riferimento}, {colonna, ""}});
+    attesi += "Errori sui dati bibliografici: 2001A00" + std::to_string(11 + id) + "\n";
+  }
+  EsportaDaMenu(prova.StatoScritto(), kEsportaStorico);
+  EXPECT_EQ(Campi(prova, "errori.A01", "Errori sui"), attesi);
+}
+
 TEST(EsportaAscii, FieldsStandInTheirOrder) {
   DocumentiDiProva prova;
   const qint64 idDoc = prova.Esempio();
@@ -248,6 +261,53 @@ TEST(EsportaAscii, ABatchAsksNothingAndAppends) {
   EXPECT_EQ(Campi(prova, "errori.b12", "Manca fonte"),
             "Manca fonte: 2001A0012\nManca fonte: 2001A0012\n");
   EXPECT_TRUE(prova.stato.DbArchivio.OpenRecordset("TabInfo").Fields("Storico").Nullo());
+}
+
+// What may be appended to, from the menu and in the mode that a batch leaves.
+TEST(EsportaAscii, NothingIsAppendedToWhatIsNoOutput) {
+  struct Caso {
+    const char* nome;
+    QByteArray byte;
+    const char* menu;
+    const char* lotto;
+  };
+  const char* const lista = "è una lista di consegne";
+  const char* const archivio = "è un archivio";
+  const char* const altro = "non è un lexxdump";
+  const Caso kCasi[] = {
+      {"mdb/sigle.A03", "A01\r\n", lista, lista},
+      {"mdb/SIGLE.A04", "", lista, lista},
+      {"dump/lexxdump.mdb", QByteArray("SQLite format 3\0", 16) + "...", archivio, archivio},
+      {"mdb/altro.mdb", QByteArray("\0\1\0\0Standard Jet DB\0", 20), archivio, archivio},
+      {"dump/errori.A01", "Manca titolo: 2001A0012\r\n", altro, ""},
+      {"dump/Lexxdump isis.A02", "qualsiasi", "", ""},
+      {"dump/tutto.txt", "2001A0012\r\n14\r\n 12001A0012\r\n", "", ""},
+      {"dump/vuoto.txt", "", "", ""},
+  };
+  for (const Caso& caso : kCasi) {
+    DocumentiDiProva prova;
+    prova.Esempio();
+    const QString file = prova.cartella.Percorso() + '/' + caso.nome;
+    for (const bool lotto : {false, true}) {
+      SCOPED_TRACE(caso.nome);
+      ScriviByte(file, caso.byte);
+      prova.stato.ModoBatch = lotto;
+      prova.stato.FileBatch = file;
+      DialoghiScritti dialoghi;
+      if (!lotto) {
+        Domande(dialoghi, Risposta::No, Risposta::Si);
+        dialoghi.AttendeFileUscita(file);
+      }
+      const QString errore =
+          ErroreDi([&] { EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaStorico); });
+      const char* const atteso = lotto ? caso.lotto : caso.menu;
+      EXPECT_EQ(errore, *atteso == '\0' ? QString()
+                                        : "75 " + file + ' ' + atteso +
+                                              ": non vi si aggiunge nulla. Scegliere un file "
+                                              "lexxdump");
+      EXPECT_EQ(Byte(file) == caso.byte, *atteso != '\0');
+    }
+  }
 }
 
 // What a run-time error leaves: its number and document, whole records alone, the findings so far.
@@ -314,6 +374,13 @@ TEST(EsportaAscii, ARunThatCannotStartLeavesTheMarkerAndNoClosingLine) {
     EXPECT_EQ(NumeroErrore([&] { EsportaAscii(prova.StatoScritto(), dialoghi, kEsportaIsis); }),
               75);
   }
+  // Where one of the four cannot be opened the others stay as they were.
+  QFile::remove(prova.cartella.Dump("errFonte.A01"));
+  ASSERT_TRUE(QDir().mkpath(prova.cartella.Dump("errFonte.A01")));
+  ScriviByte(prova.cartella.Dump("lexxdump isis.A01"), "di prima");
+  EXPECT_EQ(Esporta(prova.StatoScritto(), kEsportaIsis).section(": ", 1),
+            prova.cartella.Dump("errFonte.A01"));
+  EXPECT_EQ(prova.Dump("lexxdump isis.A01"), "di prima");
   prova.stato.DbArchivio.Execute("update TabInfo set Storico = null");
   ASSERT_TRUE(QDir(prova.cartella.Percorso() + "/dump").removeRecursively());
   EXPECT_TRUE(Esporta(prova.StatoScritto(), kEsportaIsis).startsWith("76 "));

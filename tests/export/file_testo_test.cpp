@@ -87,17 +87,52 @@ TEST(FileTesto, AFullDeviceIsToldAtTheLatestByClose) {
 TEST(FileTesto, ADeviceThatFailsInTheMiddleLeavesWholeBlocks) {
   const CartellaDiProva cartella;
   const QString percorso = cartella.Dump("lexxdump isis.A01");
-  ScriviByte(percorso, "prima\r\n");
-  {
+  for (const rlim_t quanti : {1000, 907}) {  // in a block, and at the end of one
+    ScriviByte(percorso, "prima\r\n");
     FileTesto file(percorso, Apertura::Aggiunta);
     file.ScriviBlocco(QByteArray(600, 'a'));
     file.Svuota();
     file.ScriviBlocco(QByteArray(300, 'b'));
     file.ScriviBlocco(QByteArray(300, 'c'));
-    const FileLimitati limitati(1000);
+    const FileLimitati limitati(quanti);
     EXPECT_EQ(NumeroErrore([&] { file.Svuota(); }), 57);
+    EXPECT_EQ(Byte(percorso), "prima\r\n" + QByteArray(600, 'a') + QByteArray(300, 'b'));
   }
-  EXPECT_EQ(Byte(percorso), "prima\r\n" + QByteArray(600, 'a') + QByteArray(300, 'b'));
+}
+
+TEST(FileTesto, ANewFileTakesItsPlaceWhenClosedAndKeepsItsWholeBlocks) {
+  const CartellaDiProva cartella;
+  const QString percorso = cartella.Dump("note.A01");
+  ScriviByte(percorso, "prima\r\n");
+  QFile::setPermissions(percorso, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+  ASSERT_TRUE(QFile::link(percorso, cartella.Dump("legame")));
+  {
+    FileTesto file(cartella.Dump("legame"), Apertura::Scrittura);
+    EXPECT_EQ(file.Percorso(), cartella.Dump("legame"));
+    file.ScriviBlocco(QByteArray(600, 'a'));
+    file.Svuota();
+    EXPECT_EQ(Byte(percorso), "prima\r\n");
+    file.ScriviBlocco(QByteArray(600, 'b'));
+    const FileLimitati limitati(1000);
+    EXPECT_EQ(ErroreDi([&] { file.Close(); }).section(": ", 1), cartella.Dump("legame"));
+  }
+  EXPECT_EQ(Byte(percorso), QByteArray(600, 'a'));
+  EXPECT_TRUE(QFileInfo(cartella.Dump("legame")).isSymLink());
+  EXPECT_TRUE(QFile::permissions(percorso).testFlag(QFile::ReadGroup));
+}
+
+TEST(FileTesto, TwoThatAddToOneFileAreNotTornTogether) {
+  const CartellaDiProva cartella;
+  FileTesto primo(cartella.Dump("note.A01"), Apertura::Aggiunta);
+  EXPECT_EQ(ErroreDi([&] { FileTesto(cartella.Dump("NOTE.a01"), Apertura::Aggiunta).Close(); }),
+            "55 Un altro programma sta scrivendo " + cartella.Dump("note.A01") +
+                ": attendere che finisca e ripetere");
+  FileTesto(cartella.Dump("nuovi.A01"), Apertura::Aggiunta).Print("altro");
+  primo.Print("primo");
+  primo.Close();
+  FileTesto(cartella.Dump("note.A01"), Apertura::Aggiunta).Print("secondo");
+  EXPECT_EQ(Byte(cartella.Dump("note.A01")), "primo\r\nsecondo\r\n");
+  EXPECT_EQ(QDir(cartella.Percorso() + "/dump").entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 }  // namespace

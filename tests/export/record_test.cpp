@@ -37,7 +37,7 @@ TEST(Record, ALineHoldsAtMost245CharactersAndBreaksBehindABlank) {
       {Parole(244, 2) + "y", "23" + x + " \t\r\n23" + x + " \t\r\n23y\r\n"},
       {Parole(244, 2), "23" + x + " \t\r\n23" + x + " \r\n"},
       {QString(239, u'x') + " è\tà\r\nb",
-       "23" + std::string(239, 'x') + " \t\r\n23\x8a\t\x85\r\nb\r\n"},
+       "23" + std::string(239, 'x') + " \t\r\n23\x8a\t\x85  b\r\n"},
   };
   const CartellaDiProva cartella;
   for (const Caso& caso : kCasi) {
@@ -46,6 +46,26 @@ TEST(Record, ALineHoldsAtMost245CharactersAndBreaksBehindABlank) {
     record.AggiungiRiga(tag::kCodiciClasse, caso.contenuto);
     EXPECT_EQ(Scritto(cartella, record), "2001A0012\r\n2\r\n 12001A0012\r\n" + caso.righe)
         << caso.contenuto.size();
+  }
+}
+
+// Texts keep their line breaks; elsewhere one would begin a line without a tag.
+TEST(Record, OnlyTextsHoldLineBreaks) {
+  const CartellaDiProva cartella;
+  const QString valore = QString::fromUtf16(u"a\r\nb\0c", 6);
+  const std::string intero("a\r\nb\0c", 6);
+  for (const QString& tag :
+       {tag::kAutori, tag::kCuratori, tag::kRiferimento, tag::kFonti, tag::kClassi1999,
+        tag::kSecondoRiferimento, tag::kCitazione, tag::kCodiciClasse, tag::kClassiStorico,
+        tag::kClassiCassazione, tag::kTitolo, tag::kRiassunto, tag::kFontiEtichettate}) {
+    const bool testo =
+        tag == tag::kTitolo || tag == tag::kRiassunto || tag == tag::kFontiEtichettate;
+    Record record;
+    record.AggiungiRiga(tag, "x");
+    record.AggiungiRiga(tag, valore);
+    EXPECT_EQ(Scritto(cartella, record), "x\r\n2\r\n" + tag.toStdString() + "x\r\n" +
+                                             tag.toStdString() + (testo ? intero : "a  b c") +
+                                             "\r\n");
   }
 }
 

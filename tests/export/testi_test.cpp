@@ -66,8 +66,8 @@ TEST_F(Testi, BackslashesGetBlanksAndPairsOfBlanksCloseUpOnce) {
     const char* campo;
   };
   constexpr Caso kCasi[] = {
-      {"a\\b", "a \\ b"}, {"a \\ b", "a \\ b"}, {"a\\\\b", "a \\ \\ b"},    {"a   b", "a  b"},
-      {"a    b", "a  b"}, {" a ", " a "},       {"a\r\nb\tc", "a\r\nb\tc"},
+      {"a\\b", "a \\ b"}, {"a \\ b", "a \\ b"}, {"a\\\\b", "a \\ \\ b"}, {"a   b", "a  b"},
+      {"a    b", "a  b"}, {" a ", " a "},       {"a\\", "a \\ "},        {"a\r\nb\tc", "a\r\nb\tc"},
   };
   for (const Caso& caso : kCasi) {
     prova.stato.DbArchivio.Execute("delete * from LegameDocTesto");

@@ -5,6 +5,7 @@
 #include "consegna_fonti.h"
 #include "export/esporta_ascii.h"
 #include "report/estrazioni.h"
+#include "report/sigle.h"
 
 namespace torvi {
 namespace {
@@ -57,6 +58,31 @@ TEST_F(LottoDiConsegne, AppendsWhatEachDeliveryGives) {
   const QByteArray prima = Dump("note.A03");
   EstraiNote(stato, dialoghi);
   EXPECT_EQ(Dump("note.A03"), prima + "Consegna L1\r\n\r\n");
+  stato.FileBatch = cartella.Mdb("sigle.A03");  // as the form of the lists leaves it
+  EXPECT_TRUE(ErroreDi([&] { EstraiNote(stato, dialoghi); }).contains("lista di consegne"));
+  EXPECT_EQ(Byte(stato.FileBatch), "L2\nL1\rL4\n");
+}
+
+TEST_F(LottoDiConsegne, AListIsReadHoweverItWasMade) {
+  const std::pair<QByteArray, const char*> kCasi[] = {
+      {"L1\r\n \r\n\r\nL2", "L1| ||L2"},
+      {"L1\r\nL2\r\n\x1a", "L1|L2"},
+      {"L1\r\nL2\x1aL3\r\nL4", "L1|L2"},
+      {"\xef\xbb\xbfL1\r\nPerch\xc3\xa9\r\n", "L1|Perché"},
+      {"Perch\xe9\r\n", "Perché"},
+      {"L1\r\n" + QByteArray(256, 'x') + "\r\n", nullptr},
+      {"L1\r\n" + QByteArray(20'000'000, 'x'), nullptr},
+  };
+  const QString lista = cartella.Mdb("sigle.A03");
+  for (const auto& [byte, sigle] : kCasi) {
+    ScriviByte(lista, byte);
+    if (sigle != nullptr) {
+      EXPECT_EQ(LeggiSigle(lista).join('|').toStdString(), sigle);
+    } else {
+      EXPECT_EQ(ErroreDi([&] { (void)LeggiSigle(lista); }),
+                "5 La riga 2 di " + lista + " ha più di 255 caratteri");
+    }
+  }
 }
 
 TEST_F(LottoDiConsegne, StopsAtTheFirstDeliveryThatFails) {

@@ -100,6 +100,30 @@ TEST_F(StampaHtml, WritesEachSourceWithItsLink) {
   EXPECT_FALSE(dialoghi.InAttesa());
 }
 
+TEST_F(StampaHtml, NoValueBreaksAPage) {
+  stato.DbArchivio.Execute("update TabInfo set Consegna = \"R&S\"");
+  const qint64 corte = Genere("3", "<R>");
+  const qint64 documento = Documento("a < b & c > \"d\"");
+  Fonte(documento, {{"TP", "NIC"}, {"fonte", corte}, {"testo", "<i>&"}, {"anno", "2\"'"}});
+  Fonte(documento, {{"TP", "GEI"},
+                    {"fonte", 2},
+                    {"testo", "D'Amico & F."},
+                    {"altro", "CEDU (D'Amico \"&\" <F> \\ c. Italia)"}});
+  StampaHTMLCelex(stato, dialoghi);
+  StampaHTMLHudoc(stato, dialoghi);
+  const QByteArray celex = Dump("stampaHTML R&S.htm");
+  EXPECT_TRUE(celex.contains("<TITLE>Consegna R&amp;S</TITLE>\r\n") &&
+              celex.contains("<h1>Consegna R&amp;S</h1>\r\n") &&
+              celex.contains("<h3>a &lt; b &amp; c > \"d\"</h3>\r\n") &&
+              celex.contains("\r\n&lt;i>&amp; ---> <A HREF=") &&
+              celex.contains("CELEX:32&quot;&#39;&lt;R>0000:IT:NOT\">"))
+      << celex.toStdString();
+  const QByteArray hudoc = Dump("stampaHTML_GEI R&S.htm");
+  EXPECT_TRUE(hudoc.contains("\r\nD'Amico &amp; F. ---> ") &&
+              hudoc.contains("[\"D&#39;Amico \\&quot;&amp;\\&quot; &lt;F> \\\\ \"]}'>"))
+      << hudoc.toStdString();
+}
+
 TEST_F(StampaHtml, ADeliveryWithoutSuchSourcesLeavesAnEmptyFile) {
   ScriviByte(cartella.Dump("stampaHTML A01.htm"), "prima");
   StampaHTMLHudoc(stato, dialoghi);

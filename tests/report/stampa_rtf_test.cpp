@@ -167,6 +167,38 @@ TEST(StampaRTF, ReferencesInTheirVariants) {
   }
 }
 
+// Texts and sources go in as stored; any other value keeps the groups as they are.
+TEST(StampaRTF, NoValueButATextBreaksAGroup) {
+  ConsegnaDaStampare prova;
+  const auto graffe = [&] {
+    EXPECT_EQ(Stampa(prova.stato), 0);
+    return Byte(prova.cartella.Dump("stampaRTF-C-" + prova.stato.SiglaConsegna + ".rtf"))
+        .toStdString();
+  };
+  const std::string prima = graffe();
+  for (const char* istruzione : {"update TabInfo set Consegna = \"{0\"",
+                                 "update TabResponsabilita set PrimoElemento = \"a\\b{\"",
+                                 "update TabRivista set TitoloRivista = \"Riv}ista\"",
+                                 "update [TabClasse2000-S] set descrizione = \"d}\"",
+                                 "update TabClasse1999 set descrizione = \"vecchia{\""}) {
+    prova.stato.DbArchivio.Execute(QLatin1String(istruzione));
+  }
+  const std::string dopo = graffe();
+  for (const char* valore :
+       {"Stampa consegna \\{0 (completa)", "{a\\\\b\\{", "{Riv\\}ista,", "|d\\}", "vecchia\\{)"}) {
+    EXPECT_NE(dopo.find(valore), std::string::npos) << valore;
+  }
+  // Every brace that was not there before has its backslash.
+  const auto aperte = [](const std::string& file) {
+    return QByteArray::fromStdString(file)
+        .replace("\\\\", "")
+        .replace("\\{", "")
+        .replace("\\}", "");
+  };
+  EXPECT_EQ(aperte(dopo).count('{'), aperte(prima).count('{'));
+  EXPECT_EQ(aperte(dopo).count('}'), aperte(prima).count('}'));
+}
+
 // What a run-time error leaves: its number, no end of the file, no message.
 TEST(StampaRTF, ARunThatFailsIsNotShownAsWhole) {
   using Guasto = void (*)(ConsegnaDaStampare&);
