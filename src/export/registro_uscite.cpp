@@ -70,7 +70,7 @@ struct Registro {
 // An entry that was not written whole stands for a file that was not begun.
 Registro Leggi(const QString& percorso) {
   QFile file(percorso);
-  if (!file.open(QIODevice::ReadOnly)) return {};
+  if (!file.open(QIODevice::ReadOnly)) throw ErroreEsecuzione(Errore::ErroreDispositivo, percorso);
   const QByteArray byte = file.readAll();
   Registro registro;
   registro.completo = byte.startsWith(kCompleto);
@@ -82,21 +82,23 @@ Registro Leggi(const QString& percorso) {
   return registro;
 }
 
-void Termina(const Voce& voce, bool completo) {
-  if (!voce.passaggio.isEmpty()) {
-    const QByteArray passaggio = QFile::encodeName(voce.passaggio);
-    if (!completo) {
-      QFile::remove(voce.passaggio);
-    } else {
-      (void)std::rename(passaggio.constData(), QFile::encodeName(voce.posto).constData());
-    }
-  } else if (!completo && NumeroSuDisco(voce.posto) == voce.numero) {
-    if (voce.misura < 0) {
-      QFile::remove(voce.posto);
-    } else if (QFileInfo(voce.posto).size() > voce.misura) {
-      QFile::resize(voce.posto, voce.misura);
-    }
-  }
+bool Togli(const QString& percorso) {
+  return QFile::remove(percorso) || !QFileInfo::exists(percorso);
+}
+
+// A name beside that is gone was put in its place before the kill.
+bool Colloca(const Voce& voce) {
+  return std::rename(QFile::encodeName(voce.passaggio).constData(),
+                     QFile::encodeName(voce.posto).constData()) == 0 ||
+         errno == ENOENT;
+}
+
+// False where it cannot be done.
+bool Termina(const Voce& voce, bool completo) {
+  if (!voce.passaggio.isEmpty()) return completo ? Colloca(voce) : Togli(voce.passaggio);
+  if (completo || NumeroSuDisco(voce.posto) != voce.numero) return true;
+  if (voce.misura < 0) return Togli(voce.posto);
+  return QFileInfo(voce.posto).size() <= voce.misura || QFile::resize(voce.posto, voce.misura);
 }
 
 // Who writes a register holds it locked; where a file system has no locks its number must do.
@@ -122,8 +124,10 @@ void Percorri(const QString& cartella, const QString& proprio, const QString& po
     const Registro registro = Leggi(percorso);
     for (const Voce& voce : registro.voci) {
       if (morto) {
-        Termina(voce, registro.completo);
-      } else if (voce.posto == posto) {
+        if (Termina(voce, registro.completo)) continue;
+        throw ErroreEsecuzione(Errore::ErroreDispositivo, voce.posto);
+      }
+      if (voce.posto == posto) {
         throw ErroreEsecuzione::ConDescrizione(
             Errore::FileAperto,
             QStringLiteral("Un altro programma sta scrivendo %1: attendere che finisca e ripetere")
@@ -194,6 +198,7 @@ void RegistroUscite::Completo() {
 }
 
 void RipristinaUscite(const QString& cartella) {
+  if (!QFileInfo(cartella).isWritable()) return;
   const Descrittore soli(cartella, O_RDONLY | O_DIRECTORY);
   (void)soli.Blocca(LOCK_EX);
   Percorri(cartella, {}, {});

@@ -22,7 +22,7 @@ class RegistroUscite {
 
   // To be told of each file before a byte of it is written: that it is written beside, under the
   // name `passaggio`, or that it is added to, and whether it was there. Another program that is at
-  // work on the same file: error 55.
+  // work on the same file: error 55. What a killed run left that cannot be finished: error 57.
   void SiRinnova(const QString& posto, const QString& passaggio);
   void SiAccoda(const QString& posto, bool cera);
   // All files are whole and on disk; those beside go to their places now, come what may.
@@ -38,7 +38,8 @@ class RegistroUscite {
   qint64 lunghezza_ = 0;
 };
 
-// Finishes what killed runs left in a folder.
+// Finishes what killed runs left in a folder that can be written. What cannot be done: error 57,
+// which names the file.
 void RipristinaUscite(const QString& cartella);
 
 }  // namespace torvi
