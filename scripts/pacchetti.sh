@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages that are missing, quietly when none is.
-# usage: scripts/pacchetti.sh [prove] [misure] [schermate] [stile]
+# usage: scripts/pacchetti.sh [prove] [misure] [schermate] [stile] [fuzz]
 set -euo pipefail
 
 # Everything the program is built and run with.
@@ -11,6 +11,7 @@ prove=(sqlite3 util-linux)
 misure=(sqlite3 mdbtools time python3 libbenchmark-dev)
 schermate=(xvfb openbox xdotool imagemagick)
 stile=(clang-format clang-tidy)
+fuzz=(clang libclang-rt-14-dev)
 
 for gruppo in "$@"; do
   case $gruppo in
@@ -18,6 +19,7 @@ for gruppo in "$@"; do
     misure) pacchetti+=("${misure[@]}") ;;
     schermate) pacchetti+=("${schermate[@]}") ;;
     stile) pacchetti+=("${stile[@]}") ;;
+    fuzz) pacchetti+=("${fuzz[@]}") ;;
     *) echo "pacchetti.sh: gruppo sconosciuto: $gruppo" >&2; exit 2 ;;
   esac
 done

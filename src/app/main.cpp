@@ -21,7 +21,9 @@ int main(int argc, char* argv[]) {
   torvi::PreparaStato(stato, QApplication::applicationDirPath());
   torvi::MDIEditorTorvi finestra(stato);
   finestra.show();
-  torvi::Esegui(finestra.DialoghiDellaFinestra(),
-                [&stato] { torvi::PreparaCartelle(stato.CartellaApplicazione); });
+  torvi::Esegui(finestra.DialoghiDellaFinestra(), [&stato] {
+    torvi::PreparaCartelle(stato.CartellaApplicazione);
+    torvi::TogliLasciati(stato.CartellaApplicazione);
+  });
   return QApplication::exec();
 }

@@ -5,12 +5,12 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <filesystem>
 
 #include "archive/collazione.h"
 #include "archive/connessione.h"
 #include "archive/errore.h"
 #include "archive/file_nuovo.h"
+#include "archive/secondo_nome.h"
 #include "archive/travaso_jet.h"
 
 namespace torvi {
@@ -93,49 +93,14 @@ void Verifica(const QString& jet, const QString& archivio, Contarighe& conto) {
 void Converti(const QString& vecchio, const FileNuovo& nuovo, const Progresso& progresso) {
   const LettoreJet lettore(vecchio);
   Contarighe conto(lettore, 2, progresso);
-  ColMotore(vecchio, nuovo.Percorso(), [&] {
-    Scrivi(lettore, nuovo.Percorso(), conto);
-    Verifica(vecchio, nuovo.Percorso(), conto);
+  nuovo.Riempi([&] {
+    ColMotore(vecchio, nuovo.Percorso(), [&] {
+      Scrivi(lettore, nuovo.Percorso(), conto);
+      Verifica(vecchio, nuovo.Percorso(), conto);
+    });
   });
   QFile::setPermissions(nuovo.Percorso(), QFile::permissions(vecchio) | QFile::WriteOwner);
 }
-
-std::filesystem::path Percorso(const QString& percorso) {
-  return QFileInfo(percorso).filesystemFilePath();
-}
-
-// The file has its second name from an earlier conversion that was cut short.
-bool StessoFile(const QString& a, const QString& b) {
-  std::error_code assente;
-  return std::filesystem::equivalent(Percorso(a), Percorso(b), assente);
-}
-
-// The original under its second name as long as the conversion is not complete.
-class Originale {
- public:
-  Originale(const QString& percorso, QString conservato) : conservato_(std::move(conservato)) {
-    if (StessoFile(percorso, conservato_)) return;
-    std::error_code impossibile;
-    std::filesystem::create_hard_link(Percorso(percorso), Percorso(conservato_), impossibile);
-    if (impossibile) {
-      // A file system without second names, or a file of that name since a moment ago.
-      FileNuovo copia(conservato_);
-      copia.Copia(percorso);
-      copia.Consegna();
-    }
-    fatto_ = true;
-  }
-  Originale(const Originale&) = delete;
-  Originale& operator=(const Originale&) = delete;
-  ~Originale() {
-    if (fatto_) QFile::remove(conservato_);
-  }
-  void Conserva() { fatto_ = false; }
-
- private:
-  QString conservato_;
-  bool fatto_ = false;
-};
 
 void RichiediFile(const QString& percorso) {
   if (!QFileInfo::exists(percorso)) throw ErroreEsecuzione(Errore::DatabaseNonTrovato, percorso);
@@ -181,7 +146,7 @@ void ConvertiInLoco(const QString& percorso, const Progresso& progresso) {
   try {
     FileNuovo file(vero);
     Converti(vero, file, progresso);
-    Originale originale(vero, conservato);
+    SecondoNome originale(vero, conservato);
     file.Sostituisci();
     originale.Conserva();
   } catch (const ErroreEsecuzione& errore) {

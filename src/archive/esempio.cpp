@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <array>
 
+#include "archive/copia_archivio.h"
 #include "archive/errore.h"
 #include "archive/esempio/classi.h"
 #include "archive/esempio/difetti.h"
@@ -108,7 +109,7 @@ class Redazione {
 };
 
 void RichiediVuoto(const Database& archivio) {
-  for (const char* tabella : {"TabInfo", "TabDocumento", "TabTesto", "TabFonte"}) {
+  for (const char* tabella : {"TabDocumento", "TabTesto", "TabFonte"}) {
     const QString nome = QString::fromLatin1(tabella);
     if (archivio.OpenRecordset(nome).Eof()) continue;
     throw ErroreEsecuzione::ConDescrizione(
@@ -135,11 +136,15 @@ void Riempi(const QString& percorso, int documenti) {
 void CreaEsempio(const QString& percorso, const QString& master, int documenti) {
   FileNuovo file(percorso);
   if (QFileInfo::exists(master)) {
-    file.Copia(master);
+    RichiediSenzaConsegna(OpenDatabase(master, Accesso::SolaLettura));
+    file.Riempi([&] { CopiaArchivio(master, file); });
   } else {
-    CreaMaster(file.Percorso());
+    RiempiMaster(file);
   }
-  Riempi(file.Percorso(), documenti);
+  file.Riempi([&] {
+    Riempi(file.Percorso(), documenti);
+    RichiediIntegro(file.Percorso());
+  });
   file.Consegna();
 }
 

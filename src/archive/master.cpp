@@ -4,9 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "archive/copia_archivio.h"
 #include "archive/csv.h"
-#include "archive/database.h"
-#include "archive/file_nuovo.h"
 #include "archive/schema.h"
 
 // The macro declares a function, which must not land in a namespace.
@@ -86,18 +85,24 @@ struct Fonte {
   QString file;
 };
 
-void Crea(const QString& percorso, std::span<const Tabella> schema,
-          const std::vector<Fonte>& fonti) {
-  FileNuovo file(percorso);
-  CreaDatabase(file.Percorso(), schema);
-  Database database = OpenDatabase(file.Percorso());
-  {
-    UnitaDiScrittura unita(database);
-    for (const Fonte& fonte : fonti) CaricaTabella(database, fonte.tabella, fonte.file);
-    unita.Concludi();
-  }
+void Scrivi(const QString& percorso, std::span<const Tabella> schema,
+            const std::vector<Fonte>& fonti) {
+  ScriviTabelle(percorso, schema);
+  Database database = OpenDatabase(percorso);
+  UnitaDiScrittura unita(database);
+  for (const Fonte& fonte : fonti) CaricaTabella(database, fonte.tabella, fonte.file);
+  unita.Concludi();
   database.Close();
-  file.Consegna();
+  RichiediIntegro(percorso);
+}
+
+std::vector<Fonte> FontiMaster(const QString& cartella) {
+  std::vector<Fonte> fonti;
+  for (const Tabella& tabella : SchemaArchivio()) {
+    if (Vuota(tabella)) continue;
+    fonti.push_back({tabella, QStringLiteral("%1/%2.csv").arg(cartella, tabella.nome)});
+  }
+  return fonti;
 }
 
 }  // namespace
@@ -107,14 +112,23 @@ QString CartellaDati() {
   return QStringLiteral(":/dati");
 }
 
+void RiempiMaster(const FileNuovo& file, const QString& cartella) {
+  file.Riempi([&] { Scrivi(file.Percorso(), SchemaArchivio(), FontiMaster(cartella)); });
+}
+
 void CreaMaster(const QString& percorso, const QString& cartella) {
-  std::vector<Fonte> fonti;
-  for (const Tabella& tabella : SchemaArchivio()) {
-    if (!Vuota(tabella)) {
-      fonti.push_back({tabella, QStringLiteral("%1/%2.csv").arg(cartella, tabella.nome)});
-    }
-  }
-  Crea(percorso, SchemaArchivio(), fonti);
+  FileNuovo file(percorso);
+  RiempiMaster(file, cartella);
+  file.Consegna();
+}
+
+void RichiediSenzaConsegna(const Database& master) {
+  if (master.Conta(QStringLiteral("from TabInfo")) == 0) return;
+  throw ErroreEsecuzione::ConDescrizione(
+      Errore::OggettoNonTrovato,
+      QStringLiteral("Il master %1 contiene già i dati di una consegna (TabInfo non è vuota): "
+                     "mettere al suo posto un archivio master e riprovare.")
+          .arg(master.Name()));
 }
 
 void CreaCatalogo(const QString& percorso, const QString& cartella) {
@@ -123,9 +137,12 @@ void CreaCatalogo(const QString& percorso, const QString& cartella) {
     return *std::find_if(schema.begin(), schema.end(),
                          [&](const Tabella& una) { return una.nome == nome; });
   };
-  Crea(percorso, schema,
-       {{tabella(u"tabCatalogo"), cartella + QLatin1String("/catalogo.csv")},
-        {tabella(u"PD"), cartella + QLatin1String("/catalogo_pd.csv")}});
+  const std::vector<Fonte> fonti = {
+      {tabella(u"tabCatalogo"), cartella + QLatin1String("/catalogo.csv")},
+      {tabella(u"PD"), cartella + QLatin1String("/catalogo_pd.csv")}};
+  FileNuovo file(percorso);
+  file.Riempi([&] { Scrivi(file.Percorso(), schema, fonti); });
+  file.Consegna();
 }
 
 }  // namespace torvi

@@ -58,7 +58,7 @@ QString IstruzioneIndice(const Tabella& tabella, const Indice& indice) {
            colonne.join(QLatin1String(", ")));
 }
 
-void ScriviTabelle(const QString& percorso, std::span<const Tabella> tabelle) {
+void Scrivi(const QString& percorso, std::span<const Tabella> tabelle) {
   SQLite::Database database(percorso.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   RegistraFunzioni(database.getHandle());
   database.exec(kPagine);
@@ -91,13 +91,17 @@ QStringList IstruzioniTabella(const Tabella& tabella) {
   return istruzioni;
 }
 
-void CreaDatabase(const QString& percorso, std::span<const Tabella> tabelle) {
-  FileNuovo file(percorso);
+void ScriviTabelle(const QString& percorso, std::span<const Tabella> tabelle) {
   try {
-    ScriviTabelle(file.Percorso(), tabelle);
+    Scrivi(percorso, tabelle);
   } catch (const SQLite::Exception& guasto) {
     throw DaMotore(guasto, percorso);
   }
+}
+
+void CreaDatabase(const QString& percorso, std::span<const Tabella> tabelle) {
+  FileNuovo file(percorso);
+  file.Riempi([&] { ScriviTabelle(file.Percorso(), tabelle); });
   file.Consegna();
 }
 

@@ -55,5 +55,7 @@ inline constexpr const char* kPagine = "PRAGMA page_size = 8192";
 // A new database file with these tables, empty. It takes its name only when it is complete. The
 // file must not exist yet: error 75.
 void CreaDatabase(const QString& percorso, std::span<const Tabella> tabelle);
+// The tables alone, into an empty file.
+void ScriviTabelle(const QString& percorso, std::span<const Tabella> tabelle);
 
 }  // namespace torvi

@@ -48,7 +48,7 @@ Esito Cerca(Contesto& contesto, const QCommandLineParser& opzioni) {
   const QString parole = argomenti.mid(1).join(u' ');
   if (parole.isEmpty()) throw ErroreUso{QStringLiteral("manca la parola da cercare")};
   StatoGlobale& stato = contesto.stato;
-  stato.DbArchivio = ApriArchivio(argomenti.constFirst(), contesto.dialoghi);
+  stato.DbArchivio = ApriConsegna(argomenti.constFirst(), contesto.dialoghi);
   RisultatoRicerca risultato;
   EseguiRicerca(stato, contesto.dialoghi, &campo, modo, parole, risultato);
   for (const qint16 numero : stato.ListaRicerca) contesto.uscita << numero << '\n';

@@ -18,7 +18,7 @@ const FormaFonte& FormaScelta(const QString& nome) {
 Esito ComponiFonti(Contesto& contesto, const QCommandLineParser& opzioni) {
   const QStringList argomenti = opzioni.positionalArguments();
   const FormaFonte& forma = FormaScelta(argomenti.at(0));
-  contesto.stato.DbArchivio = ApriArchivio(argomenti.at(1), contesto.dialoghi);
+  contesto.stato.DbArchivio = ApriConsegna(argomenti.at(1), contesto.dialoghi);
   QFile ingresso;
   if (!ingresso.open(stdin, QIODevice::ReadOnly)) return Esito::Fallito;
   for (qint64 numero = 1; !ingresso.atEnd(); ++numero) {

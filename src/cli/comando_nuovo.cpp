@@ -56,7 +56,8 @@ const Comando kNuovo = {
     "nuovo",
     "ARCHIVIO --consegna SIGLA --inizio NUMERO --centro CENTRO --anno ANNO",
     "Crea una consegna dall'archivio master (mdb/master.mdb) e ne scrive il nome. Il nome del\n"
-    "file diventa maiuscolo; un file di quel nome viene sostituito.\n\n"
+    "file diventa maiuscolo; un file di quel nome viene sostituito, e resta accanto con\n"
+    ".precedente in fondo al nome.\n\n"
     "  --consegna SIGLA  nome della consegna, estensione di tutte le uscite\n"
     "  --inizio NUMERO   numero del primo documento\n"
     "  --centro CENTRO   centro di spoglio, un carattere\n"

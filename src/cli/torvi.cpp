@@ -6,6 +6,7 @@
 #include <array>
 
 #include "cli/comando.h"
+#include "shell/avvio.h"
 #include "shell/guardia.h"
 #include "shell/percorsi.h"
 
@@ -68,6 +69,7 @@ int EseguiComando(const Comando& comando, const QCommandLineParser& opzioni,
   try {
     Esegui(contesto.dialoghi, [&] {
       contesto.stato.CartellaApplicazione = CartellaApplicazione(cartella);
+      TogliLasciati(contesto.stato.CartellaApplicazione);
       esito = comando.esegui(contesto, opzioni);
     });
   } catch (const Rifiuto& rifiuto) {

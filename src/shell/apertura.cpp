@@ -1,13 +1,15 @@
 #include "shell/apertura.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <array>
 
 #include "archive/conversione.h"
+#include "archive/copia_archivio.h"
 #include "archive/errore.h"
 #include "archive/file_nuovo.h"
 #include "archive/jet.h"
+#include "archive/master.h"
 #include "archive/verifica.h"
 #include "shell/percorsi.h"
 
@@ -20,13 +22,16 @@ using Requisito = void (*)(const Database&);
 void Converti(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) {
   // Any Jet file can be converted; only one of that kind should be.
   requisito(OpenDatabase(percorso, Accesso::SolaLettura));
+  // Where a link leads, as the conversion does.
+  const QFileInfo file(percorso);
+  const QString vero = file.isSymLink() ? file.canonicalFilePath() : percorso;
   Clessidra clessidra(dialoghi);
   ConvertiInLoco(percorso, [&dialoghi](const QString& cosa, int fatto, int totale) {
     dialoghi.Avanzamento(cosa, fatto, totale);
   });
   clessidra.Togli();
   dialoghi.Messaggio(
-      QStringLiteral("Archivio convertito; l'originale è conservato come %1.jet").arg(percorso));
+      QStringLiteral("Archivio convertito; l'originale è conservato come %1.jet").arg(vero));
 }
 
 Database Apri(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) {
@@ -37,30 +42,69 @@ Database Apri(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) 
   return database;
 }
 
-// Found wanting before anything is copied over an archive that is there.
+// Found wanting before anything is made, or a file that is there is touched.
 void RichiediMaster(const QString& master, const QString& destinazione) {
   if (!QFileInfo::exists(master)) throw ErroreEsecuzione(Errore::FileNonTrovato, master);
   if (QFileInfo(master) == QFileInfo(destinazione)) {
     throw ErroreEsecuzione(Errore::AccessoNegato, master);
   }
-  RichiediArchivio(OpenDatabase(master, Accesso::SolaLettura));
+  const Database aperto = OpenDatabase(master, Accesso::SolaLettura);
+  RichiediArchivio(aperto);
+  RichiediSenzaConsegna(aperto);
 }
 
-void ScriviInformazioni(const Database& archivio, const QString& informazione) {
-  const QStringList campi = informazione.split(u'|');
-  if (campi.size() < 4) throw ErroreEsecuzione(Errore::IndiceNonValido);
+struct Dato {
+  const char* colonna;
+  bool maiuscolo;
+};
+// In the order in which they are given.
+constexpr std::array kDati = {Dato{"Consegna", true}, Dato{"NumInizio", false},
+                              Dato{"IDCentroSpoglio", true}, Dato{"AnnoProduzione", false}};
+
+QStringList LeggiDati(const QString& informazione, const QString& master) {
+  QStringList campi = informazione.split(u'|');
+  if (campi.size() < static_cast<qsizetype>(kDati.size())) {
+    throw ErroreEsecuzione(Errore::IndiceNonValido);
+  }
+  for (std::size_t i = 0; i < kDati.size(); ++i) {
+    QString& campo = campi[static_cast<qsizetype>(i)];
+    if (kDati[i].maiuscolo) campo = campo.toUpper();
+    const int larghezza = LarghezzaColonna(master, "TabInfo", kDati[i].colonna);
+    if (campo.size() <= larghezza) continue;
+    throw ErroreEsecuzione::ConDescrizione(
+        Errore::ConversioneTipo,
+        QStringLiteral("%1 ha %2 caratteri, al massimo possono essere %3: archivio non creato.")
+            .arg(QLatin1String(kDati[i].colonna))
+            .arg(campo.size())
+            .arg(larghezza));
+  }
+  return campi;
+}
+
+void ScriviInformazioni(const Database& archivio, const QStringList& campi) {
   Recordset info = archivio.OpenRecordset(QStringLiteral("TabInfo"));
   info.AddNew();
-  info.Assegna("Consegna", campi[0].toUpper());
-  info.Assegna("NumInizio", campi[1]);
-  info.Assegna("IDCentroSpoglio", campi[2].toUpper());
-  info.Assegna("AnnoProduzione", campi[3]);
+  for (std::size_t i = 0; i < kDati.size(); ++i) {
+    info.Assegna(kDati[i].colonna, campi[static_cast<qsizetype>(i)]);
+  }
   info.Update();
 }
 
-// On disk a name in another case is another file; to the operator it is the one to be replaced.
-void TogliAltraGrafia(const QString& trovato, const QString& percorso) {
-  if (trovato != percorso) QFile::remove(trovato);
+// Where the delivery goes: behind a link that has its name, where the link leads.
+QString Posto(const QString& trovato, const QString& percorso) {
+  if (QFileInfo(trovato).isDir()) return trovato;
+  return QFileInfo(trovato).isSymLink() ? QFileInfo(trovato).canonicalFilePath() : percorso;
+}
+
+// What a killed program began in the archive that is kept is rolled back; one that another program
+// is writing to is not replaced under its hands.
+void Ripristina(const QString& precedente) {
+  if (!QFileInfo(precedente).isFile() || EFileJet(precedente)) return;
+  try {
+    OpenDatabase(precedente).Close();
+  } catch (const ErroreEsecuzione& errore) {
+    if (errore.E(Errore::DatabaseInUso)) throw;
+  }
 }
 
 }  // namespace
@@ -73,26 +117,46 @@ Database ApriCatalogo(const QString& percorso, Dialoghi& dialoghi) {
   return Apri(percorso, RichiediCatalogo, dialoghi);
 }
 
+Database ApriConsegna(const QString& percorso, Dialoghi& dialoghi) {
+  Database archivio = ApriArchivio(percorso, dialoghi);
+  const int righe = archivio.Conta(QStringLiteral("from TabInfo"));
+  if (righe == 1) return archivio;
+  const QString quale =
+      righe == 0
+          ? QStringLiteral("mancano i dati della consegna (TabInfo è vuota)")
+          : QStringLiteral("ci sono i dati di più consegne (TabInfo ha %1 righe)").arg(righe);
+  dialoghi.Messaggio(QStringLiteral("Nell'archivio %1 %2: stampe ed esportazioni non riusciranno. "
+                                    "Usare una copia di riserva, o avvertire l'assistenza.")
+                         .arg(archivio.Name(), quale));
+  return archivio;
+}
+
 QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
                      Dialoghi& dialoghi) {
   const QString master = FileArchivio(stato.CartellaApplicazione, QStringLiteral("master.mdb"));
-  QString destinazione = NomeMaiuscolo(percorso);
-  const QString precedente = TrovaPercorso(destinazione);
-  RichiediMaster(master, precedente);
+  const QString maiuscolo = NomeMaiuscolo(percorso);
+  const QString trovato = TrovaPercorso(maiuscolo);
+  RichiediMaster(master, trovato);
   if (EFileJet(master)) Converti(master, RichiediArchivio, dialoghi);
-  FileNuovo nuovo(destinazione);
-  nuovo.Copia(master);
-  try {
-    stato.DbArchivio = OpenDatabase(nuovo.Percorso());
-    ScriviInformazioni(stato.DbArchivio, informazione);
-    stato.DbArchivio.Close();
-  } catch (const ErroreEsecuzione&) {
-    nuovo.Sostituisci();  // what was copied stays
-    throw;
+  const QStringList campi = LeggiDati(informazione, master);
+  FileNuovo nuovo(Posto(trovato, maiuscolo));
+  const QString precedente =
+      QFileInfo(trovato).isSymLink() ? QFileInfo(trovato).canonicalFilePath() : trovato;
+  Ripristina(precedente);
+  nuovo.Riempi([&] {
+    CopiaArchivio(master, nuovo);
+    Database consegna = OpenDatabase(nuovo.Percorso());
+    ScriviInformazioni(consegna, campi);
+    consegna.Close();
+    RichiediIntegro(nuovo.Percorso());
+    stato.DbArchivio = consegna;
+  });
+  const QString conservato = nuovo.SostituisciConservando(precedente);
+  if (!conservato.isEmpty()) {
+    dialoghi.Messaggio(
+        QStringLiteral("Archivio creato; quello di prima è conservato come %1").arg(conservato));
   }
-  nuovo.Sostituisci();
-  TogliAltraGrafia(precedente, destinazione);
-  return destinazione;
+  return nuovo.Destinazione();
 }
 
 }  // namespace torvi

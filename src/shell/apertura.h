@@ -17,12 +17,18 @@ namespace torvi {
 // error 3011.
 [[nodiscard]] Database ApriCatalogo(const QString& percorso, Dialoghi& dialoghi);
 
-// A new delivery: a copy of the master archive under the upper-cased name, taking the place of a
-// file of that name, with its row of `TabInfo` from `informazione` ("consegna|inizio|centro|anno").
-// DbArchivio is left closed. A master in Jet form is converted first. The file appears when it is
-// complete; if its row cannot be written it stays as it was copied. No master: error 53; the master
-// itself as target: 70; no folder: 76; fewer than four fields: error 9. Result: the path
-// of the new file.
+// The same as ApriArchivio for an archive that has to be a delivery: one whose `TabInfo` has not
+// exactly one row is opened all the same, and a message says so.
+[[nodiscard]] Database ApriConsegna(const QString& percorso, Dialoghi& dialoghi);
+
+// A new delivery: what is committed in the master archive, under the upper-cased name, with its row
+// of `TabInfo` from `informazione` ("consegna|inizio|centro|anno"). It is made beside, checked, and
+// takes its place when it is complete; until then, and whatever fails, what was there stays. A file
+// that it replaces is kept beside, and a message names it. DbArchivio is left closed. A master in
+// Jet form is converted first. No master: error 53; the master itself as target: 70; a master that
+// holds a delivery: 3011; a folder as target: 75; no folder: 76; fewer than four fields: error 9;
+// one that its column cannot hold: 3421. Result: the path of the new file, behind a link the real
+// one.
 QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString& informazione,
                      Dialoghi& dialoghi);
 

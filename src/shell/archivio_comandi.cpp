@@ -46,7 +46,7 @@ RichiestaFile Richiesta(const StatoGlobale& stato, const QString& titolo) {
 
 Database ApriComeArchivio(const QString& percorso, Dialoghi& dialoghi) {
   try {
-    return ApriArchivio(percorso, dialoghi);
+    return ApriConsegna(percorso, dialoghi);
   } catch (const ErroreEsecuzione& errore) {
     if (errore.E(Errore::DatabaseNonTrovato) || errore.E(Errore::NessunRecordCorrente)) throw;
     // Whatever keeps a file from being used as an archive: to the command the object is not there.

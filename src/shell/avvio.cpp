@@ -1,5 +1,8 @@
 #include "shell/avvio.h"
 
+#include "archive/file_nuovo.h"
+#include "shell/percorsi.h"
+
 namespace torvi {
 
 void PreparaStato(StatoGlobale& stato, const QString& cartellaApplicazione) {
@@ -8,6 +11,10 @@ void PreparaStato(StatoGlobale& stato, const QString& cartellaApplicazione) {
   stato.ListaRicerca.clear();
   stato.ModoBatch = false;
   stato.NotaDocCancellata = false;
+}
+
+void TogliLasciati(const QString& cartellaApplicazione) {
+  TogliFileLasciati(TrovaPercorso(cartellaApplicazione + QLatin1String("/mdb")));
 }
 
 }  // namespace torvi

@@ -51,10 +51,9 @@ TEST(DialoghiConsole, SaysOneLineForEachMessageAndShowsNoProgressInAFile) {
 class Terminale {
  public:
   Terminale() : errori_(dup(STDERR_FILENO)), capo_(posix_openpt(O_RDWR | O_NOCTTY)) {
-    EXPECT_EQ(grantpt(capo_), 0);
-    EXPECT_EQ(unlockpt(capo_), 0);
+    if (capo_ < 0 || grantpt(capo_) != 0 || unlockpt(capo_) != 0) return;
     schermo_ = open(ptsname(capo_), O_RDWR | O_NOCTTY);
-    EXPECT_EQ(dup2(schermo_, STDERR_FILENO), STDERR_FILENO);
+    if (schermo_ >= 0) dup2(schermo_, STDERR_FILENO);
   }
   Terminale(const Terminale&) = delete;
   Terminale& operator=(const Terminale&) = delete;
@@ -62,6 +61,8 @@ class Terminale {
     dup2(errori_, STDERR_FILENO);
     for (const int uno : {errori_, capo_, schermo_}) close(uno);
   }
+  // Some machines have none to give.
+  [[nodiscard]] bool Dato() const { return schermo_ >= 0; }
   // What is written reaches the other end a moment later, and perhaps not at once.
   void Mostra(const std::string& atteso) const {
     std::string scritto;
@@ -85,6 +86,7 @@ TEST(DialoghiConsole, ShowsHowFarARunHasComeOnATerminal) {
   QTextStream uscita(&testo);
   DialoghiConsole dialoghi(uscita);
   const Terminale terminale;
+  if (!terminale.Dato()) GTEST_SKIP() << "no terminal is to be had on this machine";
   dialoghi.Ambito("B01 (2 di 3): ");
   dialoghi.Avanzamento("Note", 100, 250);
   terminale.Mostra("\rB01 (2 di 3): Note: 100 di 250");
