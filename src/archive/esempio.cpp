@@ -136,7 +136,7 @@ void Riempi(const QString& percorso, int documenti) {
 void CreaEsempio(const QString& percorso, const QString& master, int documenti) {
   FileNuovo file(percorso);
   if (QFileInfo::exists(master)) {
-    RichiediSenzaConsegna(OpenDatabase(master, Accesso::SolaLettura));
+    RichiediSenzaConsegna(OpenDatabase(master));
     file.Riempi([&] { CopiaArchivio(master, file); });
   } else {
     RiempiMaster(file);

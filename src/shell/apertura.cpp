@@ -48,7 +48,8 @@ void RichiediMaster(const QString& master, const QString& destinazione) {
   if (QFileInfo(master) == QFileInfo(destinazione)) {
     throw ErroreEsecuzione(Errore::AccessoNegato, master);
   }
-  const Database aperto = OpenDatabase(master, Accesso::SolaLettura);
+  // For writing, so that what a killed program began in it is rolled back.
+  const Database aperto = OpenDatabase(master);
   RichiediArchivio(aperto);
   RichiediSenzaConsegna(aperto);
 }

@@ -13,6 +13,8 @@
 #include "archive/dati_jet.h"
 #include "archive/errore.h"
 #include "archive/jet.h"
+#include "archive/per_nome.h"
+#include "archive/schema.h"
 #include "comune/file_limitati.h"
 
 namespace torvi {
@@ -73,6 +75,13 @@ void ConfrontaTutto(const Database& archivio, const QString& mdb) {
   }
 }
 
+// A key on the counter alone has no index of its own, and is unique by itself.
+bool Unico(const Database& archivio, const QString& tabella, const Indice& indice) {
+  const Recordset trovato = archivio.OpenRecordset("select sql from sqlite_master where name = ?",
+                                                   {NomeIndice(tabella, indice.nome)});
+  return trovato.Eof() || trovato.Fields("sql").Testo().startsWith("CREATE UNIQUE");
+}
+
 TEST_F(Conversione, EveryRowOfEveryFileArrives) {
   for (const QString& mdb : FileJet()) {
     SCOPED_TRACE(qPrintable(mdb));
@@ -114,7 +123,10 @@ TEST_F(Conversione, IndexesAndDefaultsOfBothSchemasAreThere) {
   tabelle.insert(tabelle.end(), lettore.Tabelle().begin(), lettore.Tabelle().end());
   for (const Tabella& tabella : tabelle) {
     Recordset righe = archivio.OpenRecordset(tabella.nome);
+    const Tabella* nelFile = PerNome(lettore.Tabelle(), tabella.nome);
     for (const Indice& indice : tabella.indici) {
+      const Indice* suo = nelFile == nullptr ? nullptr : PerNome(nelFile->indici, indice.nome);
+      EXPECT_EQ(Unico(archivio, tabella.nome, indice), suo != nullptr && suo->unico);
       EXPECT_NO_THROW(righe.Index(indice.nome.toStdString()))
           << qPrintable(tabella.nome + u'.' + indice.nome);
     }
@@ -255,7 +267,8 @@ TEST_F(Conversione, AFullDiskLeavesNothing) {
   if (mount("tmpfs", disco.constData(), "tmpfs", 0, "size=128k") != 0) {
     GTEST_SKIP() << "no right to mount a small disk";
   }
-  Fallisce(61, "Liberare spazio", [this] { ConvertiJet(vecchio_, Nella("disco/nuovo.mdb")); });
+  Fallisce(61, "Disco pieno: " + Nella("disco/nuovo.mdb") + " Liberare spazio",
+           [this] { ConvertiJet(vecchio_, Nella("disco/nuovo.mdb")); });
   EXPECT_TRUE(QDir(Nella("disco")).isEmpty());
   EXPECT_EQ(umount(disco.constData()), 0);
 }
@@ -279,6 +292,7 @@ TEST_F(Conversione, AKillLosesNothing) {
     EXPECT_TRUE(Byte(vecchio_) == originale_);
     ConvertiInLoco(vecchio_);
     ConfrontaTutto(OpenDatabase(vecchio_), "consegna.mdb");
+    EXPECT_EQ(File(), "archivio.mdb archivio.mdb.jet");
     ASSERT_TRUE(QFile::remove(conservato_));
   }
 }

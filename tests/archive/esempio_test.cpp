@@ -70,7 +70,10 @@ TEST_F(Esempio, LeavesAFileAndAnUnsuitableMasterAlone) {
   EXPECT_EQ(Byte(presente), "altro");
   const QString nuovo = cartella_->Mdb("nuovo.mdb");
   const QString consegna = cartella_->Mdb("A01.MDB");
-  EXPECT_EQ(NumeroErrore([&] { CreaEsempio(nuovo, consegna, 1); }), 3011);
+  EXPECT_EQ(ErroreDi([&] { CreaEsempio(nuovo, consegna, 1); }),
+            "3011 Il master " + consegna +
+                " contiene già i dati di una consegna (TabInfo non è vuota): mettere al suo posto "
+                "un archivio master e riprovare.");
   EXPECT_FALSE(QFile::exists(nuovo));
 }
 

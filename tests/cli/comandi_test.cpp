@@ -39,7 +39,12 @@ class Comandi : public testing::Test {
 const QString kFine = "Fine esportazione della consegna A01\n";
 
 TEST_F(Comandi, NuovoMakesADeliveryUnderTheUpperCasedName) {
-  Riesce({"master", cartella_.Mdb("master.mdb")});
+  // The folder may be named behind the command, too.
+  const QString lasciato = cartella_.Mdb("A01.MDB.1-0.parziale");
+  ScriviByte(lasciato, "di un programma ucciso");
+  EXPECT_EQ(
+      Torvi({"master", cartella_.Mdb("master.mdb"), "--cartella", cartella_.Percorso()}).codice, 0);
+  EXPECT_FALSE(QFile::exists(lasciato));
   const QString minuscolo = cartella_.Mdb("b02.mdb");
   const QString atteso = cartella_.Mdb("B02.MDB");
   ScriviByte(minuscolo, "una consegna da sostituire");
@@ -48,8 +53,10 @@ TEST_F(Comandi, NuovoMakesADeliveryUnderTheUpperCasedName) {
   EXPECT_EQ(esito.codice, 0) << esito.errori.toStdString();
   EXPECT_EQ(esito.uscita, atteso + "\n");
   EXPECT_EQ(Informazioni(atteso), "B02|12|A|2001|-|-|-|-|-|-|-|-|-");
-  EXPECT_FALSE(QFile::exists(minuscolo));
-  EXPECT_EQ(QDir(cartella_.Percorso() + "/mdb").entryList(QDir::Files).size(), 2);
+  EXPECT_EQ(esito.errori,
+            "Archivio creato; quello di prima è conservato come " + minuscolo + ".precedente\n");
+  EXPECT_EQ(QDir(cartella_.Percorso() + "/mdb").entryList(QDir::Files),
+            (QStringList{"B02.MDB", "b02.mdb.precedente", "master.mdb"}));
 }
 
 TEST_F(Comandi, NuovoNeedsAMaster) {
@@ -197,7 +204,7 @@ TEST_F(Comandi, LottoGathersWhatTheDeliveriesExportAlone) {
 
 TEST_F(Comandi, CercaWritesTheNumbersFound) {
   PreparaEsempio(12);
-  const QStringList cerca{"cerca", Archivio(), "--campo", "Titolo"};
+  const QStringList cerca{"cerca", Archivio(), "--campo", "titOLO"};
   {
     const Database archivio = OpenDatabase(Archivio());
     for (const int numero : {3, 7}) {
@@ -258,6 +265,9 @@ TEST_F(Genuini, AJetArchiveIsConvertedBesideOrInPlace) {
 
 TEST_F(Genuini, AJetMasterMakesDeliveries) {
   const QString master = cartella_.Mdb("master.mdb");
+  EXPECT_TRUE(Esegui({"master", master, "--da", FileGenuino("classificazione.mdb")})
+                  .errori.startsWith("Errore di run-time '3011': "));
+  EXPECT_FALSE(QFile::exists(master));
   Riesce({"master", master, "--da", FileGenuino("master.mdb")});
   const QString esempio = cartella_.Mdb("esempio.mdb");
   Riesce({"esempio", esempio});

@@ -1,13 +1,17 @@
 #include "shell/archivio_comandi.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
+#include <csignal>
 
 #include "archive/schema.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
+#include "comune/file_limitati.h"
 #include "shell/apertura.h"
 
 namespace torvi {
@@ -27,6 +31,22 @@ class DialoghiGuasti : public DialoghiScritti {
  private:
   Errore errore_;
 };
+
+// Killed with a write begun and spilled to disk.
+void LasciaAMeta(const QString& percorso) {
+  const pid_t figlio = fork();
+  if (figlio == 0) {
+    const Database archivio = OpenDatabase(percorso);
+    const UnitaDiScrittura unita(archivio);
+    for (int i = 0; i < 400; ++i) {
+      Aggiungi(archivio, "TabTesto", {{"testo", QString(10000, 'x')}});
+    }
+    (void)std::raise(SIGKILL);
+  }
+  int esito = 0;
+  ASSERT_EQ(waitpid(figlio, &esito, 0), figlio);
+  ASSERT_TRUE(WIFSIGNALED(esito));
+}
 
 class ArchivioComandi : public testing::Test {
  protected:
@@ -143,7 +163,10 @@ TEST_F(ArchivioComandi, MakesADeliveryFromTheMaster) {
   EXPECT_FALSE(dialoghi.UltimaRichiesta().deveEsistere);
   EXPECT_EQ(stato.PathArchivio, cartella.Mdb("prova.mdb"));
   EXPECT_EQ(NumeroErrore([&] { stato.DbArchivio.Close(); }), 3420);
-  EXPECT_EQ(FileMdb(), (QStringList{"PROVA.MDB", "master.mdb"}));
+  // A journal goes where its file goes.
+  EXPECT_EQ(FileMdb(), (QStringList{"PROVA.MDB", "master.mdb", "prova.mdb.precedente"}));
+  EXPECT_EQ(dialoghi.Messaggi(), QStringList{"Archivio creato; quello di prima è conservato come " +
+                                             cartella.Mdb("prova.mdb.precedente")});
   EXPECT_EQ(Byte(cartella.Mdb("master.mdb")), master);
 
   EXPECT_EQ(RigheTesto(OpenDatabase(cartella.Mdb("PROVA.MDB")), "TabInfo"),
@@ -197,9 +220,61 @@ TEST_F(ArchivioComandi, ShowsWhyADeliveryCannotBeMade) {
             "Impossibile trovare il percorso: " + cartella.Percorso() + "/assente");
   EXPECT_EQ(FileMdb(), (QStringList{"X.MDB", "master.mdb"}));
 
-  // A failure after the copy leaves what was copied.
   EXPECT_EQ(prova(cartella.Mdb("x.mdb"), "A01|1|A"), "Indice non incluso nell'intervallo.");
-  EXPECT_TRUE(OpenDatabase(cartella.Mdb("X.MDB")).OpenRecordset("TabInfo").Eof());
+  EXPECT_EQ(prova(cartella.Mdb("x.mdb"), "A01|1|AB|2001"),
+            "IDCentroSpoglio ha 2 caratteri, al massimo possono essere 1: archivio non creato.");
+  EXPECT_EQ(prova(cartella.Mdb("x.mdb"), QString(256, 'a') + "|1|A|2001"),
+            "Consegna ha 256 caratteri, al massimo possono essere 255: archivio non creato.");
+  ASSERT_TRUE(QDir(cartella.Mdb("y")).mkpath("."));
+  EXPECT_EQ(prova(cartella.Mdb("Y"), dati),
+            cartella.Mdb("y") + " è una cartella: scrivere il nome di un file.");
+  {
+    const FileLimitati limitati(20000);  // in the middle of the copy
+    EXPECT_TRUE(prova(cartella.Mdb("x.mdb"), dati).endsWith(": " + cartella.Mdb("X.MDB")));
+  }
+  Aggiungi(OpenDatabase(master), "TabInfo", {{"Consegna", "A01"}});
+  EXPECT_TRUE(prova(cartella.Mdb("x.mdb"), dati)
+                  .startsWith("Il master " + master + " contiene già i dati di una consegna"));
+  EXPECT_EQ(Byte(cartella.Mdb("X.MDB")), "stays");
+  EXPECT_EQ(FileMdb(), (QStringList{"X.MDB", "master.mdb"}));
+}
+
+// A write that a kill cut off in the master, and one in what is replaced, are taken back first.
+TEST_F(ArchivioComandi, CopiesAndKeepsWhatIsCommitted) {
+  CreaMasterVuoto();
+  cartella.NuovaConsegna("B01.MDB").Close();
+  for (const char* nome : {"master.mdb", "B01.MDB"}) LasciaAMeta(cartella.Mdb(nome));
+  ASSERT_TRUE(QFile::exists(cartella.Mdb("B01.MDB-journal")));
+  // A link has the name: what it leads to is replaced, and named.
+  ASSERT_TRUE(QFile::rename(cartella.Mdb("B01.MDB"), cartella.Mdb("VERO.MDB")) &&
+              QFile::rename(cartella.Mdb("B01.MDB-journal"), cartella.Mdb("VERO.MDB-journal")) &&
+              QFile::link(cartella.Mdb("VERO.MDB"), cartella.Mdb("b01.mdb")));
+  DialoghiScritti dialoghi;
+  EXPECT_EQ(CreaConsegna(stato, cartella.Mdb("b01.mdb"), "b01|1|a|2001", dialoghi),
+            cartella.Mdb("VERO.MDB"));
+  EXPECT_EQ(FileMdb(), (QStringList{"VERO.MDB", "VERO.MDB.precedente", "b01.mdb", "master.mdb"}));
+  for (const char* nome : {"VERO.MDB", "VERO.MDB.precedente"}) {
+    const Database archivio = OpenDatabase(cartella.Mdb(nome));
+    EXPECT_TRUE(archivio.OpenRecordset("TabTesto").Eof()) << nome;
+    EXPECT_EQ(archivio.Conta("from TabInfo"), 1) << nome;
+  }
+}
+
+TEST_F(ArchivioComandi, OpensAnArchiveThatIsNoDeliveryAndSaysSo) {
+  const Database archivio = cartella.NuovaConsegna("A01.MDB");
+  const auto messaggi = [&] {
+    DialoghiScritti dialoghi;
+    dialoghi.AttendeFile(kApri, cartella.Mdb("A01.MDB"));
+    EXPECT_TRUE(ComandoApri(stato, dialoghi));
+    return dialoghi.Messaggi().join('|');
+  };
+  const QString detto = "Nell'archivio " + cartella.Mdb("A01.MDB") +
+                        " %1: stampe ed esportazioni non riusciranno. Usare una copia di riserva, "
+                        "o avvertire l'assistenza.";
+  Aggiungi(archivio, "TabInfo", {});
+  EXPECT_EQ(messaggi(), detto.arg("ci sono i dati di più consegne (TabInfo ha 2 righe)"));
+  archivio.Execute("delete * from TabInfo");
+  EXPECT_EQ(messaggi(), detto.arg("mancano i dati della consegna (TabInfo è vuota)"));
 }
 
 TEST_F(ArchivioComandi, EndsInEveryState) {
