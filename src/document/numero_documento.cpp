@@ -38,15 +38,15 @@ bool Chiede(const Documento& documento, const QString& domanda) {
 // Its links name the number shown: they must not go to a document that is not its own.
 bool ConfermaNuovo(Documento& documento, qint64 numero, bool cambiato) {
   const bool altrui = numero != documento.numeroSuo && Esiste(documento, numero);
-  if (!altrui && !cambiato) return true;
-  const QString seguente = QString::number(NumeroSeguente(documento));
+  const qint64 seguente = NumeroSeguente(documento);
+  if (!altrui && (!cambiato || numero == seguente)) return true;
   const QString perche = altrui ? QStringLiteral("Il numero %1 è già di un altro documento.")
                                 : QStringLiteral("Il numero %1 non è quello che segue l'ultimo.");
   if (!Chiede(documento,
               perche.arg(numero) + QStringLiteral(" Salvare con il numero %1?").arg(seguente))) {
     return false;
   }
-  documento.campi.txtID = seguente;
+  documento.campi.txtID = QString::number(seguente);
   return true;
 }
 

@@ -1,9 +1,6 @@
 #include "report/frmFileSigle.h"
 
-#include <algorithm>
-
 #include "report/sigle.h"
-#include "shell/finestra_frecce.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
 #include "ui_frmFileSigle.h"
@@ -14,15 +11,13 @@ frmFileSigle::frmFileSigle(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* pad
     : QDialog(padre),
       ui_(std::make_unique<Ui::frmFileSigle>()),
       stato_(stato),
-      dialoghi_(dialoghi),
-      fileBatchPrima_(stato.FileBatch) {
+      dialoghi_(dialoghi) {
   ui_->setupUi(this);
   for (QWidget* controllo :
        {static_cast<QWidget*>(ui_->frmOperazioniSigle), static_cast<QWidget*>(ui_->Label1),
         static_cast<QWidget*>(ui_->Label2)}) {
     controllo->hide();
   }
-  new PrimaFreccia(*ui_->lstSigle);
   AdattaAlloSchermo(*this);
   const auto collega = [this](QPushButton* pulsante, void (frmFileSigle::*gestore)()) {
     connect(pulsante, &QPushButton::clicked, this,
@@ -58,19 +53,7 @@ void frmFileSigle::cmdNuovaSigla_Click() {
   if (!sigla.isEmpty()) ui_->lstSigle->addItem(sigla);
 }
 
-// The line that takes its place is not selected: a second press removes nothing.
-void frmFileSigle::cmdEliminaSigla_Click() {
-  QListWidget& lista = *ui_->lstSigle;
-  const int riga = lista.currentRow();
-  qDeleteAll(lista.selectedItems());
-  lista.setCurrentRow(std::min(riga, lista.count() - 1), QItemSelectionModel::Clear);
-}
-
-// The name of a list must not stay as that of the common output, which exports add to.
-void frmFileSigle::done(int esito) {
-  stato_.FileBatch = fileBatchPrima_;
-  QDialog::done(esito);
-}
+void frmFileSigle::cmdEliminaSigla_Click() { qDeleteAll(ui_->lstSigle->selectedItems()); }
 
 void frmFileSigle::cmdEsciSalva_Click() {
   QStringList sigle;

@@ -19,7 +19,6 @@ class frmFileSigle : public QDialog {
  public:
   frmFileSigle(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre = nullptr);
   ~frmFileSigle() override;
-  void done(int esito) override;
 
  private:
   void cmdApriFileSigle_Click();
@@ -31,7 +30,6 @@ class frmFileSigle : public QDialog {
   std::unique_ptr<Ui::frmFileSigle> ui_;
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
-  QString fileBatchPrima_;
   QString fileSigle_;  // the file on screen
 };
 

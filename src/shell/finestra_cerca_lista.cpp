@@ -2,13 +2,7 @@
 
 namespace torvi {
 
-// An item that is the text goes before those that only begin so.
 void CercaNellaLista(QListWidget& lista, const QString& inizio) {
-  const QList<QListWidgetItem*> esatte = lista.findItems(inizio, Qt::MatchFixedString);
-  if (!esatte.isEmpty() && !inizio.isEmpty()) {
-    lista.setCurrentItem(esatte.constFirst());
-    return;
-  }
   for (int passo = 1; passo <= lista.count(); ++passo) {
     const int posto = passo % lista.count();
     if (!lista.item(posto)->text().startsWith(inizio, Qt::CaseInsensitive)) continue;
