@@ -53,11 +53,12 @@ void CopiaArchivio(const QString& origine, const FileNuovo& nuovo) {
 void RichiediIntegro(const QString& percorso) {
   ColMotore(percorso, [&](SQLite::Database& motore) {
     SQLite::Statement esame(motore, "PRAGMA integrity_check(1)");
-    const std::string trovato = esame.executeStep() ? esame.getColumn(0).getString() : "";
-    if (trovato == "ok") return;
-    throw ErroreEsecuzione(
+    if (esame.executeStep() && esame.getColumn(0).getString() == "ok") return;
+    throw ErroreEsecuzione::ConDescrizione(
         Errore::FormatoNonRiconosciuto,
-        QStringLiteral("%1 (%2)").arg(percorso, QString::fromStdString(trovato)));
+        QStringLiteral("L'archivio scritto come %1 è risultato danneggiato. Controllare il disco e "
+                       "l'archivio da cui è copiato, e riprovare.")
+            .arg(percorso));
   });
 }
 

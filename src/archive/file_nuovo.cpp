@@ -153,7 +153,10 @@ void RichiediPosto(const QString& destinazione) {
 QString NomeConservato(const QString& precedente) {
   const QString primo = precedente + QLatin1String(".precedente");
   QString nome = primo;
-  for (int n = 2; QFile::exists(nome); ++n) nome = QStringLiteral("%1-%2").arg(primo).arg(n);
+  // The same file under that name already: a killed program came so far and no further.
+  for (int n = 2; QFile::exists(nome) && !StessoFile(precedente, nome); ++n) {
+    nome = QStringLiteral("%1-%2").arg(primo).arg(n);
+  }
   if (SuDisco(QFileInfo(nome).fileName()).size() > kMassimoNome) {
     throw ConParole(QStringLiteral("Il nome del file è troppo lungo perché il file di prima si "
                                    "possa conservare accanto, sceglierne uno più corto: %1"),

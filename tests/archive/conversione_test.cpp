@@ -15,6 +15,7 @@
 #include "archive/jet.h"
 #include "archive/per_nome.h"
 #include "archive/schema.h"
+#include "archive/travaso_jet.h"
 #include "comune/file_limitati.h"
 
 namespace torvi {
@@ -121,6 +122,11 @@ TEST_F(Conversione, IndexesAndDefaultsOfBothSchemasAreThere) {
   const LettoreJet lettore(consegna);
   std::vector<Tabella> tabelle = SchemaArchivio();
   tabelle.insert(tabelle.end(), lettore.Tabelle().begin(), lettore.Tabelle().end());
+  for (Tabella tabella : SchemaArchivio()) {
+    tabella.indici.clear();
+    // What the file did not keep apart is not refused.
+    for (const Indice& indice : Completata(tabella).indici) EXPECT_FALSE(indice.unico);
+  }
   for (const Tabella& tabella : tabelle) {
     Recordset righe = archivio.OpenRecordset(tabella.nome);
     const Tabella* nelFile = PerNome(lettore.Tabelle(), tabella.nome);

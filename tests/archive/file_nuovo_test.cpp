@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <filesystem>
 
 #include "comune/cartella_di_prova.h"
 
@@ -98,6 +99,11 @@ TEST_F(NuovoFile, KeepsWhatItReplacesUnderAFreeName) {
   EXPECT_EQ(Byte(nome) + Byte(nome + "-2") + Byte(destinazione_), "primosecondoterzo");
   EXPECT_TRUE(QFileInfo(link).isSymLink());
   EXPECT_EQ(Presenti().size(), 3);
+  // Cut off between the two names: the next run goes on with the one that is there.
+  std::filesystem::create_hard_link(destinazione_.toStdString(),
+                                    QString(nome + "-3").toStdString());
+  FileNuovo file(destinazione_);
+  EXPECT_EQ(file.SostituisciConservando(destinazione_), nome + "-3");
 }
 
 TEST_F(NuovoFile, AFailureNamesThePlaceAndAFullDiskIsCalledFull) {

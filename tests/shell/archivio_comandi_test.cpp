@@ -8,6 +8,7 @@
 #include <QFile>
 #include <csignal>
 
+#include "archive/copia_archivio.h"
 #include "archive/schema.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
@@ -232,6 +233,10 @@ TEST_F(ArchivioComandi, ShowsWhyADeliveryCannotBeMade) {
     const FileLimitati limitati(20000);  // in the middle of the copy
     EXPECT_TRUE(prova(cartella.Mdb("x.mdb"), dati).endsWith(": " + cartella.Mdb("X.MDB")));
   }
+  const QByteArray sano = Byte(master);
+  ScriviByte(master, QByteArray(sano).replace(sano.size() - 5 * 8192, 8192, QByteArray(8192, 'x')));
+  EXPECT_TRUE(prova(cartella.Mdb("x.mdb"), dati).startsWith("L'archivio scritto come "));
+  ScriviByte(master, sano);
   Aggiungi(OpenDatabase(master), "TabInfo", {{"Consegna", "A01"}});
   EXPECT_TRUE(prova(cartella.Mdb("x.mdb"), dati)
                   .startsWith("Il master " + master + " contiene già i dati di una consegna"));
@@ -258,6 +263,11 @@ TEST_F(ArchivioComandi, CopiesAndKeepsWhatIsCommitted) {
     EXPECT_TRUE(archivio.OpenRecordset("TabTesto").Eof()) << nome;
     EXPECT_EQ(archivio.Conta("from TabInfo"), 1) << nome;
   }
+  const QByteArray master = Byte(cartella.Mdb("master.mdb"));
+  LasciaAMeta(cartella.Mdb("master.mdb"));
+  const FileNuovo copia(cartella.Mdb("copia.mdb"));
+  CopiaArchivio(cartella.Mdb("master.mdb"), copia);
+  EXPECT_TRUE(Byte(copia.Percorso()) == master);
 }
 
 TEST_F(ArchivioComandi, OpensAnArchiveThatIsNoDeliveryAndSaysSo) {
