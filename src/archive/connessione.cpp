@@ -66,9 +66,8 @@ ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettag
   const QString detto = QString::fromUtf8(guasto.what());
   const QString senza = QStringLiteral("no such column: ");
   if (detto.startsWith(senza)) {
-    return ErroreEsecuzione(
-        Errore::ParametriInsufficienti,
-        QStringLiteral("%1 (%2)").arg(detto.mid(senza.size()), dettaglio));
+    return ErroreEsecuzione(Errore::ParametriInsufficienti,
+                            QStringLiteral("%1 (%2)").arg(detto.mid(senza.size()), dettaglio));
   }
   // Only of a statement does the engine know more than the number says, in words of its own.
   if ((guasto.getErrorCode() & 0xff) != SQLITE_ERROR) {
@@ -154,6 +153,7 @@ Connessione::Prestito Connessione::Prepara(const QString& istruzione) {
   auto nuova = Nuova(traduzione.sql.toStdString(), istruzione);
   nuova->tabella = traduzione.tabella;
   auto colonne = std::make_shared<NomiColonne>();
+  colonne->Di(traduzione.tabelle);
   for (int i = nuova->Spostamento(); i < nuova->motore->NumeroColonne(); ++i) {
     std::string_view nome = nuova->motore->NomeColonna(i);
     if (nome.starts_with(kPrefissoAlias)) nome.remove_prefix(1);
@@ -223,6 +223,7 @@ InfoTabella Connessione::LeggiTabella(const QString& nome) {
   LegaTutti(tabella, {nome});
   while (Passo(tabella)) {
     info.nome = tabella->motore->Leggi(0).Testo();
+    info.colonne.Di({info.nome});
     const std::string colonna = tabella->motore->Leggi(1).Testo().toStdString();
     info.colonne.Aggiungi(colonna);
     const QString tipo = tabella->motore->Leggi(2).Testo().toUpper();

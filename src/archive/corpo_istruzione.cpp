@@ -107,6 +107,7 @@ torvi::Riga CorpoIstruzione::Copia() {
   const int inizio = aperta_->Spostamento();
   for (std::size_t i = 0; i < colonne_->Quante(); ++i) {
     valori.push_back(aperta_->motore->Leggi(inizio + static_cast<int>(i)));
+    if (valori.back().Nullo()) valori.back() = Campo::NullDi(colonne_->Testo(i));
   }
   return {colonne_, std::move(valori)};
 }

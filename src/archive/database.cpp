@@ -77,7 +77,9 @@ Errore NumeroApertura(const SQLite::Exception& guasto) {
 // A write that a kill cut short is taken back before anybody reads: also by who may only read, as
 // long as the file itself lets him.
 void RiprendiInterrotta(const QString& percorso) {
-  if (QFileInfo(percorso + QLatin1String("-journal")).size() == 0) return;
+  // The engine keeps it beside the file that a link leads to.
+  const QString vero = QFileInfo(percorso).canonicalFilePath();
+  if (QFileInfo(vero + QLatin1String("-journal")).size() == 0) return;
   try {
     (void)ApriMotore(percorso, Accesso::LetturaScrittura);
   } catch (const SQLite::Exception& guasto) {
@@ -85,8 +87,9 @@ void RiprendiInterrotta(const QString& percorso) {
     if (codice == SQLITE_BUSY || codice == SQLITE_NOTADB || codice == SQLITE_CORRUPT) throw;
     throw ErroreEsecuzione::ConDescrizione(
         Errore::PermessoNegato,
-        QStringLiteral("Nell'archivio %1 una scrittura è rimasta a metà e va tolta prima di "
-                       "leggerlo: aprirlo una volta con il permesso di scrivere nella sua cartella.")
+        QStringLiteral(
+            "Nell'archivio %1 una scrittura è rimasta a metà e va tolta prima di "
+            "leggerlo: aprirlo una volta con il permesso di scrivere nella sua cartella.")
             .arg(percorso));
   }
 }

@@ -45,8 +45,12 @@ int NomiColonne::Cerca(std::string_view nome) const {
 int NomiColonne::Richiedi(std::string_view nome) const {
   const int posizione = Posizione(nome);
   if (posizione >= 0) return posizione;
-  throw ErroreEsecuzione(Errore::CampoNonTrovato,
-                         QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
+  QString colonna = QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size()));
+  if (tabelle_.size() == 1) colonna.prepend(tabelle_.front() + QLatin1Char('.'));
+  if (tabelle_.size() > 1) {
+    colonna += QStringLiteral(" (%1)").arg(tabelle_.join(QLatin1String(", ")));
+  }
+  throw ErroreEsecuzione(Errore::CampoNonTrovato, colonna);
 }
 
 }  // namespace torvi

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <array>
 #include <string>
 #include <string_view>
@@ -17,6 +18,8 @@ class NomiColonne {
     nomi_.emplace_back(nome);
     testi_.push_back(QString::fromUtf8(nome.data(), static_cast<qsizetype>(nome.size())));
   }
+  // The tables that they are columns of: errors name them.
+  void Di(const QStringList& tabelle) { tabelle_ = tabelle; }
   // Without regard to case, the first of equal ones; -1 where there is none.
   [[nodiscard]] int Posizione(std::string_view nome) const;
   // The same; error 3265 where there is none.
@@ -34,6 +37,7 @@ class NomiColonne {
   };
   [[nodiscard]] int Cerca(std::string_view nome) const;
 
+  QStringList tabelle_;
   std::vector<std::string> nomi_;
   std::vector<QString> testi_;
   mutable std::vector<Grafia> grafie_;

@@ -153,7 +153,9 @@ class Scrittore {
 Traduzione Traduci(QStringView istruzione) {
   const std::vector<Simbolo> simboli = Analizza(istruzione);
   const Clausole clausole = Dividi(simboli, istruzione);
-  return Scrittore(clausole, istruzione).Traduci();
+  Traduzione traduzione = Scrittore(clausole, istruzione).Traduci();
+  for (const TabellaCitata& tabella : clausole.tabelle) traduzione.tabelle += tabella.nome;
+  return traduzione;
 }
 
 }  // namespace torvi

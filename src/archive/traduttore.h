@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 namespace torvi {
@@ -15,6 +16,7 @@ struct Traduzione {
   // changed in place; the first column of `sql` is then that table's row number, under the name
   // kPrefissoAlias alone, which no alias can bear. Empty otherwise.
   QString tabella;
+  QStringList tabelle = {};  // all that it names
 };
 
 // A character that belongs to no word, an unclosed literal, a clause out of place: error 3075 with

@@ -69,11 +69,61 @@ TEST(DatabaseTest, InSolaLetturaSiLeggeENonSiScrive) {
   EXPECT_EQ(3027, NumeroErrore([&] { const UnitaDiScrittura unita(sola); }));
 }
 
-TEST(DatabaseTest, UnArchivioToltoDiMezzoSiDiceChiaramente) {
+TEST(DatabaseTest, InUnArchivioToltoOSostituitoNonSiScriveENienteVaPerso) {
+  for (const bool sostituito : {false, true}) {
+    const CartellaDiProva cartella;
+    const Database mia = cartella.NuovaConsegna();
+    const QByteArray prima = Byte(mia.Name());
+    if (sostituito) ScriviByte(cartella.Mdb("copia"), prima);
+    ASSERT_TRUE(QFile::remove(mia.Name()));
+    if (sostituito) QFile::rename(cartella.Mdb("copia"), mia.Name());
+    const QString atteso = "3024 Il file " + mia.Name() +
+                           " è stato tolto o sostituito mentre era aperto: non vi è stato scritto "
+                           "niente. Chiudere l'archivio e riaprirlo.";
+    EXPECT_EQ(atteso, ErroreDi([&] { AggiungiTesto(mia, "x"); })) << sostituito;
+    EXPECT_EQ(atteso, ErroreDi([&] {
+                const UnitaDiScrittura unita(mia);
+                AggiungiTesto(mia, "x");
+              }))
+        << sostituito;
+    EXPECT_EQ(sostituito, QFile::exists(mia.Name()));
+    EXPECT_TRUE(!sostituito || Byte(mia.Name()) == prima);
+  }
+}
+
+TEST(DatabaseTest, UnaConclusioneFallitaLasciaScrivereDopo) {
   const CartellaDiProva cartella;
   const Database mia = cartella.NuovaConsegna();
-  ASSERT_TRUE(QFile::remove(mia.Name()));
-  EXPECT_EQ(3024, NumeroErrore([&] { AggiungiTesto(mia, "x"); }));
+  for (const char* testo : {"a", "b"}) AggiungiTesto(mia, testo);
+  const Database altra = OpenDatabase(mia.Name(), Accesso::SolaLettura);
+  Recordset legge = altra.OpenRecordset("select * from TabTesto");
+  UnitaDiScrittura unita(mia);
+  AggiungiTesto(mia, "persa");
+  EXPECT_EQ(3260, NumeroErrore([&] { unita.Concludi(); }));
+  legge.Close();
+  EXPECT_EQ(2, Quante(mia));
+  UnitaDiScrittura nuova(mia);
+  AggiungiTesto(mia, "c");
+  nuova.Concludi();
+  EXPECT_EQ(3, Quante(altra));
+}
+
+TEST(DatabaseTest, TantiTestiDiversiNonToccanoLeIstruzioniInUso) {
+  const CartellaDiProva cartella;
+  const Database mia = cartella.NuovaConsegna();
+  for (int i = 0; i < 3; ++i) AggiungiTesto(mia, QString::number(i));
+  const QString istruzione = "select testo from TabTesto";
+  Recordset inUso = mia.OpenRecordset(istruzione);
+  for (int giro = 0; giro < 2; ++giro) {
+    for (int i = 0; i < 700; ++i) {
+      EXPECT_EQ(i, mia.OpenRecordset(QStringLiteral("select %1 as n from TabInfo").arg(i))
+                       .Fields("n")
+                       .Intero());
+    }
+    EXPECT_EQ(QString::number(giro), inUso.Fields("testo").Testo());
+    inUso.MoveNext();
+    EXPECT_EQ("0", mia.OpenRecordset(istruzione).Fields("testo").Testo());
+  }
 }
 
 TEST(DatabaseTest, UnUnitaLasciataPerUnErroreTieneIPassiFatti) {
@@ -109,7 +159,20 @@ TEST(DatabaseTest, UnaMorteAMezzaUnitaLasciaLoStatoDiPrima) {
   int stato = 0;
   ASSERT_EQ(figlio, waitpid(figlio, &stato, 0));
   ASSERT_TRUE(WIFSIGNALED(stato));
-  EXPECT_EQ(1, Quante(OpenDatabase(percorso)));
+  const QByteArray mezzo = Byte(percorso);
+  const QByteArray diario = Byte(percorso + "-journal");
+  ASSERT_FALSE(diario.isEmpty());
+  const QString legame = cartella.Mdb("legame.mdb");
+  ASSERT_TRUE(QFile::link(percorso, legame));
+  for (const QString& nome : {percorso, legame}) {
+    for (const Accesso accesso : {Accesso::LetturaScrittura, Accesso::SolaLettura}) {
+      ScriviByte(percorso, mezzo);
+      ScriviByte(percorso + "-journal", diario);
+      EXPECT_EQ("", ErroreDi([&] { EXPECT_EQ(1, Quante(OpenDatabase(nome, accesso))); }))
+          << nome.toStdString();
+      EXPECT_FALSE(QFile::exists(percorso + "-journal"));
+    }
+  }
 }
 
 TEST(DatabaseTest, UnDiscoPienoELErrore61ELArchivioRestaBuono) {

@@ -135,6 +135,31 @@ TEST_F(RecordsetTest, DeleteToglieLaRigaEIlPassoSeguenteVaAllaSuccessiva) {
   EXPECT_EQ("C", Codici(restano));
 }
 
+TEST_F(RecordsetTest, UnaRigaCancellataDaAltriNonSiCambiaEDoveMancaUnValoreSiDiceLaColonna) {
+  for (const char* origine : {"TabSezione", "select * from TabSezione"}) {
+    Sezione("A", "t");
+    Recordset cambia = db_.OpenRecordset(origine);
+    Recordset toglie = db_.OpenRecordset(origine);
+    cambia.Edit();
+    cambia.Assegna("sigla", "B");
+    toglie.MoveFirst();
+    db_.Execute("delete * from TabSezione");
+    const QString atteso = "3021 Nessun record corrente: la riga di TabSezione è stata cancellata";
+    EXPECT_EQ(atteso, ErroreDi([&] { cambia.Update(); })) << origine;
+    EXPECT_EQ(3021, NumeroErrore([&] { toglie.Delete(); })) << origine;
+    EXPECT_EQ("3265 Elemento non trovato nell'insieme: TabSezione.Manca",
+              ErroreDi([&] { (void)toglie.Colonna("Manca"); }))
+        << origine;
+
+    Aggiungi(db_, "TabSezione", {{"sigla", "Z"}});
+    const Recordset nulla = db_.OpenRecordset(origine);
+    const QString senza = "94 Utilizzo non valido di Null: sezione";
+    EXPECT_EQ(senza, ErroreDi([&] { (void)nulla.Fields("sezione").Testo(); })) << origine;
+    EXPECT_EQ(senza, ErroreDi([&] { (void)nulla.Copia().Fields("sezione").Testo(); })) << origine;
+    db_.Execute("delete * from TabSezione");
+  }
+}
+
 TEST_F(RecordsetTest, IFallimentiHannoIlNumeroDellaPiattaforma) {
   Sezione("A", "t");
   Recordset unione = db_.OpenRecordset("select * from TabSezione, TabPeriodicita");

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include "archive/conversione.h"
 #include "archive/schema.h"
@@ -44,6 +45,48 @@ TEST(VerificaTest, OgniDifettoHaLaSuaRiga) {
                 "TabFonte.IDStato: 1 riga senza riscontro in TabStato (9).",
             }),
             VerificaArchivio(db));
+}
+
+TEST(VerificaTest, OgniLegameSospesoSiVede) {
+  const struct {
+    const char* tabella;
+    const char* colonna;
+    const char* destinazione;
+  } legami[] = {
+      {"TabDocumento", "IDRifBibl", "TabRifBibl"},
+      {"TabRifBibl", "IDRivista", "TabRivista"},
+      {"LegameDocTesto", "IDDoc", "TabDocumento"},
+      {"LegameDocTesto", "IDTesto", "TabTesto"},
+      {"LegameDocResp", "IDDoc", "TabDocumento"},
+      {"LegameDocResp", "IDResponsabilita", "TabResponsabilita"},
+      {"LegameDocClass", "IDDoc", "TabDocumento"},
+      {"LegameDocClass", "IDClass", "TabClasse2000"},
+      {"LegameDocClass1999", "IDDoc", "TabDocumento"},
+      {"LegameDocClass1999", "IDClass", "TabClasse1999"},
+      {"LegameDocFonte", "IDDoc", "TabDocumento"},
+      {"LegameDocFonte", "IDFnt", "TabFonte"},
+      {"TabClasse2000", "IDClasse2000-S", "TabClasse2000-S"},
+      {"TabClasse2000", "IDClasse2000-D", "TabClasse2000-D"},
+      {"TabClasse1999", "ID_PADRE", "TabClasse1999"},
+      {"TabFonte", "IDRegione", "TabRegione"},
+      {"TabFonte", "IDProvincia", "TabProvincia"},
+      {"TabFonte", "IDCitta", "TabCitta"},
+      {"TabFonte", "IDMinistero", "TabMinistero"},
+      {"TabFonte", "IDAmministrazione", "TabAmministrazione"},
+      {"TabFonte", "IDAutorita", "TabAutorita"},
+      {"TabFonte", "IDSezione", "TabSezione"},
+      {"TabFonte", "IDStato", "TabStato"},
+  };
+  const CartellaDiProva cartella;
+  const Database db = cartella.NuovaConsegna();
+  for (const auto& legame : legami) Aggiungi(db, legame.tabella, {{legame.colonna, 77}});
+  const QString difetti = VerificaArchivio(db).join('\n') + '\n';
+  for (const auto& legame : legami) {
+    const QRegularExpression riga(QStringLiteral("(^|\n)%1\\.%2: \\d+ rig(a|he) senza riscontro in "
+                                                 "%3 \\([^\n]*77[^\n]*\\)\\.\n")
+                                      .arg(legame.tabella, legame.colonna, legame.destinazione));
+    EXPECT_TRUE(difetti.contains(riga)) << legame.tabella << '.' << legame.colonna;
+  }
 }
 
 TEST(VerificaTest, UnoSchemaIncompletoSiVedeENonEUnArchivio) {
