@@ -1,14 +1,20 @@
 #include "shell/finestra_misure.h"
 
+#include <QDialog>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QScreen>
+
+#include "shell/finestra_scorrevole.h"
 
 namespace torvi {
 
 void AdattaAlloSchermo(QWidget& finestra) {
   constexpr QSize kCornice(24, 64);  // frame and caption bar, which the window does not know
-  finestra.resize(finestra.size().boundedTo(finestra.screen()->availableSize() - kCornice));
+  const QSize posto = finestra.screen()->availableSize() - kCornice;
+  const bool entra = finestra.minimumSizeHint().boundedTo(posto) == finestra.minimumSizeHint();
+  if (!entra && qobject_cast<QDialog*>(&finestra) != nullptr) RendiScorrevole(finestra);
+  finestra.resize(finestra.size().boundedTo(posto));
 }
 
 void AllargaPerIlTitolo(QMessageBox& riquadro) {

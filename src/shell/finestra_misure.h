@@ -6,7 +6,8 @@
 
 namespace torvi {
 
-// Makes a window smaller where the screen, at its scale, has no room for it.
+// Makes a window smaller where the screen, at its scale, has no room for it; a dialog whose
+// controls do not fit then scrolls.
 void AdattaAlloSchermo(QWidget& finestra);
 // Whether a control that is hidden leaves its place blank, so that what stands around does not
 // jump.
