@@ -59,7 +59,7 @@ std::string Mostra(const QJsonObject& oggetto) {
   return QJsonDocument(oggetto).toJson(QJsonDocument::Compact).toStdString();
 }
 
-void AggiungiTrattati(const Database& archivio) {
+void AggiungiAttiCitati(const Database& archivio) {
   const QString trattati = "TabNIT";
   Aggiungi(archivio, trattati,
            {{"nit", "Conv."},
@@ -69,6 +69,19 @@ void AggiungiTrattati(const Database& archivio) {
             {"data", "05/08/1955"}});
   Aggiungi(archivio, trattati, {{"fonte", "Tratt. Beta"}});
   Aggiungi(archivio, trattati, {{"nit", "Acc."}, {"fonte", "Acc. Gamma"}, {"data", "15/12/1999"}});
+  // Both levels, and the name.
+  for (const QString& atto :
+       QString("23st.|27circ.|29del.|28d.g.p.|28D.R.|28reg. p.|21 l. |37trib. ACQUE|"
+               "34commissione tributaria provinciale|37Comm. Brevetti|37Comm. brevetti e acque")
+           .split('|')) {
+    Aggiungi(archivio, "TabFonteInterna",
+             {{"FonteNorm", atto.mid(2)}, {"liv1", atto.left(1)}, {"liv2", atto.mid(1, 1)}});
+  }
+  Aggiungi(archivio, "TabFonteInt", {{"FonteInt", "Ris.  ONU "}, {"Tipo", 2}});
+  for (const char* atto : {"reg. ue", "Ris. CECA"}) {
+    Aggiungi(archivio, "TabFonteCom", {{"FonteCom", atto}, {"Tipo", 2}});
+  }
+  Aggiungi(archivio, "TabFonteCan", {{"FonteCan", "Rota rom."}, {"Tipo", 3}});
 }
 
 }  // namespace torvi

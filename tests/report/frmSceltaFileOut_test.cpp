@@ -56,10 +56,11 @@ TEST_F(SceltaFileOut, WantsAFileBeforeItCloses) {
 TEST_F(SceltaFileOut, FollowsTheKeyboard) {
   Lista().setFocus();
   QTest::keyClick(&Lista(), Qt::Key_Down);
-  QTest::keyClick(&Lista(), Qt::Key_Space);
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump isis.A01"));
+  QTest::keyClick(&Lista(), Qt::Key_Down);
   QTest::keyClick(forma.get(), Qt::Key_Return);
   EXPECT_FALSE(forma->isVisible());
-  EXPECT_EQ(forma->FileBatch, cartella.Dump(Lista().currentItem()->text()));
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump storico.A01"));
 }
 
 TEST_F(SceltaFileOut, JoinsFolderAndNewNameAsTheyStand) {
