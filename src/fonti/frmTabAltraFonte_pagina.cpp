@@ -306,6 +306,7 @@ void frmTabAltraFonte_pagina::EsceConTab() {
   const bool riscritta = campo.isModified() && !campo.text().isEmpty() &&
                          voce.contains(campo.text(), Qt::CaseInsensitive);
   campo.setModified(false);
+  if (riscritta) comboFonte_->Conferma();
   if (riscritta || trattatiDovuti_) SegnalaScelta();
 }
 
