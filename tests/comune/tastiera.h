@@ -37,7 +37,7 @@ inline void Batti(const QString& copione, bool inAnticipo = false) {
     }
     if (!inAnticipo) QCoreApplication::processEvents();
   }
-  QCoreApplication::processEvents();
+  if (inAnticipo) QCoreApplication::processEvents();
 }
 
 // A step that checks the title of a form and presses keys in it.

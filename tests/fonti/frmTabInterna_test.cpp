@@ -24,7 +24,7 @@ class FormaTabInterna : public testing::Test {
     // Both levels, and the name.
     for (const QString& atto :
          QString(
-             "0  Cost.|1  c.c.|1  Norme bancarie uniformi|21 l. delega|21 l.|21 d.lg.|22 l.p.|23 "
+             "0  Cost.|1  c.c.|1  Norme bancarie uniformi|21 l.|21 l. delega|21 d.lg.|22 l.p.|23 "
              "l.r.|26 d.m.|"
              "26 dir. p.c.m.|26 d.p.c.m.|27 circ.|28 reg. r.|29 provv.|2a c.c.n.l.|33 Trib.|"
              "33 App.|34 Comm. trib.|36 C. Stato|37 Trib. Acque|38 Comm. brevetti|39 Coll. arb.|"
@@ -152,7 +152,7 @@ TEST_F(FormaTabInterna, EachKindShowsWhatItNeeds) {
       {1, "c.c.", "R"},
       {2, "Normativa", ""},  // the header, so far
       {2, "Legge costituzionale", "RE"},
-      {2, "Atti statali aventi forza di legge", "RE - l. delega|l.|d.lg."},
+      {2, "Atti statali aventi forza di legge", "RE - l.|l. delega|d.lg."},
       {2, "Leggi e statuti provinciali", "RE - l.p. - " + province},
       {2, "Leggi e statuti regionali", "REG - l.r."},
       {2, "Regolamento della Camera", "R"},
