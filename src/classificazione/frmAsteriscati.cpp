@@ -1,6 +1,7 @@
 #include "classificazione/frmAsteriscati.h"
 
 #include "classificazione/codici_classe.h"
+#include "shell/finestra_frecce.h"
 #include "shell/finestra_misure.h"
 #include "ui_frmAsteriscati.h"
 
@@ -11,6 +12,7 @@ frmAsteriscati::frmAsteriscati(const Database& archivio, QWidget* padre)
   ui_->setupUi(this);
   ui_->lstAsteriscati->addItems(CoppieAsteriscate(archivio));
   connect(ui_->cmdEsci, &QPushButton::clicked, this, &QDialog::reject);
+  new PrimaFreccia(*ui_->lstAsteriscati);
   AdattaAlloSchermo(*this);
 }
 

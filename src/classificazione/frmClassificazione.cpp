@@ -5,6 +5,7 @@
 #include "classificazione/codici_classe.h"
 #include "classificazione/esci_classificazione.h"
 #include "classificazione/frmAsteriscati.h"
+#include "shell/finestra_frecce.h"
 #include "shell/finestra_invio.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
@@ -46,6 +47,7 @@ frmClassificazione::frmClassificazione(StatoGlobale& stato, Dialoghi& dialoghi, 
   connect(ui_->lstAsteriscato, &QListWidget::itemActivated, this,
           [](QListWidgetItem* scelto) { scelto->setSelected(true); });
   for (QLabel* etichetta : {ui_->LabelS, ui_->labelD}) etichetta->installEventFilter(this);
+  for (QListWidget* lista : {ui_->lstDescrittore, ui_->lstAsteriscato}) new PrimaFreccia(*lista);
   AdattaAlloSchermo(*this);
 }
 
@@ -134,7 +136,7 @@ void frmClassificazione::cmdDescrittoreD_Click() {
   if (scelti.isEmpty()) return;
   delete scelti.first();
   // The next one is not to go by a second press.
-  ui_->lstDescrittore->setCurrentRow(-1);
+  ui_->lstDescrittore->clearSelection();
 }
 
 void frmClassificazione::labelD_Click() {

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <memory>
 
+#include "shell/accesso_riservato.h"
 #include "shell/dialoghi.h"
 
 namespace torvi {
@@ -16,7 +17,8 @@ class frmLogin : public QDialog {
   Q_OBJECT
 
  public:
-  frmLogin(Dialoghi& dialoghi, QString passwordRiservata, QWidget* padre = nullptr);
+  frmLogin(Dialoghi& dialoghi, QString passwordRiservata, PasswordErrate& errate,
+           QWidget* padre = nullptr);
   ~frmLogin() override;
 
   bool LoginRiservato = false;  // True once the right password was given
@@ -24,10 +26,13 @@ class frmLogin : public QDialog {
  private:
   void cmdOK_Click();
   void cmdCancel_Click();
+  // No attempt as long as the pause lasts.
+  void Attendi();
 
   std::unique_ptr<Ui::frmLogin> ui_;
   Dialoghi& dialoghi_;
   QString passwordRiservata_;
+  PasswordErrate& errate_;
 };
 
 }  // namespace torvi

@@ -1,6 +1,6 @@
 #include "fonti/finestra_estremi.h"
 
-#include <QFocusEvent>
+#include <algorithm>
 
 #include "fonti/elenchi_fonte.h"
 #include "shell/finestra_combo.h"
@@ -45,7 +45,8 @@ FinestraEstremi::FinestraEstremi(QWidget* genitore)
   ui_->setupUi(this);
   for (std::size_t i = 0; i < kScelte.size(); ++i) {
     QComboBox& combo = *((*ui_).*kScelte.at(i).campo);
-    combo_.at(i) = new ComboDiCodici(combo, kScelte.at(i).segnaposto);
+    combo_.at(i) = new ComboDiCodici(combo, kScelte.at(i).segnaposto,
+                                     [this, i](const QString& testo) { return Ammesso(i, testo); });
     connect(&combo, &QComboBox::currentTextChanged, this, &FinestraEstremi::Cambiato);
   }
   for (const Casella& casella : kCaselle) {
@@ -59,6 +60,15 @@ FinestraEstremi::FinestraEstremi(QWidget* genitore)
 }
 
 FinestraEstremi::~FinestraEstremi() = default;
+
+// An adverb may be any; a month has a name. What is listed for articles alone is not for
+// paragraphs.
+bool FinestraEstremi::Ammesso(std::size_t scelta, const QString& testo) const {
+  if (kScelte.at(scelta).valore == &ControlliFonte::ComboMese) {
+    return std::ranges::none_of(testo, [](QChar segno) { return segno.isDigit(); });
+  }
+  return ui_->ComboRipA->findText(testo, Qt::MatchFixedString) < 0;
+}
 
 void FinestraEstremi::Prepara(const QStringList& articoli, const QStringList& commi) {
   ui_->ComboRipA->addItems(articoli);

@@ -21,7 +21,8 @@ class FinestraEstremi : public QWidget {
   explicit FinestraEstremi(QWidget* genitore = nullptr);
   ~FinestraEstremi() override;
 
-  // Fills the combos of the adverbs and of the months.
+  // Fills the combos of the adverbs and of the months. What fits none of their items may be typed
+  // all the same.
   void Prepara(const QStringList& articoli, const QStringList& commi);
   // Shows either frame or leaves its place blank, so that what stands around does not jump.
   void Mostra(bool estremi, bool ripartizioni);
@@ -43,6 +44,8 @@ class FinestraEstremi : public QWidget {
   void Cambiato();
 
  private:
+  [[nodiscard]] bool Ammesso(std::size_t scelta, const QString& testo) const;
+
   std::unique_ptr<Ui::FinestraEstremi> ui_;
   std::array<ComboDiCodici*, 3> combo_;  // owned by their combos
 };

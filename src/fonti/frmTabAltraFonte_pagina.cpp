@@ -84,6 +84,7 @@ void frmTabAltraFonte_pagina::Collega() {
   CollegaCampoALista(*ui_->txtInfo2, *ui_->lstElenco2);
   for (QListWidget* lista : {ui_->lstFonte, ui_->lstElenco1, ui_->lstElenco2}) {
     new PrimaFreccia(*lista);
+    new VoceEsatta(*lista);
   }
   for (QWidget* controllo :
        {static_cast<QWidget*>(ui_->ComboFonte), static_cast<QWidget*>(ui_->lstFonte)}) {
@@ -160,7 +161,11 @@ void frmTabAltraFonte_pagina::PulisciTab() {
 void frmTabAltraFonte_pagina::SegnalaScelta() {
   if (sceltaDovuta_) return;
   sceltaDovuta_ = true;
-  QMetaObject::invokeMethod(this, &frmTabAltraFonte_pagina::ConcludiScelta, Qt::QueuedConnection);
+  if (uscitoConTab_) {
+    ConcludiScelta();
+  } else {
+    QMetaObject::invokeMethod(this, &frmTabAltraFonte_pagina::ConcludiScelta, Qt::QueuedConnection);
+  }
 }
 
 void frmTabAltraFonte_pagina::ConcludiScelta() {
@@ -286,8 +291,23 @@ void frmTabAltraFonte_pagina::EventoInComboFonte(const QEvent& evento) {
     uscitoConTab_ = false;
   } else if (evento.type() == QEvent::FocusOut) {
     uscitoConTab_ = static_cast<const QFocusEvent&>(evento).reason() == Qt::TabFocusReason;
-    if (uscitoConTab_ && trattatiDovuti_) SegnalaScelta();
+    if (uscitoConTab_) EsceConTab();
+  } else if (evento.type() == QEvent::FocusIn) {
+    uscitoConTab_ = false;
   }
+}
+
+void frmTabAltraFonte_pagina::EsceConTab() {
+  ConcludiScelta();
+  uscitoConTab_ = true;
+  QLineEdit& campo = *ui_->ComboFonte->lineEdit();
+  const QString voce = ui_->ComboFonte->itemText(ui_->ComboFonte->currentIndex());
+  // Who types the kind that stands there chooses it again.
+  const bool riscritta = campo.isModified() && !campo.text().isEmpty() &&
+                         voce.contains(campo.text(), Qt::CaseInsensitive);
+  campo.setModified(false);
+  if (riscritta) comboFonte_->Conferma();
+  if (riscritta || trattatiDovuti_) SegnalaScelta();
 }
 
 bool frmTabAltraFonte_pagina::eventFilter(QObject* oggetto, QEvent* evento) {

@@ -61,13 +61,14 @@ class frmTabAltraFonte_pagina : public QWidget {
   void MostraStato(bool visibile);
   [[nodiscard]] bool ConvenzioneSelezionata() const;
 
-  // A choice is told by more than one signal, and some come in the middle of a change of focus: it
-  // is acted upon once, when they are over.
+  // A choice is told by more than one signal: it is acted upon once, when they are over; at once
+  // where Tab ends it, since what is typed next is meant for the field that it leads to.
   void SegnalaScelta();
   // Acts upon it now. What is typed becomes a choice first.
   void Conferma();
   void ConcludiScelta();
   void EventoInComboFonte(const QEvent& evento);
+  void EsceConTab();
 
   std::unique_ptr<Ui::frmTabAltraFonte_pagina> ui_;
   StatoGlobale& stato_;

@@ -20,6 +20,7 @@ frmTabAltraFonte_trattati::frmTabAltraFonte_trattati(StatoGlobale& stato, Dialog
   ui_->setupUi(this);
   ElencaNIT();
   new PrimaFreccia(*ui_->lstNIT);
+  new VoceEsatta(*ui_->lstNIT);
   connect(ui_->optParte, &QRadioButton::toggled, this, &frmTabAltraFonte_trattati::optParte_Click);
   connect(ui_->cmdCercaNIT, &QPushButton::clicked, this,
           &frmTabAltraFonte_trattati::cmdCercaNIT_Click);

@@ -64,8 +64,10 @@ frmTabInterna_pagina::frmTabInterna_pagina(const StatoGlobale& stato, Dialoghi& 
   PreparaListe();
   CollegaCambiamenti();
   CollegaComandi();
-  for (QListWidget* lista : {ui_->lstFonte, ui_->lstElenco1, ui_->lstElenco2})
+  for (QListWidget* lista : {ui_->lstFonte, ui_->lstElenco1, ui_->lstElenco2}) {
     new PrimaFreccia(*lista);
+    new VoceEsatta(*lista);
+  }
   Mostra({});
 }
 

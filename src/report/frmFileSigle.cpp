@@ -1,6 +1,7 @@
 #include "report/frmFileSigle.h"
 
 #include "report/sigle.h"
+#include "shell/finestra_frecce.h"
 #include "shell/finestra_misure.h"
 #include "shell/guardia.h"
 #include "ui_frmFileSigle.h"
@@ -11,13 +12,15 @@ frmFileSigle::frmFileSigle(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* pad
     : QDialog(padre),
       ui_(std::make_unique<Ui::frmFileSigle>()),
       stato_(stato),
-      dialoghi_(dialoghi) {
+      dialoghi_(dialoghi),
+      fileBatchPrima_(stato.FileBatch) {
   ui_->setupUi(this);
   for (QWidget* controllo :
        {static_cast<QWidget*>(ui_->frmOperazioniSigle), static_cast<QWidget*>(ui_->Label1),
         static_cast<QWidget*>(ui_->Label2)}) {
     controllo->hide();
   }
+  new PrimaFreccia(*ui_->lstSigle);
   AdattaAlloSchermo(*this);
   const auto collega = [this](QPushButton* pulsante, void (frmFileSigle::*gestore)()) {
     connect(pulsante, &QPushButton::clicked, this,
@@ -53,7 +56,11 @@ void frmFileSigle::cmdNuovaSigla_Click() {
   if (!sigla.isEmpty()) ui_->lstSigle->addItem(sigla);
 }
 
-void frmFileSigle::cmdEliminaSigla_Click() { qDeleteAll(ui_->lstSigle->selectedItems()); }
+void frmFileSigle::cmdEliminaSigla_Click() {
+  qDeleteAll(ui_->lstSigle->selectedItems());
+  // The next one is not to go by a second press.
+  ui_->lstSigle->clearSelection();
+}
 
 void frmFileSigle::cmdEsciSalva_Click() {
   QStringList sigle;
@@ -63,5 +70,10 @@ void frmFileSigle::cmdEsciSalva_Click() {
 }
 
 void frmFileSigle::cmdAnnulla_Click() { reject(); }
+
+void frmFileSigle::done(int esito) {
+  stato_.FileBatch = fileBatchPrima_;
+  QDialog::done(esito);
+}
 
 }  // namespace torvi

@@ -20,6 +20,9 @@ class frmFileSigle : public QDialog {
   frmFileSigle(StatoGlobale& stato, Dialoghi& dialoghi, QWidget* padre = nullptr);
   ~frmFileSigle() override;
 
+  // A list is no output: FileBatch is again what it was before the form.
+  void done(int esito) override;
+
  private:
   void cmdApriFileSigle_Click();
   void cmdNuovaSigla_Click();
@@ -30,6 +33,7 @@ class frmFileSigle : public QDialog {
   std::unique_ptr<Ui::frmFileSigle> ui_;
   StatoGlobale& stato_;
   Dialoghi& dialoghi_;
+  QString fileBatchPrima_;
   QString fileSigle_;  // the file on screen
 };
 

@@ -1,5 +1,6 @@
 #include "report/frmSceltaFileOut.h"
 
+#include "shell/finestra_frecce.h"
 #include "shell/finestra_misure.h"
 #include "shell/percorsi.h"
 #include "ui_frmSceltaFileOut.h"
@@ -15,6 +16,7 @@ frmSceltaFileOut::frmSceltaFileOut(Dialoghi& dialoghi, const QString& cartella,
   ui_->setupUi(this);
   ui_->fileListOut->addItems(ElencoFile(cartella_, modello));
   ui_->cmdNuovo->setVisible(conNuovo);
+  new PrimaFreccia(*ui_->fileListOut);
   AdattaAlloSchermo(*this);
   connect(ui_->fileListOut, &QListWidget::itemSelectionChanged, this,
           &frmSceltaFileOut::fileListOut_Click);

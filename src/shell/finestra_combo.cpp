@@ -21,8 +21,11 @@ QWidget* CampoSeguente(const QWidget& campo) {
 
 }  // namespace
 
-ComboDiCodici::ComboDiCodici(QComboBox& combo, QString segnaposto)
-    : QObject(&combo), combo_(combo), segnaposto_(std::move(segnaposto)) {
+ComboDiCodici::ComboDiCodici(QComboBox& combo, QString segnaposto, Ammette ammette)
+    : QObject(&combo),
+      combo_(combo),
+      segnaposto_(std::move(segnaposto)),
+      ammette_(std::move(ammette)) {
   QCompleter* completamento = combo.completer();
   completamento->setCompletionMode(QCompleter::PopupCompletion);
   completamento->setFilterMode(Qt::MatchContains);
@@ -50,7 +53,7 @@ QString ComboDiCodici::Scelta(const QString& testo) const {
     const int posto = combo_.findText(testo, modo);
     if (posto >= 0) return combo_.itemText(posto);
   }
-  return prima_;
+  return ammette_ && ammette_(testo) ? testo : prima_;
 }
 
 bool ComboDiCodici::eventFilter(QObject* oggetto, QEvent* evento) {
@@ -64,7 +67,7 @@ bool ComboDiCodici::eventFilter(QObject* oggetto, QEvent* evento) {
       const int voce = combo_.currentIndex();
       Conferma();
       // The choice may have brought up the field that comes next.
-      if (motivo == Qt::TabFocusReason && voce != combo_.currentIndex()) {
+      if (motivo == Qt::TabFocusReason && voce != combo_.currentIndex() && combo_.isVisible()) {
         CampoSeguente(combo_)->setFocus(motivo);
       }
     }

@@ -150,7 +150,7 @@ QString DialoghiFinestra::ScegliDaLista(const QStringList& voci) {
 }
 
 bool DialoghiFinestra::ChiediLogin(const QString& passwordRiservata) {
-  frmLogin forma(*this, passwordRiservata, Padre());
+  frmLogin forma(*this, passwordRiservata, passwordErrate_, Padre());
   forma.exec();
   return forma.LoginRiservato;
 }

@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include "shell/accesso_riservato.h"
 #include "shell/dialoghi.h"
 #include "shell/finestra_attesa.h"
 #include "shell/finestra_file_scritto.h"
@@ -36,6 +37,7 @@ class DialoghiFinestra : public Dialoghi {
   QMainWindow& finestra_;
   AttesaFinestra attesa_;
   OffertaFile* offerta_;
+  PasswordErrate passwordErrate_;
 };
 
 }  // namespace torvi

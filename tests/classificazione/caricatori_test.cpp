@@ -4,10 +4,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include "archive/schema.h"
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
+#include "comune/file_limitati.h"
 #include "export/codepagina.h"
 
 namespace torvi {
@@ -112,6 +114,34 @@ TEST_F(Caricatori, AFaultLeavesTheRowsBeforeItAndNamesItsOwn) {
   const QString errore = ErroreDi([this] { CaricaTabDescrittoriAsteriscati(stato, dialoghi); });
   EXPECT_TRUE(errore.startsWith("5 ") && errore.contains("(riga 2 di ")) << errore.toStdString();
   EXPECT_EQ(NelMaster("TabLegameDSA"), QStringList("AM001|*uno"));
+}
+
+// Rows wait in memory: it is the end of the load that finds no place for them, and it says so.
+TEST_F(Caricatori, AWriteThatFailsAtTheEndIsTold) {
+  PreparaSorgenti();
+  const QString catalogo = cartella.Mdb("Catalogo norme.mdb");
+  CreaDatabase(catalogo, SchemaCatalogo());
+  const QString lungo(200, 'x');
+  {
+    const Database sorgente = OpenDatabase(Sorgente("Classificazione.mdb"));
+    const Database norme = OpenDatabase(catalogo);
+    const UnitaDiScrittura unite[] = {UnitaDiScrittura(sorgente), UnitaDiScrittura(norme)};
+    for (int i = 0; i < 400; ++i) {
+      const QString id = QString::number(10000 + i);
+      Aggiungi(sorgente, "TabDescrittore", {{"id", id}, {"Descrittore", lungo}});
+      Aggiungi(norme, "tabCatalogo", {{"titolo", lungo}, {"pd", id}});
+      Aggiungi(norme, "PD", {{"pd", id}});
+    }
+  }
+  const QByteArray linea = "AM001 *" + lungo.toLatin1() + "\r\n";
+  ScriviByte(Sorgente("DescrittoriA2000.txt"), linea.repeated(400));
+  for (const auto& [comando, file] :
+       {std::pair<Comando, QString>{CaricaTabDescrittori, cartella.Mdb("master.mdb")},
+        {CaricaTabDescrittoriAsteriscati, cartella.Mdb("master.mdb")},
+        {CaricaTabNorme, catalogo}}) {
+    const FileLimitati limitati(static_cast<rlim_t>(QFileInfo(file).size()));
+    EXPECT_EQ(Esegue(comando), 57) << file.toStdString();
+  }
 }
 
 TEST_F(Caricatori, TheReducedCatalogueTakesTheActsOfItsKeys) {

@@ -45,8 +45,9 @@ TEST_F(Codici, Before2000HaveAParentUnlessTheyAreRoots) {
   };
   for (const auto& [codice, eRadice, trovato] :
        {Caso{"A1", true, "voce A1|"}, Caso{"D91", true, "voce d91|"},
-        Caso{"A12", false, "voce A12|A1 - voce A1"}, Caso{"D81", false, ""},
-        Caso{"A1234", false, ""}, Caso{"ZZ", true, ""}, Caso{"Z\"Z'", false, ""}}) {
+        Caso{"d91", true, "voce d91|"}, Caso{"A12", false, "voce A12|A1 - voce A1"},
+        Caso{"D81", false, ""}, Caso{"A1234", false, ""}, Caso{"ZZ", true, ""},
+        Caso{"Z\"Z'", false, ""}}) {
     const auto voce = CercaCodice1999(archivio, codice);
     EXPECT_EQ(CodiceRadice(codice), eRadice) << codice;
     EXPECT_EQ(voce ? QString(voce->descrizione + '|' + voce->padre) : QString(), trovato) << codice;

@@ -11,7 +11,7 @@ namespace {
 
 class Componi : public testing::Test {
  protected:
-  Componi() { AggiungiTrattati(cartella_.NuovaConsegna()); }
+  Componi() { AggiungiAttiCitati(cartella_.NuovaConsegna()); }
   [[nodiscard]] EsitoProgramma Esegui(const QString& forma, const QByteArray& ingresso) const {
     return Torvi({"componi", forma, Archivio()}, {}, ingresso);
   }

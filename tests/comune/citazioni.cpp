@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "archive/csv.h"
+#include "archive/master.h"
 #include "comune/cartella_di_prova.h"
 
 namespace torvi {
@@ -21,6 +23,30 @@ bool Usuale(const QString& nome, const QJsonValue& valore) {
   static const QJsonArray vuoti{QJsonValue(), QString(), false, QJsonArray()};
   static const QJsonObject usuali{{"risultato", 1}, {"pulsanti", "OK"}, {"IDFonte", 0}};
   return vuoti.contains(valore) || usuali.value(nome) == valore;
+}
+
+// The acts that every new archive lists.
+void CopiaAtti(const Database& archivio) {
+  const UnitaDiScrittura unita(archivio);
+  for (const auto& [tabella, nome] : {std::pair{"TabFonteInterna", "FonteNorm"},
+                                      {"TabFonteInt", "FonteInt"},
+                                      {"TabFonteCom", "FonteCom"},
+                                      {"TabFonteCan", "FonteCan"}}) {
+    LettoreCsv righe(CartellaDati() + '/' + tabella + ".csv");
+    QList<Campo> celle;
+    const auto cella = [&](const char* colonna) {
+      return celle.at(righe.Colonne().indexOf(colonna));
+    };
+    while (righe.Leggi(celle)) {
+      if (righe.Colonne().contains("liv1")) {
+        Aggiungi(archivio, tabella,
+                 {{nome, cella(nome)}, {"liv1", cella("liv1")}, {"liv2", cella("liv2")}});
+      } else {
+        Aggiungi(archivio, tabella,
+                 {{nome, cella(nome)}, {"Tipo", cella("Tipo").TestoOVuoto().toInt()}});
+      }
+    }
+  }
 }
 
 }  // namespace
@@ -59,7 +85,7 @@ std::string Mostra(const QJsonObject& oggetto) {
   return QJsonDocument(oggetto).toJson(QJsonDocument::Compact).toStdString();
 }
 
-void AggiungiTrattati(const Database& archivio) {
+void AggiungiAttiCitati(const Database& archivio) {
   const QString trattati = "TabNIT";
   Aggiungi(archivio, trattati,
            {{"nit", "Conv."},
@@ -69,6 +95,20 @@ void AggiungiTrattati(const Database& archivio) {
             {"data", "05/08/1955"}});
   Aggiungi(archivio, trattati, {{"fonte", "Tratt. Beta"}});
   Aggiungi(archivio, trattati, {{"nit", "Acc."}, {"fonte", "Acc. Gamma"}, {"data", "15/12/1999"}});
+  CopiaAtti(archivio);
+  // Both levels, and the name.
+  for (const QString& atto :
+       QString("23st.|27circ.|29del.|28d.g.p.|28D.R.|28reg. p.|21 l. |37trib. ACQUE|"
+               "34commissione tributaria provinciale|37Comm. Brevetti|37Comm. brevetti e acque")
+           .split('|')) {
+    Aggiungi(archivio, "TabFonteInterna",
+             {{"FonteNorm", atto.mid(2)}, {"liv1", atto.left(1)}, {"liv2", atto.mid(1, 1)}});
+  }
+  Aggiungi(archivio, "TabFonteInt", {{"FonteInt", "Ris.  ONU "}, {"Tipo", 2}});
+  for (const char* atto : {"reg. ue", "Ris. CECA"}) {
+    Aggiungi(archivio, "TabFonteCom", {{"FonteCom", atto}, {"Tipo", 2}});
+  }
+  Aggiungi(archivio, "TabFonteCan", {{"FonteCan", "Rota rom."}, {"Tipo", 3}});
 }
 
 }  // namespace torvi

@@ -20,7 +20,7 @@ struct Citazione {
 [[nodiscard]] QJsonObject Ridotta(const QJsonObject& risposta);
 // On one line, the names in the order of the alphabet.
 [[nodiscard]] std::string Mostra(const QJsonObject& oggetto);
-// The treaties that the tables cite.
-void AggiungiTrattati(const Database& archivio);
+// The treaties and acts that the tables cite.
+void AggiungiAttiCitati(const Database& archivio);
 
 }  // namespace torvi

@@ -12,8 +12,9 @@
 namespace torvi {
 
 // Presses what the script says: characters as they stand, keys by name in braces ("{Tab}", "{F4}",
-// "{Alt+E}"). What is pressed waits for what the press before it brought about.
-inline void Batti(const QString& copione) {
+// "{Alt+E}"). What is pressed waits for what the press before it brought about, unless it is typed
+// ahead.
+inline void Batti(const QString& copione, bool inAnticipo = false) {
   const auto fuoco = [] {
     for (QWidget* candidato : {QApplication::activePopupWidget(), QApplication::focusWidget(),
                                QApplication::activeWindow()}) {
@@ -34,8 +35,9 @@ inline void Batti(const QString& copione) {
       QTest::sendKeyEvent(QTest::Click, fuoco(), static_cast<Qt::Key>(tasto), copione.mid(i, 1),
                           Qt::NoModifier);
     }
-    QCoreApplication::processEvents();
+    if (!inAnticipo) QCoreApplication::processEvents();
   }
+  if (inAnticipo) QCoreApplication::processEvents();
 }
 
 // A step that checks the title of a form and presses keys in it.

@@ -34,7 +34,7 @@ TEST_P(Citazioni, AreAsTheTableHasThem) {
   const auto& [nome, file] = GetParam();
   const CartellaDiProva cartella;
   StatoGlobale stato = cartella.StatoConConsegna();
-  AggiungiTrattati(stato.DbArchivio);
+  AggiungiAttiCitati(stato.DbArchivio);
   const FormaFonte* forma = TrovaForma(nome);
   ASSERT_NE(forma, nullptr);
   for (const Citazione& citazione : LeggiCitazioni(file)) {

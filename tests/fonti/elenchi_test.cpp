@@ -124,7 +124,7 @@ TEST_F(Elenchi, ListActsOfOtherLawByTheirType) {
 TEST_F(Elenchi, TreatiesAreListedAndFoundByTheirName) {
   Recordset vuota = archivio.OpenRecordset("TabNIT");
   EXPECT_EQ(ElencaNIT(vuota).join('|'), "");
-  AggiungiTrattati(archivio);
+  AggiungiAttiCitati(archivio);
   Riga("TabNIT", {{"fonte", "Conv. L'Aja"}});
   Recordset tabNIT = archivio.OpenRecordset("TabNIT");
   for (int volta = 0; volta < 2; ++volta) {

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 #include "comune/cartella_di_prova.h"
@@ -224,15 +225,8 @@ TEST_F(FormaAltraFonte, KeepsFieldsAfterSalvaAndEmptiesThemAfterClear) {
   EXPECT_EQ(Testo("txtLibero"), "Beta");
   Clic(Pagina(), "cmdClear");
   EXPECT_EQ(Righe(), "Trib. Eccl. Reg. LA 2001 (Beta)*FCG*|Trib. Eccl. Reg. LA 2001 (Beta)*FCG*");
-  for (const char* campo : {"txtLibero", "txtAA", "txtArt", "txtInfo1"}) {
-    EXPECT_EQ(Testo(campo), "") << campo;
-  }
-  EXPECT_FALSE(Controllo<QCheckBox>("chkOrd").isChecked());
-  for (const auto& [combo, testo] :
-       {std::pair{"ComboFonte", "Diritto canonico"}, std::pair{"ComboRipA", "Ripartizione"},
-        std::pair{"ComboMese", "Mese"}, std::pair{"ComboRegione", "LA - Lazio"}}) {
-    EXPECT_EQ(Controllo<QComboBox>(combo).currentText(), testo);
-  }
+  EXPECT_EQ(Controllo<QComboBox>("ComboRegione").currentText(), "LA - Lazio");
+  EXPECT_EQ(Controllo<QComboBox>("ComboFonte").currentText(), "Diritto canonico");
   EXPECT_EQ(Controllo<QListWidget>("lstFonte").count(), 0);
   EXPECT_EQ(Linee(Controllo<QListWidget>("lstElenco1")).join('|'), "Pisa|Roma");
   EXPECT_EQ(Fuoco(), "ComboFonte");
@@ -246,6 +240,28 @@ TEST_F(FormaAltraFonte, KeepsFieldsAfterSalvaAndEmptiesThemAfterClear) {
   EXPECT_EQ(Testo("txtLibero"), "Bartolo");
   Clic(Pagina(), "cmdClear");
   EXPECT_EQ(Mostrati(), "FrameEstremi FrameRipartizioni txtLibero LabelLibero");
+}
+
+TEST_F(FormaAltraFonte, ClearEmptiesEveryFieldOfEveryTab) {
+  for (int scheda = 0; scheda < 5; ++scheda) {
+    Apri(scheda);
+    const auto campi = Pagina().findChildren<QLineEdit*>(QRegularExpression("^txt"));
+    const auto caselle = Pagina().findChildren<QCheckBox*>();
+    for (auto* campo : campi) campo->setText("7");
+    for (auto* casella : caselle) casella->setChecked(true);
+    for (const char* combo : {"ComboRipA", "ComboRipC", "ComboMese"}) {
+      Controllo<QComboBox>(combo).setEditText("x");
+    }
+    Clic(Pagina(), "cmdClear");
+    for (const auto* campo : campi) {
+      EXPECT_EQ(campo->text(), campo->objectName() == "txtStato" ? "7" : "")
+          << scheda << campo->objectName().toStdString();
+    }
+    for (const auto* casella : caselle) EXPECT_FALSE(casella->isChecked()) << scheda;
+    EXPECT_EQ(Controllo<QComboBox>("ComboRipA").currentText(), "Ripartizione");
+    EXPECT_EQ(Controllo<QComboBox>("ComboRipC").currentText(), "Ripartizione");
+    EXPECT_EQ(Controllo<QComboBox>("ComboMese").currentText(), "Mese");
+  }
 }
 
 TEST_F(FormaAltraFonte, FindsATreatyAndTakesItOver) {
@@ -303,10 +319,10 @@ TEST_F(FormaAltraFonte, FindsATreatyAndTakesItOver) {
   EXPECT_FALSE(TrattatiAperti());
   EXPECT_EQ(Testo("txtLibero"), "1) Conv. Alfa 1950");
   EXPECT_EQ(Fuoco(), "txtArt");
-  Batti("6");
-  EXPECT_EQ(Anteprima(), "art. 6 Conv. Alfa 1950");
+  Batti("6{Tab}sexiesdecies");  // of no list here
+  EXPECT_EQ(Anteprima(), "art. 6 sexiesdecies Conv. Alfa 1950");
   Clic(Pagina(), "cmdSalva");
-  EXPECT_EQ(Righe(), "art. 6 Conv. Alfa 1950*NIT*");
+  EXPECT_EQ(Righe(), "art. 6 sexiesdecies Conv. Alfa 1950*NIT*");
   Scrivi({{"txtLibero", "1 Conv."}});
   EXPECT_EQ(Anteprima(), "");
   Clic(Pagina(), "cmdEsciSalva");
@@ -335,6 +351,30 @@ TEST_F(FormaAltraFonte, OpensTheTreatiesByAChoiceAlone) {
   QTest::keyClick(combo.view(), Qt::Key_Return);  // the same item again
   QCoreApplication::processEvents();
   EXPECT_TRUE(TrattatiAperti());
+}
+
+TEST_F(FormaAltraFonte, WhatIsTypedAheadFindsTheFieldThatTheChoiceLeadsTo) {
+  Apri();
+  Batti("nia");
+  Batti("{Tab}r", true);
+  EXPECT_EQ(Fuoco(), "lstFonte");
+  EXPECT_EQ(Controllo<QListWidget>("lstFonte").selectedItems().size(), 1);
+  Controllo<QComboBox>("ComboFonte").setFocus();
+  Batti("nit");
+  Batti("{Tab}alfa", true);
+  Batti("{Tab}{Right}");
+  EXPECT_TRUE(TrattatiAperti());
+  EXPECT_EQ(Trova<QLineEdit>(*forma, "txtNIT").text(), "alfa");
+  EXPECT_TRUE(Trova<QRadioButton>(*forma, "optParte").isChecked());
+  // The same kind again is a choice; what fits no kind is none.
+  for (const auto& [tasti, aperti] : {std::pair{"{Esc}nit{Tab}", true}, {"{Esc}zz{Tab}", false}}) {
+    Batti(tasti);
+    EXPECT_EQ(TrattatiAperti(), aperti) << tasti;
+  }
+  Apri(2);
+  Batti("(*gs*)");
+  Batti("{Tab}Cour", true);
+  EXPECT_EQ(Fuoco() + Testo("txtGG"), "txtGGCour");
 }
 
 TEST_F(FormaAltraFonte, OffersTheStates) {

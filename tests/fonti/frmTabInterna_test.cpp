@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
@@ -23,7 +24,8 @@ class FormaTabInterna : public testing::Test {
     // Both levels, and the name.
     for (const QString& atto :
          QString(
-             "0  Cost.|1  c.c.|1  Norme bancarie uniformi|21 l.|21 d.lg.|22 l.p.|23 l.r.|26 d.m.|"
+             "0  Cost.|1  c.c.|1  Norme bancarie uniformi|21 l.|21 l. delega|21 d.lg.|22 l.p.|23 "
+             "l.r.|26 d.m.|"
              "26 dir. p.c.m.|26 d.p.c.m.|27 circ.|28 reg. r.|29 provv.|2a c.c.n.l.|33 Trib.|"
              "33 App.|34 Comm. trib.|36 C. Stato|37 Trib. Acque|38 Comm. brevetti|39 Coll. arb.|"
              "3a ABF")
@@ -150,7 +152,7 @@ TEST_F(FormaTabInterna, EachKindShowsWhatItNeeds) {
       {1, "c.c.", "R"},
       {2, "Normativa", ""},  // the header, so far
       {2, "Legge costituzionale", "RE"},
-      {2, "Atti statali aventi forza di legge", "RE - l.|d.lg."},
+      {2, "Atti statali aventi forza di legge", "RE - l.|l. delega|d.lg."},
       {2, "Leggi e statuti provinciali", "RE - l.p. - " + province},
       {2, "Leggi e statuti regionali", "REG - l.r."},
       {2, "Regolamento della Camera", "R"},
@@ -187,10 +189,10 @@ TEST_F(FormaTabInterna, SavesOnEachTabByKeysAlone) {
     const char* tasti;  // from the control that comes next
     const char* riga;
   } casi[] = {
-      {0, "cost.", "3{Tab}bis{Tab}2", "LIC art. 3 bis comma 2 Cost."},
+      {0, "cost.", "3{Tab}bis.1{Tab}2{Tab}vices{Tab}", "LIC art. 3 bis.1 comma 2 Cost."},
       {1, "norme", "{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}B", "LIAB  all. B Norme bancarie uniformi"},
-      {2, "atti statali", "{Down}{Tab}5{Tab}magg{Tab}1999{Tab}7{Tab}3",
-       "LIO art. 3 l. 5 maggio 1999, n. 7"},
+      {2, "atti statali", "l.{Tab}5{Tab}messidoro{Tab}1999{Tab}7{Tab}3",
+       "LIO art. 3 l. 5 messidoro 1999, n. 7"},
       {2, "statuti regionali",
        "{Down}{Tab}{Tab}{Tab}1999{Tab}7{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}"
        "{Tab}lomb{Tab}",
@@ -198,7 +200,7 @@ TEST_F(FormaTabInterna, SavesOnEachTabByKeysAlone) {
       {2, "governativi", "{Down}{Tab}giu{Return}{Return}1{Tab}lug{Tab}2003",
        "LIOA d.m. Giustizia 1 luglio 2003"},
       {3, "ordinaria",
-       "{Down}{Tab}rom{Tab}{Return}II{Tab}{Tab}min.{Tab}{Tab}{Tab}1999{Tab}{Tab}"
+       "{Down}{Tab}rom{Tab}{Return}II{Tab}{Tab}min.{Tab}{Tab}13{Tab}1999{Tab}{Tab}"
        "{Tab} ",
        "GIO decr. Trib. min. Roma II 1999"},
   };
@@ -212,17 +214,21 @@ TEST_F(FormaTabInterna, SavesOnEachTabByKeysAlone) {
     EXPECT_EQ(Righe(), caso.riga);
     Clic(Pagina(), "cmdClear");  // the fields had stayed
     EXPECT_EQ(Righe(), std::string(caso.riga) + "|" + caso.riga);
-    for (const auto* campo : Pagina().findChildren<QLineEdit*>()) {
-      if (!campo->objectName().startsWith("txt")) continue;
-      EXPECT_EQ(campo->text(), "");
-    }
+    const auto campi = Pagina().findChildren<QLineEdit*>(QRegularExpression("^txt"));
+    const auto caselle = Pagina().findChildren<QCheckBox*>();
+    for (auto* campo : campi) campo->setText("7");
+    for (auto* casella : caselle) casella->setChecked(true);
+    Clic(Pagina(), "cmdClear");
+    for (const auto* campo : campi)
+      EXPECT_EQ(campo->text(), "") << campo->objectName().toStdString();
+    for (const auto* casella : caselle) EXPECT_FALSE(casella->isChecked());
     for (const auto* combo : Pagina().findChildren<QComboBox*>()) {
       EXPECT_EQ(combo->currentText(), combo->itemText(0));
     }
     EXPECT_EQ(Lista("lstFonte"), "");
     EXPECT_EQ(Anteprima(), "[Nessuna fonte immessa!]");
   }
-  EXPECT_TRUE(dialoghi.Parole().isEmpty());
+  EXPECT_EQ(dialoghi.Messaggi().size(), std::ssize(casi));  // of nothing chosen, before the clear
 }
 
 TEST_F(FormaTabInterna, LeavesOnlyWithASourceOrByAbandoning) {

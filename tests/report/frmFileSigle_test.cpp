@@ -55,6 +55,7 @@ TEST_F(FileSigle, ChangesAListByKeys) {
   AttendeFile("sigle.A03");
   AttendeSigla("D04");
   AttendeSigla("");  // cancelled
+  stato.FileBatch = cartella.Dump("lexxdump isis.A03");
   const int esito = Usa([&](QWidget& forma) {
     EXPECT_EQ(Trova<QCheckBox>(forma, "chkNuovoFile").text(), "File nuovo?");
     EXPECT_EQ(Scritte(forma),
@@ -68,14 +69,16 @@ TEST_F(FileSigle, ChangesAListByKeys) {
     Premi(forma, "cmdEliminaSigla");  // none is selected
     EXPECT_EQ(Trova<QListWidget>(forma, "lstSigle").count(), 4);
     Trova<QListWidget>(forma, "lstSigle").setFocus();
-    Batti("{Home}{Down}");
+    Batti("{Down}{Down}");
     Premi(forma, "cmdEliminaSigla");
+    Premi(forma, "cmdEliminaSigla");  // the one that was selected is gone
+    EXPECT_EQ(stato.FileBatch, cartella.Mdb("sigle.A03"));
     EXPECT_EQ(Mostrati(forma), kTutti + "3");  // as it was read
     Premi(forma, "cmdEsciSalva");
   });
   EXPECT_EQ(esito, QDialog::Accepted);
   EXPECT_EQ(Byte(cartella.Mdb("sigle.A03")), "A01\r\nC03\r\nD04\r\n");
-  EXPECT_EQ(stato.FileBatch, cartella.Mdb("sigle.A03"));
+  EXPECT_EQ(stato.FileBatch, cartella.Dump("lexxdump isis.A03"));  // a list is no output
   EXPECT_TRUE(dialoghi.UltimaRichiesta().deveEsistere);
   EXPECT_EQ(dialoghi.UltimaRichiesta().filtro, "File sigle (sigle.*)|sigle.*");
   EXPECT_EQ(dialoghi.UltimaRichiesta().cartella, cartella.Percorso() + "/mdb");
@@ -115,6 +118,7 @@ TEST_F(FileSigle, WritesNothingWithoutAFileOrWhenLeft) {
     Premi(forma, "cmdAnnulla");
   });
   EXPECT_EQ(esito, QDialog::Rejected);
+  EXPECT_EQ(stato.FileBatch, cartella.Dump("note.A03"));
   EXPECT_EQ(Byte(cartella.Mdb("sigle.A03")), "A01\r\nB02\r\nC03\r\n");
 }
 

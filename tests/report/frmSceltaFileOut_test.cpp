@@ -7,7 +7,7 @@
 
 #include "comune/cartella_di_prova.h"
 #include "comune/dialoghi_scritti.h"
-#include "comune/finestre.h"
+#include "comune/tastiera.h"
 
 namespace torvi {
 namespace {
@@ -54,12 +54,13 @@ TEST_F(SceltaFileOut, WantsAFileBeforeItCloses) {
 }
 
 TEST_F(SceltaFileOut, FollowsTheKeyboard) {
+  QApplication::setActiveWindow(forma.get());
   Lista().setFocus();
-  QTest::keyClick(&Lista(), Qt::Key_Down);
-  QTest::keyClick(&Lista(), Qt::Key_Space);
-  QTest::keyClick(forma.get(), Qt::Key_Return);
+  Batti("{Down}");
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump isis.A01"));
+  Batti("{Down}{Return}");
   EXPECT_FALSE(forma->isVisible());
-  EXPECT_EQ(forma->FileBatch, cartella.Dump(Lista().currentItem()->text()));
+  EXPECT_EQ(forma->FileBatch, cartella.Dump("lexxdump storico.A01"));
 }
 
 TEST_F(SceltaFileOut, JoinsFolderAndNewNameAsTheyStand) {
