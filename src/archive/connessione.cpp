@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cerrno>
 
+#include "archive/scrittura_file.h"
 #include "archive/traduttore.h"
 
 namespace torvi {
@@ -55,6 +57,12 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
 }  // namespace
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
+  // The system's reason, which the engine only tells as a failure of the file.
+  const bool pieno = ErroreDiScrittura(errno) == Errore::DiscoPieno;
+  const int codice = guasto.getErrorCode() & 0xff;
+  if (pieno && (codice == SQLITE_IOERR || codice == SQLITE_CANTOPEN)) {
+    return ErroreEsecuzione(Errore::DiscoPieno, dettaglio);
+  }
   if (guasto.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) {
     return ErroreEsecuzione::ConDescrizione(
         Errore::DatabaseNonTrovato,
@@ -62,19 +70,15 @@ ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettag
                        "scritto niente. Chiudere l'archivio e riaprirlo.")
             .arg(dettaglio));
   }
-  // The engine names the column, with its table where the statement does.
+  if (codice != SQLITE_ERROR) return ErroreEsecuzione(NumeroDi(guasto), dettaglio);
+  // Only of a statement does the engine know more than the number says, in words of its own; where
+  // these name the column with its table there is nothing to add.
   const QString detto = QString::fromUtf8(guasto.what());
-  const QString senza = QStringLiteral("no such column: ");
-  if (detto.startsWith(senza)) {
-    return ErroreEsecuzione(Errore::ParametriInsufficienti,
-                            QStringLiteral("%1 (%2)").arg(detto.mid(senza.size()), dettaglio));
-  }
-  // Only of a statement does the engine know more than the number says, in words of its own.
-  if ((guasto.getErrorCode() & 0xff) != SQLITE_ERROR) {
-    return ErroreEsecuzione(NumeroDi(guasto), dettaglio);
-  }
-  return ErroreEsecuzione(
-      NumeroDi(guasto), QStringLiteral("%1 (%2)").arg(dettaglio, QString::fromUtf8(guasto.what())));
+  const QString colonna = detto.section(QStringLiteral("no such column: "), 1);
+  if (colonna.contains(u'.')) return ErroreEsecuzione(NumeroDi(guasto), colonna);
+  return ErroreEsecuzione(NumeroDi(guasto),
+                          colonna.isEmpty() ? QStringLiteral("%1 (%2)").arg(dettaglio, detto)
+                                            : QStringLiteral("%1 (%2)").arg(colonna, dettaglio));
 }
 
 Connessione::Connessione(QString percorso, std::unique_ptr<SQLite::Database> motore)

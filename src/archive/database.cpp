@@ -25,10 +25,10 @@ bool EIstruzione(const QString& origine) {
          !testo.at(6).isLetterOrNumber();
 }
 
-QByteArray PrimiByte(const QString& percorso) {
-  QFile file(percorso);
-  if (!file.open(QIODevice::ReadOnly)) throw ErroreEsecuzione(Errore::PermessoNegato, percorso);
-  return file.read(kFirmaArchivio.size());
+void RichiediLeggibile(const QString& percorso) {
+  if (!QFile(percorso).open(QIODevice::ReadOnly)) {
+    throw ErroreEsecuzione(Errore::PermessoNegato, percorso);
+  }
 }
 
 std::unique_ptr<SQLite::Database> ApriMotore(const QString& percorso, Accesso accesso) {
@@ -84,7 +84,7 @@ void RiprendiInterrotta(const QString& percorso) {
     (void)ApriMotore(percorso, Accesso::LetturaScrittura);
   } catch (const SQLite::Exception& guasto) {
     const int codice = guasto.getErrorCode() & 0xff;
-    if (codice == SQLITE_BUSY || codice == SQLITE_NOTADB || codice == SQLITE_CORRUPT) throw;
+    if (codice != SQLITE_READONLY && codice != SQLITE_CANTOPEN && codice != SQLITE_PERM) throw;
     throw ErroreEsecuzione::ConDescrizione(
         Errore::PermessoNegato,
         QStringLiteral(
@@ -96,6 +96,11 @@ void RiprendiInterrotta(const QString& percorso) {
 
 }  // namespace
 
+bool EFileArchivio(const QString& percorso) {
+  QFile file(percorso);
+  return file.open(QIODevice::ReadOnly) && file.read(kFirmaArchivio.size()) == kFirmaArchivio;
+}
+
 Database OpenDatabase(const QString& percorso, Accesso accesso) {
   const QFileInfo file(percorso);
   if (!file.exists()) throw ErroreEsecuzione(Errore::DatabaseNonTrovato, percorso);
@@ -103,7 +108,8 @@ Database OpenDatabase(const QString& percorso, Accesso accesso) {
   if (EFileJet(percorso)) {
     return Database(std::make_shared<Connessione>(percorso, ApriJet(percorso)));
   }
-  if (PrimiByte(percorso) != kFirmaArchivio) {
+  RichiediLeggibile(percorso);
+  if (!EFileArchivio(percorso)) {
     throw ErroreEsecuzione(Errore::FormatoNonRiconosciuto, percorso);
   }
   try {

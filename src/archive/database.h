@@ -60,6 +60,10 @@ class Database {
   std::shared_ptr<Connessione> connessione_;
 };
 
+// By the file's first bytes; false also for what cannot be read. A genuine Jet file is told by
+// EFileJet (jet.h).
+[[nodiscard]] bool EFileArchivio(const QString& percorso);
+
 // Opens an archive by its path, told from a genuine Jet file by its first bytes. A Jet file is
 // copied into a private database that lives as long as the handle, and can be read only; archive
 // commands convert it first (conversione.h). No such file: error 3024; not a database: 3343; in

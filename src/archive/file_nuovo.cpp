@@ -18,6 +18,7 @@
 #include <cstdio>
 
 #include "archive/errore.h"
+#include "archive/scrittura_file.h"
 #include "archive/secondo_nome.h"
 
 namespace torvi {
@@ -42,19 +43,6 @@ bool Fissa(const QString& percorso) {
   close(file);
   errno = causa;
   return fatto;
-}
-
-Errore NumeroScrittura(int causa) {
-  switch (causa) {
-    case ENOSPC:
-    case EDQUOT:
-      return Errore::DiscoPieno;
-    case EIO:
-    case EFBIG:
-      return Errore::ErroreDispositivo;
-    default:
-      return Errore::ErroreAccessoFile;
-  }
 }
 
 bool Pieno(const QString& cartella) {
@@ -174,7 +162,7 @@ FileNuovo::FileNuovo(const QString& destinazione) : destinazione_(DoveConduce(de
     percorso_ = NomePassaggio(destinazione_, n);
     file_ = CreaBloccato(percorso_);
     if (file_ < 0 && errno != EEXIST) {
-      throw ErroreEsecuzione(NumeroScrittura(errno), destinazione_);
+      throw ErroreEsecuzione(ErroreDiScrittura(errno), destinazione_);
     }
   }
 }
@@ -194,11 +182,8 @@ void FileNuovo::Chiudi() {
 }
 
 void FileNuovo::ScriviByte(QByteArrayView byte) const {
-  while (!byte.isEmpty()) {
-    const ssize_t scritti = write(file_, byte.data(), static_cast<std::size_t>(byte.size()));
-    if (scritti < 0 && errno == EINTR) continue;
-    if (scritti < 0) throw ErroreEsecuzione(NumeroScrittura(errno), destinazione_);
-    byte = byte.sliced(scritti);
+  if (!ScriviTutto(file_, byte)) {
+    throw ErroreEsecuzione(ErroreDiScrittura(errno), destinazione_);
   }
 }
 
@@ -275,7 +260,7 @@ QString FileNuovo::SostituisciConservando(const QString& precedente) {
 void FileNuovo::Rinomina() {
   if (!Fissa(percorso_) ||
       std::rename(SuDisco(percorso_).constData(), SuDisco(destinazione_).constData()) != 0) {
-    throw ErroreEsecuzione(NumeroScrittura(errno), destinazione_);
+    throw ErroreEsecuzione(ErroreDiScrittura(errno), destinazione_);
   }
   percorso_.clear();
   Chiudi();

@@ -9,17 +9,26 @@ struct Parte {
   const char16_t* nome;
   const char16_t* righe;
 };
+// Values and no keys, where a save makes new rows of what stayed the same.
 constexpr Parte kParti[] = {
+    {u"codici e pagine",
+     u"select pagine, LIN, Bib, td, TAbs from TabDocumento where IDDocumento = ?"},
     {u"riferimenti bibliografici",
-     u"select * from TabDocumento where TabDocumento.IDDocumento = ?"},
-    {u"responsabilità", u"select * from LegameDocResp where LegameDocResp.IDDoc = ?"},
+     u"select TabRifBibl.IDRivista, TabRifBibl.Fascicolo, TabRifBibl.Annata, TabRifBibl.Volume, "
+     u"TabRifBibl.Parte, TabRifBibl.Serie, TabRifBibl.Supplemento, TabRifBibl.Sezione, "
+     u"TabRifBibl.Data from TabDocumento, TabRifBibl where TabDocumento.IDDocumento = ? and "
+     u"TabDocumento.IDRifBibl = TabRifBibl.IDRifBibl"},
+    {u"responsabilità",
+     u"select LegameDocResp.FlagAutore, TabResponsabilita.PrimoElemento, "
+     u"TabResponsabilita.SecondoElemento from LegameDocResp, TabResponsabilita where "
+     u"LegameDocResp.IDDoc = ? and LegameDocResp.IDResponsabilita = "
+     u"TabResponsabilita.IDResponsabilita"},
     {u"testi",
-     u"select * from LegameDocTesto, TabTesto where LegameDocTesto.IDDoc = ? and "
-     u"LegameDocTesto.IDTesto = TabTesto.IDTesto"},
-    {u"classificazione", u"select * from LegameDocClass where LegameDocClass.IDDoc = ?"},
-    {u"classificazione ante 2000",
-     u"select * from LegameDocClass1999 where LegameDocClass1999.IDDoc = ?"},
-    {u"fonti", u"select * from LegameDocFonte where LegameDocFonte.IDDoc = ?"},
+     u"select LegameDocTesto.Tipo, TabTesto.testo from LegameDocTesto, TabTesto where "
+     u"LegameDocTesto.IDDoc = ? and LegameDocTesto.IDTesto = TabTesto.IDTesto"},
+    {u"classificazione", u"select IDClass from LegameDocClass where IDDoc = ?"},
+    {u"classificazione ante 2000", u"select IDClass from LegameDocClass1999 where IDDoc = ?"},
+    {u"fonti", u"select IDFnt from LegameDocFonte where IDDoc = ?"},
 };
 
 // Values between signs that no text has, so that two rows never read alike.

@@ -9,6 +9,7 @@
 #include <exception>
 
 #include "archive/errore.h"
+#include "archive/scrittura_file.h"
 #include "export/codepagina.h"
 #include "shell/percorsi.h"
 
@@ -102,7 +103,7 @@ void FileTesto::ApriFile(const QString& nome, Apertura apertura) {
   file_.setFileName(nome);
   // Unbuffered: what a write could not take must be known here, block by block.
   if (file_.open(Modo(apertura) | QIODevice::Unbuffered)) return;
-  const bool pieno = errno == ENOSPC || errno == EDQUOT;
+  const bool pieno = ErroreDiScrittura(errno) == Errore::DiscoPieno;
   throw ErroreEsecuzione(pieno ? Errore::DiscoPieno : ErroreApertura(percorso_, apertura),
                          percorso_);
 }
@@ -191,11 +192,9 @@ bool FileTesto::Leggi() {
 
 void FileTesto::SuDisco() {
   if (fdatasync(file_.handle()) == 0) return;
-  const bool pieno = errno == ENOSPC || errno == EDQUOT;
+  const Errore numero = ErroreDiScrittura(errno);
   // Any other cause: it is no file on a disk.
-  if (pieno || errno == EIO) {
-    throw ErroreEsecuzione(pieno ? Errore::DiscoPieno : Errore::ErroreDispositivo, Percorso());
-  }
+  if (numero != Errore::ErroreAccessoFile) throw ErroreEsecuzione(numero, Percorso());
 }
 
 void FileTesto::Close() {

@@ -15,6 +15,8 @@
 #include <vector>
 
 #include "archive/errore.h"
+#include "archive/file_nuovo.h"
+#include "archive/scrittura_file.h"
 
 namespace torvi {
 namespace {
@@ -169,11 +171,10 @@ void RegistroUscite::Annota(const QByteArray& voce, const QString& posto) {
     Apri();
     byte.prepend(kInCorso);
   }
-  if (file_ < 0 || pwrite(file_, byte.constData(), byte.size(), lunghezza_) != byte.size()) {
-    throw ErroreEsecuzione(
-        errno == ENOSPC || errno == EDQUOT ? Errore::DiscoPieno : Errore::ErroreAccessoFile, posto);
+  if (file_ < 0 || !ScriviTutto(file_, byte)) {
+    throw ErroreEsecuzione(ErroreDiScrittura(errno), posto);
   }
-  lunghezza_ += byte.size();
+  if (primo_.isEmpty()) primo_ = posto;
 }
 
 void RegistroUscite::SiRinnova(const QString& posto, const QString& passaggio) {
@@ -193,7 +194,7 @@ void RegistroUscite::SiAccoda(const QString& posto, bool cera) {
 void RegistroUscite::Completo() {
   if (file_ < 0) return;
   if (pwrite(file_, &kCompleto, 1, 0) != 1 || fdatasync(file_) != 0) {
-    throw ErroreEsecuzione(Errore::ErroreDispositivo, percorso_);
+    throw ErroreEsecuzione(ErroreDiScrittura(errno), primo_);
   }
 }
 
@@ -202,6 +203,8 @@ void RipristinaUscite(const QString& cartella) {
   const Descrittore soli(cartella, O_RDONLY | O_DIRECTORY);
   (void)soli.Blocca(LOCK_EX);
   Percorri(cartella, {}, {});
+  // What no register needs any more, and nobody holds.
+  TogliFileLasciati(cartella);
 }
 
 }  // namespace torvi

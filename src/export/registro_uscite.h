@@ -34,8 +34,8 @@ class RegistroUscite {
 
   QString cartella_;
   QString percorso_;  // empty: none is kept
+  QString primo_;     // the file that failures are told of
   int file_ = -1;
-  qint64 lunghezza_ = 0;
 };
 
 // Finishes what killed runs left in a folder that can be written. What cannot be done: error 57,

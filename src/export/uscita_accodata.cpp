@@ -4,7 +4,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include "archive/database.h"
 #include "archive/errore.h"
+#include "archive/jet.h"
 #include "shell/percorsi.h"
 
 namespace torvi {
@@ -12,17 +14,12 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-// As much as the first two lines of a record and the first bytes of an archive need.
+// As much as the first two lines of a record need.
 QByteArray Inizio(const QString& percorso) {
   constexpr qint64 kInizio = 64;
   QFile file(percorso);
   if (!QFileInfo(percorso).isFile() || !file.open(QIODevice::ReadOnly)) return {};
   return file.read(kInizio);
-}
-
-bool EArchivio(const QByteArray& inizio) {
-  return inizio.startsWith("SQLite format 3") || inizio.mid(4).startsWith("Standard Jet DB") ||
-         inizio.mid(4).startsWith("Standard ACE DB");
 }
 
 bool EListaConsegne(const QString& percorso) {
@@ -47,7 +44,7 @@ bool ComeRecord(const QByteArray& inizio) {
 
 void RichiediUscita(const QString& percorso) {
   const QString trovato = PostoVero(TrovaPercorso(percorso));
-  if (EArchivio(Inizio(trovato))) Rifiuta(percorso, u" è un archivio"_s);
+  if (EFileArchivio(trovato) || EFileJet(trovato)) Rifiuta(percorso, u" è un archivio"_s);
   if (EListaConsegne(percorso) || EListaConsegne(trovato))
     Rifiuta(percorso, u" è una lista di consegne"_s);
 }

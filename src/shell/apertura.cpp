@@ -19,19 +19,22 @@ namespace {
 
 using Requisito = void (*)(const Database&);
 
+// The file behind a link; any other path as it was given.
+QString Vero(const QString& percorso) {
+  const QFileInfo file(percorso);
+  return file.isSymLink() ? file.canonicalFilePath() : percorso;
+}
+
 void Converti(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) {
   // Any Jet file can be converted; only one of that kind should be.
   requisito(OpenDatabase(percorso, Accesso::SolaLettura));
-  // Where a link leads, as the conversion does.
-  const QFileInfo file(percorso);
-  const QString vero = file.isSymLink() ? file.canonicalFilePath() : percorso;
   Clessidra clessidra(dialoghi);
   ConvertiInLoco(percorso, [&dialoghi](const QString& cosa, int fatto, int totale) {
     dialoghi.Avanzamento(cosa, fatto, totale);
   });
   clessidra.Togli();
-  dialoghi.Messaggio(
-      QStringLiteral("Archivio convertito; l'originale è conservato come %1.jet").arg(vero));
+  dialoghi.Messaggio(QStringLiteral("Archivio convertito; l'originale è conservato come %1.jet")
+                         .arg(Vero(percorso)));
 }
 
 Database Apri(const QString& percorso, Requisito requisito, Dialoghi& dialoghi) {
@@ -94,7 +97,7 @@ void ScriviInformazioni(const Database& archivio, const QStringList& campi) {
 // Where the delivery goes: behind a link that has its name, where the link leads.
 QString Posto(const QString& trovato, const QString& percorso) {
   if (QFileInfo(trovato).isDir()) return trovato;
-  return QFileInfo(trovato).isSymLink() ? QFileInfo(trovato).canonicalFilePath() : percorso;
+  return QFileInfo(trovato).isSymLink() ? Vero(trovato) : percorso;
 }
 
 // What a killed program began in the archive that is kept is rolled back; one that another program
@@ -141,8 +144,7 @@ QString CreaConsegna(StatoGlobale& stato, const QString& percorso, const QString
   if (EFileJet(master)) Converti(master, RichiediArchivio, dialoghi);
   const QStringList campi = LeggiDati(informazione, master);
   FileNuovo nuovo(Posto(trovato, maiuscolo));
-  const QString precedente =
-      QFileInfo(trovato).isSymLink() ? QFileInfo(trovato).canonicalFilePath() : trovato;
+  const QString precedente = Vero(trovato);
   Ripristina(precedente);
   nuovo.Riempi([&] {
     CopiaArchivio(master, nuovo);

@@ -125,7 +125,7 @@ TEST(Comandi, WhatAnotherWindowWroteIsNotLostUnasked) {
   const auto domanda = [&](Risposta risposta) {
     prova.dialoghi.AttendeDomanda(
         "Il documento 1 è stato modificato nell'archivio da quando è stato caricato "
-        "(riferimenti bibliografici, responsabilità, testi). Salvare lo stesso quello che sta "
+        "(responsabilità, testi). Salvare lo stesso quello che sta "
         "nella scheda?",
         "Salvataggio", Pulsanti::SiNo, risposta);
   };
