@@ -174,6 +174,12 @@ void CaricaIntero(Documento& documento) {
   }
 }
 
+void AvvertiNonCaricato(const Documento& documento) {
+  documento.dialoghi.Messaggio(
+      QStringLiteral("Il documento %1 non è stato caricato: non si può modificare né salvare. %2")
+          .arg(documento.campi.txtID.trimmed(), documento.guasto));
+}
+
 qint64 NumeroDocumento(const Documento& documento) {
   return static_cast<qint64>(Val(documento.campi.txtID));
 }

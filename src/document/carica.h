@@ -26,6 +26,8 @@ void CaricaDocumento(Documento& documento);
 // The same, or nothing of it: what fails leaves every field empty and `guasto` set, and is thrown
 // with the number in front.
 void CaricaIntero(Documento& documento);
+// The message of a command that needs the document whole, where it is not.
+void AvvertiNonCaricato(const Documento& documento);
 // The journal of the code in txtCPer. An unknown code gets a message and the focus back.
 void ControllaPeriodico(Documento& documento);
 

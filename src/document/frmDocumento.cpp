@@ -75,7 +75,7 @@ void frmDocumento::Collega(QPushButton& pulsante, Gestore gestore, const char* i
 
 void frmDocumento::Corri(Gestore gestore) {
   if (!documento_.guasto.isEmpty() && !SenzaDocumento(gestore)) {
-    dialoghi_.Messaggio(DescriviStato(documento_, false));
+    AvvertiNonCaricato(documento_);
     return;
   }
   for (ComboDiCodici* combo : combo_) combo->Conferma();

@@ -1,5 +1,6 @@
 #include "document/salva.h"
 
+#include "document/carica.h"
 #include "document/carica_parti.h"
 #include "document/impronta.h"
 #include "document/numero_documento.h"
@@ -36,9 +37,7 @@ void ScriviTutto(Documento& documento) {
 
 bool SalvaDocumento(Documento& documento) {
   if (!documento.guasto.isEmpty()) {
-    documento.dialoghi.Messaggio(
-        QStringLiteral("Il documento %1 non è stato caricato e non si può salvare. %2")
-            .arg(documento.campi.txtID.trimmed(), documento.guasto));
+    AvvertiNonCaricato(documento);
     return false;
   }
   if (documento.campi.txtCPer.isEmpty()) {

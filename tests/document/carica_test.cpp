@@ -188,7 +188,7 @@ TEST(Carica, ADocumentThatIsNotWholeIsNotShownAndNeverSaved) {
     prova.documento.campi.txtCPer = "ZZZZ";
     EXPECT_FALSE(ComandoSalva(prova.documento) || ComandoDuplica(prova.documento));
     EXPECT_TRUE(prova.dialoghi.UltimoMessaggio().startsWith(
-        "Il documento 1 non è stato caricato e non si può salvare. "));
+        "Il documento 1 non è stato caricato: non si può modificare né salvare. "));
     EXPECT_EQ(RigheTesto(prova.stato.DbArchivio, "TabDocumento"), prima);
     ComandoSposta(prova.documento, Verso::Avanti);
     EXPECT_TRUE(prova.documento.guasto.isEmpty() && campi.txtID == "2");
