@@ -2,11 +2,13 @@
 
 #include <sqlite3.h>
 
+#include <QFileInfo>
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cerrno>
 
+#include "archive/file_nuovo.h"
 #include "archive/scrittura_file.h"
 #include "archive/traduttore.h"
 
@@ -54,13 +56,24 @@ Errore NumeroDi(const SQLite::Exception& guasto) {
   return Errore::SintassiErrata;
 }
 
+// The engine does not say why it could not make its journal: another new file beside tells.
+bool SenzaPosto(const QString& percorso) {
+  if (!QFileInfo(percorso).isFile()) return false;
+  try {
+    const FileNuovo prova(percorso);
+    return false;
+  } catch (const ErroreEsecuzione& errore) {
+    return errore.E(Errore::DiscoPieno);
+  }
+}
+
 }  // namespace
 
 ErroreEsecuzione DaMotore(const SQLite::Exception& guasto, const QString& dettaglio) {
   // The system's reason, which the engine only tells as a failure of the file.
   const bool pieno = ErroreDiScrittura(errno) == Errore::DiscoPieno;
   const int codice = guasto.getErrorCode() & 0xff;
-  if (pieno && (codice == SQLITE_IOERR || codice == SQLITE_CANTOPEN)) {
+  if ((codice == SQLITE_IOERR && pieno) || (codice == SQLITE_CANTOPEN && SenzaPosto(dettaglio))) {
     return ErroreEsecuzione(Errore::DiscoPieno, dettaglio);
   }
   if (guasto.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) {
